@@ -1,0 +1,29 @@
+#!/usr/bin/env bash
+# Installs the Debian packages Wanderkit needs to build, test and run, when any is missing.
+set -euo pipefail
+
+packages=(
+    build-essential cmake pkg-config
+    libsqlite3-dev
+    qt6-base-dev libgl-dev libegl-dev libxkbcommon-dev
+    libgtest-dev libbenchmark-dev
+    fonts-liberation2 fontconfig
+    xvfb xauth
+    tzdata
+)
+
+missing=()
+for p in "${packages[@]}"; do
+    dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
+done
+[ ${#missing[@]} -eq 0 ] && exit 0
+
+sudo=""
+if [ "$(id -u)" -ne 0 ]; then
+    command -v sudo >/dev/null || { echo "Installing ${missing[*]} needs root or sudo." >&2; exit 1; }
+    sudo="sudo"
+fi
+echo "Installing: ${missing[*]}"
+export DEBIAN_FRONTEND=noninteractive
+$sudo apt-get update -qq
+$sudo apt-get install -y -qq --no-install-recommends "${missing[@]}"

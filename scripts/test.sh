@@ -1,0 +1,22 @@
+#!/usr/bin/env bash
+# Builds Wanderkit and runs every test twice: an optimised build, then a build under
+# AddressSanitizer and UndefinedBehaviorSanitizer. Installs missing packages first.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+scripts/install-deps.sh
+
+jobs=$(nproc)
+run_suite() {
+    local dir=$1
+    shift
+    cmake -S . -B "$dir" -DWANDERKIT_WERROR=ON "$@" >/dev/null
+    cmake --build "$dir" -j"$jobs"
+    (cd "$dir" && ctest --output-on-failure -j"$jobs")
+}
+
+echo "== Release build and tests"
+run_suite build -DCMAKE_BUILD_TYPE=RelWithDebInfo -DWANDERKIT_BENCH=ON
+echo "== Sanitizer build and tests"
+ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
+    run_suite build-asan -DCMAKE_BUILD_TYPE=Debug -DWANDERKIT_SANITIZE=ON
+echo "All tests passed."

@@ -1,0 +1,11 @@
+# Fails when a file of the core modules includes a Qt header.
+set(core_modules device text settings store time reference cli)
+foreach(module ${core_modules})
+    file(GLOB_RECURSE files ${ROOT}/${module}/*.h ${ROOT}/${module}/*.cpp)
+    foreach(file ${files})
+        file(STRINGS ${file} hits REGEX "#include <Q")
+        if(hits)
+            message(FATAL_ERROR "${file} includes Qt: ${hits}")
+        endif()
+    endforeach()
+endforeach()

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "FakeDeviceClock.h"
+
+#include <ctime>
+
+FakeDeviceClock::FakeDeviceClock()
+    : FakeDeviceClock(at(2026, 1, 1, 12, 0, 0))
+{
+}
+
+FakeDeviceClock::FakeDeviceClock(const SystemTime& start, std::int32_t bias)
+    : m_now(start)
+    , m_bias(bias)
+{
+}
+
+SystemTime FakeDeviceClock::at(int year, int month, int day, int hour, int minute, int second, int ms)
+{
+    std::tm tm {};
+    tm.tm_year = year - 1900;
+    tm.tm_mon = month - 1;
+    tm.tm_mday = day;
+    tm.tm_hour = hour;
+    tm.tm_min = minute;
+    tm.tm_sec = second;
+    timegm(&tm);
+    SystemTime t;
+    t.year = static_cast<std::uint16_t>(tm.tm_year + 1900);
+    t.month = static_cast<std::uint16_t>(tm.tm_mon + 1);
+    t.day = static_cast<std::uint16_t>(tm.tm_mday);
+    t.dayOfWeek = static_cast<std::uint16_t>(tm.tm_wday);
+    t.hour = static_cast<std::uint16_t>(tm.tm_hour);
+    t.minute = static_cast<std::uint16_t>(tm.tm_min);
+    t.second = static_cast<std::uint16_t>(tm.tm_sec);
+    t.milliseconds = static_cast<std::uint16_t>(ms);
+    return t;
+}
+
+void FakeDeviceClock::advanceSeconds(long long seconds)
+{
+    m_now = at(m_now.year, m_now.month, m_now.day, m_now.hour, m_now.minute,
+        static_cast<int>(m_now.second + seconds), m_now.milliseconds);
+}

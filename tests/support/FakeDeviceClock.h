@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "device/DeviceClock.h"
+
+// A device clock driven by hand: set a time, advance it.
+class FakeDeviceClock final : public DeviceClock
+{
+public:
+    // Starts on Thursday 1 January 2026, 12:00:00.000, bias 0.
+    FakeDeviceClock();
+    explicit FakeDeviceClock(const SystemTime& start, std::int32_t bias = 0);
+
+    // A local time with its day of week filled in; milliseconds default to 0.
+    static SystemTime at(int year, int month, int day, int hour, int minute, int second, int ms = 0);
+
+    SystemTime localTime() const override { return m_now; }
+    std::int32_t standardBias() const override { return m_bias; }
+
+    void set(const SystemTime& now) { m_now = now; }
+    void setBias(std::int32_t bias) { m_bias = bias; }
+    void advanceSeconds(long long seconds);
+    void advanceMinutes(long long minutes) { advanceSeconds(minutes * 60); }
+
+private:
+    SystemTime m_now;
+    std::int32_t m_bias;
+};

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <filesystem>
+#include <string_view>
+
+// A fresh folder under the system's temporary folder, removed with everything in it at the end.
+class TempDir
+{
+public:
+    TempDir();
+    ~TempDir();
+    TempDir(const TempDir&) = delete;
+    TempDir& operator=(const TempDir&) = delete;
+
+    const std::filesystem::path& path() const { return m_path; }
+    // Writes `bytes` to a file below the folder (parent folders created) and returns its path.
+    std::filesystem::path write(const std::filesystem::path& relative, std::string_view bytes) const;
+
+private:
+    std::filesystem::path m_path;
+};
