@@ -60,8 +60,8 @@ bool applyValueOption(StartOptions& o, const std::string& name, const std::strin
 
 std::optional<StartOptions> StartOptions::parse(const std::vector<std::string>& args, std::string& error)
 {
-    static const std::set<std::string> valueOptions {"--size", "--scale", "--state-dir", "--device-root", "--now",
-        "--tour"};
+    static const std::set<std::string> valueOptions {
+        "--size", "--scale", "--state-dir", "--device-root", "--now", "--tour"};
     StartOptions o;
     for (std::size_t i = 0; i < args.size(); ++i) {
         std::string arg = args[i];

@@ -5,8 +5,7 @@
 
 DevicePaths::DevicePaths(std::filesystem::path root)
     : m_root(std::move(root))
-{
-}
+{ }
 
 std::optional<std::filesystem::path> DevicePaths::hostPath(std::wstring_view devicePath) const
 {

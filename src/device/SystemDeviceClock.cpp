@@ -71,8 +71,8 @@ std::optional<SystemTime> SystemDeviceClock::parseLocalTime(const char* text)
     char tail = 0;
     if (std::sscanf(text, "%4d-%2d-%2d %2d:%2d:%2d%c", &y, &mo, &d, &h, &mi, &s, &tail) != 6)
         return std::nullopt;
-    if (y < 1601 || y > 30827 || mo < 1 || mo > 12 || d < 1 || d > 31 || h > 23 || mi > 59 || s > 59 || h < 0
-        || mi < 0 || s < 0)
+    if (y < 1601 || y > 30827 || mo < 1 || mo > 12 || d < 1 || d > 31 || h > 23 || mi > 59 || s > 59 || h < 0 || mi < 0
+        || s < 0)
         return std::nullopt;
     SystemTime t;
     t.year = static_cast<std::uint16_t>(y);

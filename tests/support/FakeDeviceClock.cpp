@@ -5,14 +5,12 @@
 
 FakeDeviceClock::FakeDeviceClock()
     : FakeDeviceClock(at(2026, 1, 1, 12, 0, 0))
-{
-}
+{ }
 
 FakeDeviceClock::FakeDeviceClock(const SystemTime& start, std::int32_t bias)
     : m_now(start)
     , m_bias(bias)
-{
-}
+{ }
 
 SystemTime FakeDeviceClock::at(int year, int month, int day, int hour, int minute, int second, int ms)
 {
@@ -38,6 +36,6 @@ SystemTime FakeDeviceClock::at(int year, int month, int day, int hour, int minut
 
 void FakeDeviceClock::advanceSeconds(long long seconds)
 {
-    m_now = at(m_now.year, m_now.month, m_now.day, m_now.hour, m_now.minute,
-        static_cast<int>(m_now.second + seconds), m_now.milliseconds);
+    m_now = at(m_now.year, m_now.month, m_now.day, m_now.hour, m_now.minute, static_cast<int>(m_now.second + seconds),
+        m_now.milliseconds);
 }

@@ -3,9 +3,8 @@
 
 #include <fstream>
 #include <stdexcept>
-#include <string>
-
 #include <stdlib.h>
+#include <string>
 
 TempDir::TempDir()
 {

@@ -11,8 +11,16 @@ TEST(WideText, NumbersConvertAsTheCLibraryDoes)
         std::int32_t value;
     };
     const WtolCase wtol[] = {
-        {L"530", 530}, {L"-330", -330}, {L"  +7", 7}, {L"12abc", 12}, {L"abc", 0}, {L"", 0},
-        {L"99999999999", 2147483647}, {L"-99999999999", -2147483647 - 1}, {L"1\r", 1}, {L"0:88", 0},
+        {L"530", 530},
+        {L"-330", -330},
+        {L"  +7", 7},
+        {L"12abc", 12},
+        {L"abc", 0},
+        {L"", 0},
+        {L"99999999999", 2147483647},
+        {L"-99999999999", -2147483647 - 1},
+        {L"1\r", 1},
+        {L"0:88", 0},
     };
     for (const auto& c : wtol)
         EXPECT_EQ(Wtol(c.text), c.value) << std::string(c.text.begin(), c.text.end());
@@ -23,7 +31,12 @@ TEST(WideText, NumbersConvertAsTheCLibraryDoes)
         double value;
     };
     const WcstodCase wcstod[] = {
-        {L"1.0e-9", 1.0e-9}, {L"907,18474", 907.0}, {L"  0.5x", 0.5}, {L"-", 0.0}, {L"", 0.0}, {L"1609.344", 1609.344},
+        {L"1.0e-9", 1.0e-9},
+        {L"907,18474", 907.0},
+        {L"  0.5x", 0.5},
+        {L"-", 0.0},
+        {L"", 0.0},
+        {L"1609.344", 1609.344},
     };
     for (const auto& c : wcstod)
         EXPECT_DOUBLE_EQ(Wcstod(c.text), c.value) << std::string(c.text.begin(), c.text.end());
@@ -44,7 +57,9 @@ TEST(WideText, ConvertsBetweenEncodings)
     const std::wstring text = L"\u00B5m\u00B2 \u00B0C \u20AC \U0001F30D";
     EXPECT_EQ(Utf8ToWide(WideToUtf8(text)), text);
     EXPECT_EQ(WideToUtf8(L"\u00B0"), "\xC2\xB0");
-    EXPECT_EQ(Utf8ToWide("a\xFF" "b"), L"a\uFFFDb");
+    EXPECT_EQ(Utf8ToWide("a\xFF"
+                         "b"),
+        L"a\uFFFDb");
 }
 
 TEST(WideText, FoldsLatin1Case)

@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/ServicesApp.h"
+
+#include "ui/Commands.h"
+#include "ui/Icons.h"
+#include "ui/MessageBox.h"
+#include "ui/Painting.h"
+#include "ui/Spinner.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+namespace {
+
+constexpr int LauncherMenuBar = 107;
+constexpr int Columns = 4;
+// String ids of the service labels, in selection order.
+constexpr std::array<int, ServicesApp::ServiceCount> LabelIds {40008, 40009, 40025, 40034, 40044, 40045, 40046, 40047};
+
+} // namespace
+
+ServicesApp::ServicesApp(ScreenEnvironment& environment, DeviceWindow& window)
+    : Screen(environment, window, LauncherMenuBar, QStringLiteral("launcher"))
+    , m_selector(new Spinner(this))
+{
+    m_selector->setObjectName(QStringLiteral("serviceSpinner"));
+    m_selector->setWrapping(true);
+    watchSpinner(*m_selector);
+}
+
+ServicesApp::~ServicesApp() = default;
+
+int ServicesApp::selection() const
+{
+    return m_selector->currentIndex();
+}
+
+Screen* ServicesApp::serviceScreen(int index) const
+{
+    return index >= 0 && index < ServiceCount ? m_screens[static_cast<std::size_t>(index)].get() : nullptr;
+}
+
+void ServicesApp::initialise()
+{
+    m_leftPressed = false;
+    m_rightPressed = false;
+    m_labelFont = Painting::makeFont(25, Painting::Bold);
+    m_selector->clear();
+    for (std::size_t i = 0; i < LabelIds.size(); ++i) {
+        m_labels[i] = Painting::loadString(LabelIds[i]);
+        m_selector->addItem(m_labels[i]);
+    }
+    m_selector->setCurrentIndex(0);
+    m_selector->setFocus();
+}
+
+void ServicesApp::layout(int width, int height)
+{
+    m_selector->hideAt(width - 25, 10);
+    m_labelBand = QRect(0, height - 40, width, 40);
+}
+
+int ServicesApp::iconX(int index) const
+{
+    const int width = workWidth();
+    const int cell = width / Columns;
+    return (index % Columns) * width / Columns + (cell - 16) / 2;
+}
+
+int ServicesApp::iconY(int index) const
+{
+    return index / Columns == 0 ? 50 : 80;
+}
+
+QRect ServicesApp::highlightRect() const
+{
+    const int index = selection();
+    if (index < 0)
+        return {};
+    const int x = iconX(index);
+    return QRect(x - 2, iconY(index) - 2, 20, 20);
+}
+
+void ServicesApp::paint(QPainter& painter)
+{
+    const int width = workWidth();
+    const int height = workHeight();
+    for (int i = 0; i < ServiceCount; ++i)
+        Icons::draw(painter, Icons::Service, iconX(i), iconY(i), 16);
+    Icons::draw(painter, Icons::Service, (width - 32) / 2, height - 124, 32);
+    Icons::draw(painter, Icons::LeftArrow, 20, m_leftPressed ? height - 34 : height - 30, m_leftPressed ? 24 : 16);
+    Icons::draw(
+        painter, Icons::RightArrow, width - 35, m_rightPressed ? height - 34 : height - 30, m_rightPressed ? 24 : 16);
+
+    if (const QRect edge = highlightRect(); !edge.isNull())
+        Painting::drawRaisedEdge(
+            painter, edge.left(), edge.top(), edge.left() + edge.width(), edge.top() + edge.height());
+
+    const QString label = m_labels[static_cast<std::size_t>(std::max(0, selection()))];
+    painter.setFont(m_labelFont);
+    painter.setPen(Painting::White);
+    const QFontMetrics metrics(m_labelFont);
+    painter.drawText((width - metrics.horizontalAdvance(label)) / 2, height - 35 + metrics.ascent(), label);
+}
+
+void ServicesApp::spinnerDelta(Spinner&, int delta)
+{
+    if (delta < 0) {
+        m_leftPressed = true;
+        startScreenTimer(LeftArrowTimer, 250);
+    } else if (delta >= 1) {
+        m_rightPressed = true;
+        startScreenTimer(RightArrowTimer, 250);
+    }
+    update();
+}
+
+void ServicesApp::timerTick(int)
+{
+    // Either timer ends the feedback of both arrows: the timers act as one-shots.
+    if (m_leftPressed) {
+        m_leftPressed = false;
+        stopScreenTimer(LeftArrowTimer);
+    }
+    if (m_rightPressed) {
+        m_rightPressed = false;
+        stopScreenTimer(RightArrowTimer);
+    }
+    update(m_labelBand);
+}
+
+void ServicesApp::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down) {
+        Screen::keyPressEvent(event);
+        return;
+    }
+    MessageBox::show(this, QStringLiteral("e"), QString());
+    update();
+}
+
+void ServicesApp::command(int id)
+{
+    if (id == Commands::Ok)
+        openService(selection());
+    else if (id == Commands::Exit)
+        exitProgram();
+}
+
+void ServicesApp::openService(int index)
+{
+    if (Screen* screen = serviceScreen(index))
+        runModal(*screen);
+}
+
+void ServicesApp::destroyWork() { }

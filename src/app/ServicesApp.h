@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "ui/Screen.h"
+
+#include <QFont>
+
+#include <array>
+#include <memory>
+
+class Spinner;
+
+// The Services launcher and the application object: it owns the data stores and every screen for
+// the life of the program, shows the eight services as a grid of icons and opens the chosen one.
+class ServicesApp final : public Screen
+{
+    Q_OBJECT
+
+public:
+    static constexpr int ServiceCount = 8;
+
+    ServicesApp(ScreenEnvironment& environment, DeviceWindow& window);
+    ~ServicesApp() override;
+
+    int selection() const;
+    bool leftArrowPressed() const { return m_leftPressed; }
+    bool rightArrowPressed() const { return m_rightPressed; }
+    // The highlight around the selected icon: left, top and the exclusive right and bottom edges.
+    QRect highlightRect() const;
+    // The screen a service opens; nullptr for "Todo List" and services not built yet.
+    Screen* serviceScreen(int index) const;
+
+protected:
+    void initialise() override;
+    void layout(int width, int height) override;
+    void paint(QPainter& painter) override;
+    void timerTick(int id) override;
+    void destroyWork() override;
+    void command(int id) override;
+    void spinnerDelta(Spinner& spinner, int delta) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    static constexpr int LeftArrowTimer = 1;
+    static constexpr int RightArrowTimer = 2;
+
+    int iconX(int index) const;
+    int iconY(int index) const;
+    void openService(int index);
+
+    Spinner* m_selector;
+    std::array<QString, ServiceCount> m_labels;
+    QRect m_labelBand;
+    bool m_leftPressed = false;
+    bool m_rightPressed = false;
+    QFont m_labelFont;
+    std::array<std::unique_ptr<Screen>, ServiceCount> m_screens;
+};

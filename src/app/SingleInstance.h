@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+class QLocalServer;
+
+// One running Wanderkit per user: the first start listens on a local socket, a later start asks it
+// to come to the front and leaves.
+class SingleInstance final : public QObject
+{
+    Q_OBJECT
+
+public:
+    static constexpr const char* SocketName = "{Wanderkit-91F5D741-4E63-4642-A05A-E4AC57871578}";
+
+    explicit SingleInstance(QObject* parent = nullptr);
+
+    // The socket's path: in $XDG_RUNTIME_DIR, else in a private folder of the user's under /tmp.
+    static QString socketPath();
+    // True when this is the only instance (it now listens); false when another one was asked to come
+    // forward.
+    bool claim();
+
+signals:
+    void raiseRequested();
+
+private:
+    QLocalServer* m_server = nullptr;
+};

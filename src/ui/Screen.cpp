@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/Screen.h"
+
+#include "device/DevicePaths.h"
+#include "ui/Commands.h"
+#include "ui/DeviceWindow.h"
+#include "ui/Painting.h"
+#include "ui/Spinner.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QTimer>
+
+Screen::Screen(ScreenEnvironment& environment, DeviceWindow& window, int menuBarId, QString name)
+    : m_environment(environment)
+    , m_window(window)
+    , m_menuBarId(menuBarId)
+    , m_name(std::move(name))
+{
+    setObjectName(m_name + QStringLiteral("Screen"));
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    hide();
+}
+
+Screen::~Screen() = default;
+
+void Screen::sendCommand(int command)
+{
+    if (m_running && !m_ended)
+        this->command(command);
+}
+
+int Screen::runModal(Screen& screen)
+{
+    return m_window.run(screen);
+}
+
+void Screen::layout(int, int) { }
+
+void Screen::paint(QPainter&) { }
+
+void Screen::timerTick(int) { }
+
+void Screen::spinnerDelta(Spinner&, int) { }
+
+void Screen::eraseBackground(QPainter& painter)
+{
+    Painting::drawGradient(painter, workWidth(), workHeight());
+    if (!m_picture.isNull())
+        painter.drawImage(QRect(0, 0, workWidth(), workHeight()), m_picture);
+}
+
+void Screen::command(int id)
+{
+    if (id == Commands::Services || id == Commands::Done)
+        endScreen(0);
+    else if (id == Commands::Exit)
+        exitProgram();
+}
+
+int Screen::workWidth() const
+{
+    return m_window.workArea().width();
+}
+
+int Screen::workHeight() const
+{
+    return m_window.workArea().height();
+}
+
+void Screen::startScreenTimer(int id, int milliseconds)
+{
+    QTimer*& timer = m_timers[id];
+    if (!timer) {
+        timer = new QTimer(this);
+        connect(timer, &QTimer::timeout, this, [this, id] {
+            if (m_running && !m_ended)
+                timerTick(id);
+        });
+    }
+    timer->start(milliseconds);
+}
+
+void Screen::stopScreenTimer(int id)
+{
+    if (const auto it = m_timers.find(id); it != m_timers.end())
+        it->second->stop();
+}
+
+void Screen::endScreen(int result)
+{
+    if (m_ended)
+        return;
+    m_ended = true;
+    m_result = result;
+    m_window.screenEnded(*this);
+}
+
+void Screen::exitProgram()
+{
+    m_window.exitAll();
+}
+
+void Screen::watchSpinner(Spinner& spinner)
+{
+    connect(&spinner, &Spinner::deltaRequested, this, [this, &spinner](int delta) {
+        if (m_running && !m_ended)
+            spinnerDelta(spinner, delta);
+    });
+}
+
+bool Screen::beginRun(SoftKeyBar& softKeys)
+{
+    m_softKeys = &softKeys;
+    m_running = true;
+    m_ended = false;
+    m_result = 0;
+    m_picture = QImage();
+    if (m_pictureName) {
+        if (const auto path = m_environment.paths.hostPath(DevicePaths::joinedName(m_pictureName)))
+            m_picture.load(QString::fromStdString(path->string()));
+    }
+    initialise();
+    if (!m_ended)
+        layout(workWidth(), workHeight());
+    return !m_ended;
+}
+
+int Screen::finishRun()
+{
+    for (auto& [id, timer] : m_timers)
+        timer->stop();
+    destroyWork();
+    m_running = false;
+    m_softKeys = nullptr;
+    m_picture = QImage();
+    return m_result;
+}
+
+void Screen::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    eraseBackground(painter);
+    paint(painter);
+    emit painted();
+}
+
+void Screen::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    if (m_running && !m_ended)
+        layout(workWidth(), workHeight());
+}
+
+void Screen::keyPressEvent(QKeyEvent* event)
+{
+    // Up and down move between the screen's controls, as the direction pad does in a dialog.
+    if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down) {
+        focusNextPrevChild(event->key() == Qt::Key_Down);
+        return;
+    }
+    QWidget::keyPressEvent(event);
+}

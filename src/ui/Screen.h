@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "ui/ScreenEnvironment.h"
+
+#include <QImage>
+#include <QWidget>
+
+#include <map>
+
+class DeviceWindow;
+class QTimer;
+class SoftKeyBar;
+class Spinner;
+
+// A screen of the program: a modal, full-work-area page with its own soft-key bar. The object lives
+// for the whole run of the program; each time it is shown, the framework calls its hooks in the order
+// initialise, layout (and again on every size change), paint; timers and commands while it runs;
+// destroyWork exactly once when it ends ("Services", "Done", "Exit" or its own end).
+class Screen : public QWidget
+{
+    Q_OBJECT
+
+public:
+    Screen(ScreenEnvironment& environment, DeviceWindow& window, int menuBarId, QString name);
+    ~Screen() override;
+
+    int menuBarId() const { return m_menuBarId; }
+    // Short name, used for the rendered tour ("launcher", "worldclock", ...).
+    const QString& screenName() const { return m_name; }
+    bool isRunning() const { return m_running; }
+    // This run's soft-key bar; nullptr while the screen is not shown.
+    SoftKeyBar* softKeys() const { return m_softKeys; }
+
+    // Delivers a command, as the soft keys, their popups and the action key do.
+    void sendCommand(int command);
+    // Opens `screen` modally over this one and returns its result once it has ended.
+    int runModal(Screen& screen);
+    // Ends this screen's run with `result`; its destroy work follows once.
+    void endScreen(int result = 0);
+    // What a rendered tour does on this screen after taking its picture (open a dialog, say).
+    virtual void tourVisit() { }
+
+protected:
+    // Hooks each screen states. A screen that cannot open calls endScreen() from initialise().
+    virtual void initialise() { }
+    virtual void layout(int width, int height);
+    virtual void paint(QPainter& painter);
+    // Default: the 30-band gradient, then the background picture if the screen has one.
+    virtual void eraseBackground(QPainter& painter);
+    virtual void timerTick(int id);
+    virtual void destroyWork() { }
+    // Default: "Services" and "Done" end the screen, "Exit" ends the program.
+    virtual void command(int id);
+    virtual void spinnerDelta(Spinner& spinner, int delta);
+
+    ScreenEnvironment& environment() const { return m_environment; }
+    DeviceWindow& window() const { return m_window; }
+    int workWidth() const;
+    int workHeight() const;
+
+    // A one-shot or repeating timer by id; starting a running id restarts it.
+    void startScreenTimer(int id, int milliseconds);
+    void stopScreenTimer(int id);
+    void exitProgram();
+    // Reports the spinner's steps to spinnerDelta().
+    void watchSpinner(Spinner& spinner);
+    // The background picture, found beside the program by the joined-name rule; loaded by each run.
+    void setBackgroundPicture(const wchar_t* fileName) { m_pictureName = fileName; }
+    const QImage& backgroundPicture() const { return m_picture; }
+
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+signals:
+    void painted();
+
+private:
+    friend class DeviceWindow;
+    // Called by the window around a run.
+    bool beginRun(SoftKeyBar& softKeys);
+    int finishRun();
+    bool hasEnded() const { return m_ended; }
+
+    ScreenEnvironment& m_environment;
+    DeviceWindow& m_window;
+    int m_menuBarId;
+    QString m_name;
+    SoftKeyBar* m_softKeys = nullptr;
+    bool m_running = false;
+    bool m_ended = false;
+    int m_result = 0;
+    const wchar_t* m_pictureName = nullptr;
+    QImage m_picture;
+    std::map<int, QTimer*> m_timers;
+};

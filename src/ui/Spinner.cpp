@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/Spinner.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QPainterPath>
+
+Spinner::Spinner(QWidget* parent, Orientation orientation)
+    : QWidget(parent)
+    , m_orientation(orientation)
+{
+    setObjectName(QStringLiteral("spinner"));
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+void Spinner::addItem(const QString& text)
+{
+    m_items.append(text);
+    update();
+}
+
+void Spinner::setItems(const QStringList& items)
+{
+    m_items = items;
+    m_current = -1;
+    update();
+}
+
+void Spinner::removeItem(int index)
+{
+    if (index < 0 || index >= count())
+        return;
+    m_items.removeAt(index);
+    if (m_current >= count())
+        m_current = -1;
+    update();
+}
+
+void Spinner::clear()
+{
+    m_items.clear();
+    m_current = -1;
+    update();
+}
+
+QString Spinner::itemText(int index) const
+{
+    return index >= 0 && index < count() ? m_items.at(index) : QString();
+}
+
+void Spinner::setCurrentIndex(int index)
+{
+    m_current = index >= 0 && index < count() ? index : -1;
+    update();
+}
+
+void Spinner::step(int delta)
+{
+    emit deltaRequested(delta);
+    if (count() == 0 || delta == 0)
+        return;
+    int next = m_current < 0 ? 0 : m_current + delta;
+    if (next < 0 || next >= count()) {
+        if (!m_wrapping)
+            return;
+        next = ((next % count()) + count()) % count();
+    }
+    if (next == m_current)
+        return;
+    m_current = next;
+    update();
+    emit currentChanged(m_current);
+}
+
+void Spinner::hideAt(int x, int y)
+{
+    setGeometry(x, y, 0, 0);
+}
+
+QSize Spinner::sizeHint() const
+{
+    return {120, 24};
+}
+
+void Spinner::keyPressEvent(QKeyEvent* event)
+{
+    const bool vertical = m_orientation == Orientation::Vertical;
+    switch (event->key()) {
+    case Qt::Key_Left:
+        step(-1);
+        return;
+    case Qt::Key_Right:
+        step(1);
+        return;
+    case Qt::Key_Up:
+        vertical ? step(-1) : event->ignore();
+        return;
+    case Qt::Key_Down:
+        vertical ? step(1) : event->ignore();
+        return;
+    default:
+        // Like a focused list box, the spinner keeps the keys it does not use.
+        event->accept();
+    }
+}
+
+void Spinner::mousePressEvent(QMouseEvent* event)
+{
+    setFocus(Qt::MouseFocusReason);
+    const int buttonsLeft = width() - ButtonWidth;
+    const int x = qRound(event->position().x());
+    if (x >= buttonsLeft)
+        step(x < buttonsLeft + ButtonWidth / 2 ? -1 : 1);
+}
+
+void Spinner::paintEvent(QPaintEvent*)
+{
+    if (width() == 0 || height() == 0)
+        return;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRect box = rect().adjusted(0, 0, -ButtonWidth, 0);
+    painter.fillRect(box, Qt::white);
+    painter.setPen(hasFocus() ? QColor(0, 120, 215) : QColor(120, 120, 120));
+    painter.drawRect(box.adjusted(0, 0, -1, -1));
+    painter.setPen(Qt::black);
+    painter.setFont(font());
+    painter.drawText(box.adjusted(4, 0, -2, 0), Qt::AlignLeft | Qt::AlignVCenter, currentText());
+
+    const QRect buttons(box.right() + 1, 0, ButtonWidth, height());
+    painter.fillRect(buttons, QColor(225, 232, 240));
+    painter.setPen(QColor(120, 120, 120));
+    painter.drawRect(buttons.adjusted(0, 0, -1, -1));
+    const int mid = buttons.center().y();
+    const qreal half = ButtonWidth / 2.0;
+    for (int side = 0; side < 2; ++side) {
+        const qreal cx = buttons.left() + half * side + half / 2;
+        const qreal dir = side == 0 ? -1 : 1;
+        QPainterPath arrow;
+        arrow.moveTo(cx + 3 * dir, mid);
+        arrow.lineTo(cx - 2 * dir, mid - 4);
+        arrow.lineTo(cx - 2 * dir, mid + 4);
+        arrow.closeSubpath();
+        painter.fillPath(arrow, QColor(40, 60, 90));
+    }
+}

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QStringList>
+#include <QWidget>
+
+// A one-line list with stepping: the handheld's list box and up-down pair. Left/Right step it
+// (Up/Down too when it is vertical). Each step first reports its delta, then moves the selection
+// (wrapping when asked). Hidden spinners are only there to catch the keys.
+class Spinner final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    enum class Orientation { Horizontal, Vertical };
+    static constexpr int ButtonWidth = 25;
+
+    explicit Spinner(QWidget* parent = nullptr, Orientation orientation = Orientation::Horizontal);
+
+    void addItem(const QString& text);
+    void setItems(const QStringList& items);
+    void removeItem(int index);
+    void clear();
+    int count() const { return static_cast<int>(m_items.size()); }
+    QString itemText(int index) const;
+    const QStringList& items() const { return m_items; }
+
+    // -1 when nothing is selected; an index beyond the list selects nothing.
+    int currentIndex() const { return m_current; }
+    QString currentText() const { return itemText(m_current); }
+    void setCurrentIndex(int index);
+
+    void setWrapping(bool wrapping) { m_wrapping = wrapping; }
+    // A step as the user makes it: reports the delta, then moves the selection.
+    void step(int delta);
+
+    // Placed where no one sees it: at (x, y) with size 0 x 0, still taking the focus and the keys.
+    void hideAt(int x, int y);
+
+    QSize sizeHint() const override;
+
+signals:
+    void deltaRequested(int delta);
+    void currentChanged(int index);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QStringList m_items;
+    int m_current = -1;
+    bool m_wrapping = false;
+    Orientation m_orientation;
+};

@@ -1,0 +1,295 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ScreenTestBench.h"
+#include "ui/Commands.h"
+#include "ui/MenuBars.h"
+#include "ui/Painting.h"
+#include "ui/Screen.h"
+#include "ui/SoftKeyBar.h"
+#include "ui/Spinner.h"
+
+#include <QMenu>
+#include <QPainter>
+#include <QTest>
+
+namespace {
+
+// A screen that records which hooks ran, for checking the framework's order and counts.
+class ProbeScreen final : public Screen
+{
+public:
+    ProbeScreen(ScreenEnvironment& environment, DeviceWindow& window, int menuBar, const QString& name)
+        : Screen(environment, window, menuBar, name)
+    { }
+
+    int initialised = 0;
+    int destroyed = 0;
+    QList<QSize> layouts;
+    QList<int> commands;
+    std::function<void()> onDestroy;
+    using Screen::setBackgroundPicture;
+    using Screen::startScreenTimer;
+    int ticks = 0;
+
+protected:
+    void initialise() override { ++initialised; }
+    void layout(int width, int height) override { layouts.append(QSize(width, height)); }
+    void destroyWork() override
+    {
+        ++destroyed;
+        if (onDestroy)
+            onDestroy();
+    }
+    void timerTick(int) override { ++ticks; }
+    void command(int id) override
+    {
+        commands.append(id);
+        Screen::command(id);
+    }
+};
+
+QColor pixel(const QImage& image, int x, int y)
+{
+    return image.pixelColor(x, y);
+}
+
+} // namespace
+
+class ScreenFrameworkTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void servicesEndsTheScreenAndRunsItsDestroyWorkOnce()
+    {
+        ScreenTestBench bench;
+        ProbeScreen screen(bench.environment, bench.window, 101, QStringLiteral("probe"));
+        for (int visit = 1; visit <= 3; ++visit) {
+            const int result = bench.run(screen, [&] { bench.window.topSoftKeys()->pressLeft(); });
+            QCOMPARE(result, 0);
+            QCOMPARE(screen.initialised, visit);
+            QCOMPARE(screen.destroyed, visit);
+            QVERIFY(!screen.isRunning());
+        }
+        QCOMPARE(screen.layouts.first(), QSize(240, 268));
+    }
+
+    void exitFromANestedDialogUnwindsEveryRunInnermostFirst()
+    {
+        ScreenTestBench bench;
+        ProbeScreen outer(bench.environment, bench.window, 107, QStringLiteral("outer"));
+        ProbeScreen middle(bench.environment, bench.window, 101, QStringLiteral("middle"));
+        ProbeScreen inner(bench.environment, bench.window, 106, QStringLiteral("inner"));
+        QStringList order;
+        outer.onDestroy = [&] { order << QStringLiteral("outer"); };
+        middle.onDestroy = [&] { order << QStringLiteral("middle"); };
+        inner.onDestroy = [&] { order << QStringLiteral("inner"); };
+        bool afterNested = false;
+        bench.run(outer, [&] {
+            bench.run(middle, [&] {
+                bench.run(inner, [&] { bench.window.exitAll(); });
+                afterNested = true;
+            });
+        });
+        QVERIFY(afterNested);
+        QCOMPARE(order, (QStringList {QStringLiteral("inner"), QStringLiteral("middle"), QStringLiteral("outer")}));
+        QVERIFY(bench.window.isExiting());
+        // Nothing opens once the program is ending.
+        QCOMPARE(bench.window.run(middle), 0);
+        QCOMPARE(middle.initialised, 1);
+    }
+
+    void exitCommandFromAScreenMenuEndsTheProgram()
+    {
+        ScreenTestBench bench;
+        ProbeScreen launcher(bench.environment, bench.window, 107, QStringLiteral("launcher"));
+        ProbeScreen screen(bench.environment, bench.window, 112, QStringLiteral("screen"));
+        bench.run(
+            launcher, [&] { bench.run(screen, [&] { bench.window.topSoftKeys()->chooseItem(Commands::Exit); }); });
+        QCOMPARE(screen.commands, QList<int> {Commands::Exit});
+        QCOMPARE(screen.destroyed, 1);
+        QCOMPARE(launcher.destroyed, 1);
+    }
+
+    void deviceKeysPressSoftKeysAndTheActionKey()
+    {
+        ScreenTestBench bench;
+        ProbeScreen screen(bench.environment, bench.window, 111, QStringLiteral("probe"));
+        bench.run(screen, [&] {
+            QTest::keyClick(&screen, Qt::Key_Return);
+            QTest::keyClick(&screen, Qt::Key_F2); // "Add", a plain key
+            QTest::keyClick(&screen, Qt::Key_F1); // "Done"
+        });
+        QCOMPARE(screen.commands, (QList<int> {Commands::Ok, Commands::Add, Commands::Done}));
+    }
+
+    void softKeysGreyAndCheck()
+    {
+        ScreenTestBench bench;
+        ProbeScreen screen(bench.environment, bench.window, 101, QStringLiteral("probe"));
+        bench.run(screen, [&] {
+            SoftKeyBar* keys = screen.softKeys();
+            QCOMPARE(keys->keyText(0), QStringLiteral("Services"));
+            QCOMPARE(keys->keyText(1), QStringLiteral("Menu"));
+            QVERIFY(!keys->isItemChecked(Commands::TwelveHourClocks));
+            keys->setItemChecked(Commands::TwelveHourClocks, true);
+            QVERIFY(keys->isItemChecked(Commands::TwelveHourClocks));
+            keys->setItemEnabled(Commands::TwelveHourClocks, false);
+            keys->chooseItem(Commands::TwelveHourClocks); // greyed: nothing happens
+            QVERIFY(screen.commands.isEmpty());
+            keys->setKeyEnabled(Commands::Services, false);
+            keys->pressLeft(); // disabled: nothing happens
+            QVERIFY(screen.commands.isEmpty());
+            keys->setKeyEnabled(Commands::Services, true);
+            keys->pressLeft();
+        });
+        QCOMPARE(screen.commands, QList<int> {Commands::Services});
+    }
+
+    void everyMenuBarHasItsKeysAndPopups()
+    {
+        struct Case
+        {
+            int id;
+            const char* left;
+            bool leftEnabled;
+            const char* right;
+            std::vector<const char*> items;
+        };
+        const std::vector<Case> cases {
+            {101, "Services", true, "Menu", {"Twelve Hours Clocks", "", "Exit"}},
+            {106, "Done", true, "", {}},
+            {107, "Services", false, "Menu", {"Exit"}},
+            {108, "Services", true, "Menu", {"Show cities on Map", "Change City", "Weather Forecast", "", "Exit"}},
+            {109, "Services", true, "Menu", {"Update rates", "Clear", "Change currency", "", "Exit"}},
+            {110, "Services", true, "Menu", {"Update Forecast", "Change City", "", "Exit"}},
+            {111, "Done", true, "Add", {}},
+            {112, "Services", true, "Menu", {"Undo", "Clear", "", "Exit"}},
+        };
+        for (const Case& c : cases) {
+            const MenuBarSpec* spec = MenuBars::find(c.id);
+            QVERIFY2(spec, qPrintable(QString::number(c.id)));
+            SoftKeyBar bar(*spec);
+            QCOMPARE(bar.keyText(0), QString::fromUtf8(c.left));
+            QCOMPARE(bar.keyText(1), QString::fromUtf8(c.right));
+            QCOMPARE(bar.isKeyEnabled(spec->left.command), c.leftEnabled);
+            QStringList expected;
+            for (const char* item : c.items)
+                expected << QString::fromUtf8(item);
+            QStringList items;
+            if (QMenu* menu = bar.popup()) {
+                for (QAction* action : menu->actions())
+                    items << (action->isSeparator() ? QString() : action->text());
+            }
+            QCOMPARE(items, expected);
+        }
+        QVERIFY(!MenuBars::find(100));
+    }
+
+    void rotationLaysEveryRunningScreenOutAgain()
+    {
+        ScreenTestBench bench;
+        ProbeScreen outer(bench.environment, bench.window, 107, QStringLiteral("outer"));
+        ProbeScreen inner(bench.environment, bench.window, 106, QStringLiteral("inner"));
+        bench.run(outer, [&] {
+            bench.run(inner, [&] {
+                QTest::keyClick(&inner, Qt::Key_R, Qt::ControlModifier);
+                QCOMPARE(bench.window.workArea(), QSize(268, 240));
+                QCOMPARE(bench.window.size(), QSize(268, 240 + SoftKeyBar::BarHeight));
+                inner.endScreen();
+            });
+            outer.endScreen();
+        });
+        QCOMPARE(inner.layouts.last(), QSize(268, 240));
+        QCOMPARE(outer.layouts.last(), QSize(268, 240));
+    }
+
+    void gradientBandsAndAMissingPicture()
+    {
+        ScreenTestBench bench;
+        ProbeScreen screen(bench.environment, bench.window, 112, QStringLiteral("probe"));
+        screen.setBackgroundPicture(L"bconv.jpg"); // not in the device root
+        QImage image;
+        bench.run(screen, [&] {
+            image = bench.render();
+            screen.endScreen();
+        });
+        QCOMPARE(pixel(image, 0, 267), QColor(85, 121, 151));
+        QCOMPARE(pixel(image, 239, 0), QColor(114, 150, 180));
+        // Band i starts at H * (30 - i) / 30: band 2 begins at row 250, band 1 at row 259.
+        QCOMPARE(pixel(image, 100, 250), QColor(86, 122, 152));
+        QCOMPARE(pixel(image, 100, 259), QColor(85, 121, 151));
+    }
+
+    void aBackgroundPictureIsFoundByItsJoinedName()
+    {
+        ScreenTestBench bench;
+        QImage red(240, 268, QImage::Format_RGB32);
+        red.fill(QColor(200, 0, 0));
+        QVERIFY(red.save(QString::fromStdString((bench.root.path() / "back.jpg").string()), "JPG", 100));
+        ProbeScreen screen(bench.environment, bench.window, 101, QStringLiteral("probe"));
+        screen.setBackgroundPicture(L"back.jpg");
+        QImage image;
+        bench.run(screen, [&] {
+            image = bench.render();
+            screen.endScreen();
+        });
+        const QColor centre = pixel(image, 120, 134);
+        QVERIFY2(centre.red() > 180 && centre.green() < 30, qPrintable(centre.name()));
+    }
+
+    void timersTickOnlyWhileTheScreenRuns()
+    {
+        ScreenTestBench bench;
+        ProbeScreen screen(bench.environment, bench.window, 101, QStringLiteral("probe"));
+        bench.run(screen, [&] {
+            screen.startScreenTimer(1, 10);
+            QTRY_VERIFY(screen.ticks >= 2);
+            screen.endScreen();
+        });
+        const int ticks = screen.ticks;
+        QTest::qWait(50);
+        QCOMPARE(screen.ticks, ticks);
+    }
+
+    void spinnersStepReportAndWrap()
+    {
+        Spinner spinner;
+        QList<int> deltas;
+        QList<int> changes;
+        connect(&spinner, &Spinner::deltaRequested, this, [&](int d) { deltas << d; });
+        connect(&spinner, &Spinner::currentChanged, this, [&](int i) { changes << i; });
+        spinner.setItems({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
+        spinner.setCurrentIndex(0);
+        spinner.step(-1); // no wrapping: stays on the first item, the delta is still reported
+        QCOMPARE(spinner.currentIndex(), 0);
+        spinner.setWrapping(true);
+        spinner.step(-1);
+        QCOMPARE(spinner.currentIndex(), 2);
+        spinner.step(1);
+        QCOMPARE(spinner.currentIndex(), 0);
+        QCOMPARE(deltas, (QList<int> {-1, -1, 1}));
+        QCOMPARE(changes, (QList<int> {2, 0}));
+        spinner.setCurrentIndex(7); // beyond the end: nothing selected
+        QCOMPARE(spinner.currentIndex(), -1);
+        QCOMPARE(spinner.currentText(), QString());
+    }
+
+    void aHiddenSpinnerTakesTheArrowKeys()
+    {
+        ScreenTestBench bench;
+        ProbeScreen screen(bench.environment, bench.window, 101, QStringLiteral("probe"));
+        Spinner spinner(&screen);
+        spinner.setItems({QStringLiteral("a"), QStringLiteral("b")});
+        spinner.setCurrentIndex(0);
+        bench.run(screen, [&] {
+            spinner.hideAt(215, 10);
+            spinner.setFocus();
+            QTest::keyClick(bench.window.focusWidget(), Qt::Key_Right);
+            screen.endScreen();
+        });
+        QCOMPARE(spinner.currentIndex(), 1);
+    }
+};
+
+QTEST_MAIN(ScreenFrameworkTest)
+#include "ScreenFrameworkTest.moc"

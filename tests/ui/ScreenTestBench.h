@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "FakeDeviceClock.h"
+#include "RecordingMessageSink.h"
+#include "TempDir.h"
+#include "device/DevicePaths.h"
+#include "settings/SettingsHive.h"
+#include "store/ObjectStore.h"
+#include "ui/DeviceWindow.h"
+#include "ui/MessageBox.h"
+#include "ui/ScreenEnvironment.h"
+
+#include <functional>
+#include <memory>
+
+class Screen;
+
+// Everything a screen needs, fresh for each test: a hand-driven clock, a device root in a temporary
+// folder, in-memory state stores, recorded messages and message boxes, and a device window.
+class ScreenTestBench
+{
+public:
+    explicit ScreenTestBench(QSize workArea = QSize(240, 268));
+    ~ScreenTestBench();
+
+    // Runs `screen` modally; `drive` is called once it is shown and must end it (or the program).
+    int run(Screen& screen, const std::function<void()>& drive);
+    // The whole device window, rendered.
+    QImage render();
+
+    TempDir root;
+    FakeDeviceClock clock;
+    DevicePaths paths;
+    std::unique_ptr<SettingsHive> settings;
+    std::unique_ptr<ObjectStore> objects;
+    RecordingMessageSink messages;
+    ScreenEnvironment environment;
+    DeviceWindow window;
+    std::vector<MessageBox::Request> boxes; // message boxes shown, answered with `boxAnswer`
+    QMessageBox::StandardButton boxAnswer = QMessageBox::Ok;
+};

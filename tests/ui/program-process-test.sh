@@ -1,0 +1,64 @@
+#!/usr/bin/env bash
+# The program as a process: usage errors, an unusable state folder, the single instance and the tour.
+set -u
+program=$1
+work=$(mktemp -d)
+trap 'kill $(jobs -p) 2>/dev/null; rm -rf "$work"' EXIT
+export XDG_RUNTIME_DIR="$work/runtime"
+mkdir -m 700 "$XDG_RUNTIME_DIR"
+failures=0
+check() { # description, expected, actual
+    if [ "$2" != "$3" ]; then
+        echo "FAIL: $1: expected $2, got $3"
+        failures=$((failures + 1))
+    else
+        echo "ok: $1"
+    fi
+}
+
+"$program" --frobnicate >"$work/out" 2>"$work/err"
+check "an unknown option exits 2" 2 $?
+grep -q "unknown option --frobnicate" "$work/err" && grep -q "Usage: wanderkit" "$work/err"
+check "an unknown option prints the usage" 0 $?
+
+"$program" --size 240 >/dev/null 2>&1
+check "a malformed size exits 2" 2 $?
+
+"$program" --help >"$work/out"
+check "--help exits 0" 0 $?
+grep -q -- "--state-dir" "$work/out"
+check "--help lists the options" 0 $?
+
+"$program" --version | grep -q "^Wanderkit "
+check "--version names the program" 0 $?
+
+touch "$work/not-a-folder"
+"$program" --state-dir "$work/not-a-folder/state" --exit-after-first-paint >"$work/out" 2>"$work/err"
+check "an unusable state folder exits 1" 1 $?
+grep -q "$work/not-a-folder/state" "$work/err"
+check "the message names the state folder" 0 $?
+
+# The first instance runs; a second start raises it and leaves at once with 0.
+"$program" --state-dir "$work/state" >"$work/first.log" 2>&1 &
+first=$!
+for _ in $(seq 50); do [ -S "$XDG_RUNTIME_DIR/{Wanderkit-91F5D741-4E63-4642-A05A-E4AC57871578}" ] && break; sleep 0.1; done
+timeout 10 "$program" --state-dir "$work/state2" >/dev/null 2>&1
+check "a second instance exits 0" 0 $?
+test ! -e "$work/state2"
+check "a second instance opens no state" 0 $?
+kill -0 $first 2>/dev/null
+check "the first instance keeps running" 0 $?
+kill $first
+wait $first 2>/dev/null
+
+timeout 60 "$program" --state-dir "$work/state3" --exit-after-first-paint >/dev/null 2>&1
+check "--exit-after-first-paint ends with 0" 0 $?
+test "$(stat -c %a "$work/state3")" = 700
+check "the state folder is private" 0 $?
+
+timeout 60 "$program" --tour "$work/tour" >"$work/out" 2>&1
+check "the tour exits 0" 0 $?
+test -s "$work/tour/launcher.png"
+check "the tour renders the launcher" 0 $?
+
+exit $((failures > 0))
