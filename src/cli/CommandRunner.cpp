@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/CommandRunner.h"
 
+#include "cli/DialCommand.h"
+#include "cli/SizesCommand.h"
+
 #include <functional>
 #include <map>
 #include <ostream>
@@ -13,7 +16,10 @@ using Command = std::function<int(const StartOptions&, std::ostream&, std::ostre
 // Every text command, by the word that names it on the command line.
 const std::map<std::string, Command>& commands()
 {
-    static const std::map<std::string, Command> table {};
+    static const std::map<std::string, Command> table {
+        {"dial", RunDialCommand},
+        {"sizes", RunSizesCommand},
+    };
     return table;
 }
 

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+// The words after a text command, with its options ("-x", "--x") set apart from the other words.
+struct CommandWords
+{
+    std::vector<std::string> options;
+    std::vector<std::string> words;
+
+    static CommandWords split(const std::vector<std::string>& args);
+    // The words from `first` on, joined by single blanks ("shirts and sweaters").
+    std::string joined(std::size_t first = 0) const;
+};

@@ -1,0 +1,198 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "reference/DialingCodes.h"
+
+#include "text/WideText.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <fstream>
+#include <regex>
+#include <set>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace {
+
+using DialingCodes::AreaCode;
+using DialingCodes::Country;
+
+const Country* FindCountry(std::wstring_view country)
+{
+    const auto rows = DialingCodes::International();
+    const auto it = std::ranges::find(rows, country, &Country::country);
+    return it == rows.end() ? nullptr : &*it;
+}
+
+std::string Trimmed(std::wstring_view text)
+{
+    return WideToUtf8(text.substr(0, text.find_last_not_of(L' ') + 1));
+}
+
+std::vector<std::string> Fields(const std::string& line)
+{
+    std::vector<std::string> fields;
+    std::istringstream in(line);
+    for (std::string field; std::getline(in, field, '\t');)
+        fields.push_back(field);
+    return fields;
+}
+
+// The rows of the snapshot written by tools/dialing: row, country, iso, code, capital, zone, gmt.
+std::vector<std::vector<std::string>> SnapshotRows()
+{
+    std::ifstream in(WANDERKIT_DIALING_SNAPSHOT);
+    std::vector<std::vector<std::string>> rows;
+    for (std::string line; std::getline(in, line);) {
+        if (!line.starts_with('#') && !line.starts_with("row\t"))
+            rows.push_back(Fields(line));
+    }
+    return rows;
+}
+
+std::vector<std::wstring_view> Countries(const std::vector<Country>& rows)
+{
+    std::vector<std::wstring_view> names;
+    for (const Country& row : rows)
+        names.push_back(row.country);
+    return names;
+}
+
+} // namespace
+
+TEST(DialingCodes, TablesHoldEveryRow)
+{
+    EXPECT_EQ(DialingCodes::International().size(), 244u);
+    EXPECT_EQ(DialingCodes::UsAreaCodes().size(), 259u);
+    EXPECT_EQ(DialingCodes::International().front().country, L"Afghanistan");
+    EXPECT_EQ(DialingCodes::International().back().country, L"Zimbabwe");
+}
+
+TEST(DialingCodes, InternationalTellingRowsKeepTheirTexts)
+{
+    const Country cases[] = {
+        // Printed in full, trailing blanks included.
+        {L"Afghanistan", L"93", L"+4.5"},
+        {L"American Samoa", L"684 ", L"-11"},
+        {L"Antigua and Barbuda", L"1 268 ", L"-4"},
+        {L"Bermuda", L"1 +441 or 809 ", L"-4"},
+        {L"Cocos Islands ", L"672 ", L"+x"},
+        {L"Comoros", L"269 ", L"+x"},
+        {L"Diego Garcia", L"246 ", L"+x"},
+        {L"Fyrom (Macedonia) ", L"389", L"+x"},
+        {L"Iran ", L"98 ", L"+3.5"},
+        {L"Norfolk Island ", L"672 ", L"+11.5"},
+        {L"Puerto Rico ", L"1 787 ", L"-4"},
+        // Half-hour offsets; their country texts carry a trailing blank.
+        {L"Australia", L"61", L"+9.5"},
+        {L"India ", L"91", L"+5.5"},
+        {L"Myanmar ", L"95", L"+6.5"},
+        {L"Nepal ", L"977", L"+5.75"},
+        {L"Sri Lanka ", L"94", L"+5.5"},
+    };
+    for (const Country& c : cases) {
+        const Country* row = FindCountry(c.country);
+        ASSERT_NE(row, nullptr) << WideToUtf8(c.country);
+        EXPECT_EQ(row->code, c.code) << WideToUtf8(c.country);
+        EXPECT_EQ(row->gmt, c.gmt) << WideToUtf8(c.country);
+    }
+    EXPECT_EQ(DialingCodes::ShownCode(*FindCountry(L"Bermuda")), L"+1 +441 or 809 ");
+    EXPECT_EQ(DialingCodes::ShownCode(*FindCountry(L"Antigua and Barbuda")), L"+1 268 ");
+    EXPECT_EQ(DialingCodes::ShownCode(*FindCountry(L"Afghanistan")), L"+93");
+}
+
+// Every code is the calling code of the named public source and every offset the capital's standard
+// offset from tzdata, except where the printed rows give their own texts.
+TEST(DialingCodes, InternationalRowsMatchTheirSources)
+{
+    const std::set<std::string> statedRows {"Afghanistan", "American Samoa", "Antigua and Barbuda", "Bermuda",
+        "Cocos Islands", "Comoros", "Diego Garcia", "Fyrom (Macedonia)", "Iran", "Norfolk Island", "Puerto Rico"};
+    const std::set<std::string> statedOffsets {"Australia"};
+
+    const auto sources = SnapshotRows();
+    const auto rows = DialingCodes::International();
+    ASSERT_EQ(sources.size(), rows.size()) << "snapshot " << WANDERKIT_DIALING_SNAPSHOT;
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const auto& source = sources[i];
+        ASSERT_EQ(source.size(), 7u) << "snapshot row " << i;
+        const std::string country = Trimmed(rows[i].country);
+        SCOPED_TRACE(country);
+        EXPECT_EQ(source[0], std::to_string(i));
+        EXPECT_EQ(source[1], country);
+        if (statedRows.contains(country))
+            continue;
+        EXPECT_EQ(WideToUtf8(rows[i].code), source[3]) << "calling code of " << source[2];
+        if (!statedOffsets.contains(country)) {
+            EXPECT_EQ(WideToUtf8(rows[i].gmt), source[6]) << "standard offset of " << source[5];
+        }
+    }
+}
+
+TEST(DialingCodes, AreaCodeTellingRows)
+{
+    const auto rows = DialingCodes::UsAreaCodes();
+    auto has = [&](const AreaCode& wanted) {
+        return std::ranges::any_of(rows, [&](const AreaCode& row) {
+            return row.state == wanted.state && row.city == wanted.city && row.code == wanted.code;
+        });
+    };
+    const AreaCode cases[] = {
+        {L"Ohio(OH)", L"Akron", L"+330"},
+        {L"Alaska(AK)", L"Alaska", L"+907"},
+        {L"New York(NY)", L"Manhattan", L"+646"},
+        {L"Massachusetts(MA)", L"Weymouth", L"+781"},
+        {L"Wyoming(WY)", L"Wyoming", L"+307"},
+        {L"District of Columbia(DC)", L"Washington", L"+202"},
+        {L"Texas(TX)", L"Amarillo", L"+806"},
+    };
+    for (const AreaCode& c : cases)
+        EXPECT_TRUE(has(c)) << WideToUtf8(c.city);
+    EXPECT_EQ(rows.front().city, L"Akron");
+    EXPECT_EQ(rows.back().city, L"Wyoming");
+
+    // A city with several codes has one row per code, duplicates kept.
+    std::vector<std::wstring_view> newYork, dallas;
+    for (const AreaCode& row : rows) {
+        if (row.city == L"New York")
+            newYork.push_back(row.code);
+        if (row.city == L"Dallas")
+            dallas.push_back(row.code);
+    }
+    EXPECT_EQ(newYork, (std::vector<std::wstring_view> {L"+212", L"+718", L"+347", L"+917"}));
+    EXPECT_EQ(dallas, (std::vector<std::wstring_view> {L"+972", L"+214", L"+214"}));
+}
+
+TEST(DialingCodes, AreaCodeRowsAreWellFormedAndInCityOrder)
+{
+    const std::wregex state(LR"([A-Z][A-Za-z ]+\([A-Z]{2}\))");
+    const std::wregex code(LR"(\+[2-9][0-9]{2})");
+    std::set<std::wstring_view> states;
+    std::wstring_view previousCity;
+    for (const AreaCode& row : DialingCodes::UsAreaCodes()) {
+        const std::wstring text(row.state);
+        EXPECT_TRUE(std::regex_match(text, state)) << WideToUtf8(row.state);
+        EXPECT_TRUE(std::regex_match(std::wstring(row.code), code)) << WideToUtf8(row.code);
+        EXPECT_LE(previousCity, row.city);
+        previousCity = row.city;
+        states.insert(row.state);
+    }
+    EXPECT_EQ(states.size(), 51u);
+}
+
+TEST(DialingCodes, FindsRowsIgnoringCase)
+{
+    using Names = std::vector<std::wstring_view>;
+    EXPECT_EQ(Countries(DialingCodes::FindCountries(L"KOREA")), (Names {L"South Korea", L"North Korea"}));
+    EXPECT_EQ(Countries(DialingCodes::FindCountries(L"bermuda")), (Names {L"Bermuda"}));
+    EXPECT_EQ(DialingCodes::FindCountries(L"").size(), 244u);
+    EXPECT_TRUE(DialingCodes::FindCountries(L"Atlantis").empty());
+
+    // City or state: the four New York rows and every other row of New York state.
+    EXPECT_EQ(DialingCodes::FindAreaCodes(L"new york").size(), 13u);
+    const auto capital = DialingCodes::FindAreaCodes(L"(dc)");
+    ASSERT_EQ(capital.size(), 1u);
+    EXPECT_EQ(capital.front().city, L"Washington");
+    EXPECT_EQ(DialingCodes::FindAreaCodes(L"").size(), 259u);
+    EXPECT_TRUE(DialingCodes::FindAreaCodes(L"Gotham").empty());
+}
