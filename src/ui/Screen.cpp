@@ -46,9 +46,17 @@ void Screen::spinnerDelta(Spinner&, int) { }
 
 void Screen::eraseBackground(QPainter& painter)
 {
-    Painting::drawGradient(painter, workWidth(), workHeight());
-    if (!m_picture.isNull())
-        painter.drawImage(QRect(0, 0, workWidth(), workHeight()), m_picture);
+    const QSize size(workWidth(), workHeight());
+    const qreal ratio = devicePixelRatioF();
+    if (m_background.deviceIndependentSize() != QSizeF(size) || m_background.devicePixelRatio() != ratio) {
+        m_background = QPixmap(size * ratio);
+        m_background.setDevicePixelRatio(ratio);
+        QPainter background(&m_background);
+        Painting::drawGradient(background, size.width(), size.height());
+        if (!m_picture.isNull())
+            background.drawImage(QRect(QPoint(0, 0), size), m_picture);
+    }
+    painter.drawPixmap(0, 0, m_background);
 }
 
 void Screen::command(int id)
@@ -117,6 +125,7 @@ bool Screen::beginRun(SoftKeyBar& softKeys)
     m_ended = false;
     m_result = 0;
     m_picture = QImage();
+    m_background = QPixmap();
     if (m_pictureName) {
         if (const auto path = m_environment.paths.hostPath(DevicePaths::joinedName(m_pictureName)))
             m_picture.load(QString::fromStdString(path->string()));
@@ -135,6 +144,7 @@ int Screen::finishRun()
     m_running = false;
     m_softKeys = nullptr;
     m_picture = QImage();
+    m_background = QPixmap();
     return m_result;
 }
 

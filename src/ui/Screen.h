@@ -4,6 +4,7 @@
 #include "ui/ScreenEnvironment.h"
 
 #include <QImage>
+#include <QPixmap>
 #include <QWidget>
 
 #include <map>
@@ -46,7 +47,8 @@ protected:
     virtual void initialise() { }
     virtual void layout(int width, int height);
     virtual void paint(QPainter& painter);
-    // Default: the 30-band gradient, then the background picture if the screen has one.
+    // Default: the 30-band gradient, then the background picture if the screen has one (drawn once per
+    // size and kept, so repainting a small area costs little).
     virtual void eraseBackground(QPainter& painter);
     virtual void timerTick(int id);
     virtual void destroyWork() { }
@@ -93,5 +95,6 @@ private:
     int m_result = 0;
     const wchar_t* m_pictureName = nullptr;
     QImage m_picture;
+    QPixmap m_background;
     std::map<int, QTimer*> m_timers;
 };

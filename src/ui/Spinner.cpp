@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/Spinner.h"
 
+#include <QDateTime>
 #include <QKeyEvent>
+#include <QWheelEvent>
+
+#include <algorithm>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -65,11 +69,35 @@ void Spinner::step(int delta)
             return;
         next = ((next % count()) + count()) % count();
     }
-    if (next == m_current)
+    select(next);
+}
+
+void Spinner::select(int index)
+{
+    if (index == m_current)
         return;
-    m_current = next;
+    m_current = index;
     update();
     emit currentChanged(m_current);
+}
+
+bool Spinner::typeAhead(const QString& text)
+{
+    if (text.isEmpty() || !text.at(0).isPrint() || count() == 0)
+        return false;
+    const qint64 now = QDateTime::currentMSecsSinceEpoch();
+    m_typed = now - m_typedAt < 1000 ? m_typed + text : text;
+    m_typedAt = now;
+    // A new first letter looks from the next item on, so repeating it walks through the matches.
+    const int from = m_typed.size() == 1 ? m_current + 1 : std::max(m_current, 0);
+    for (int k = 0; k < count(); ++k) {
+        const int index = (from + k) % count();
+        if (m_items.at(index).startsWith(m_typed, Qt::CaseInsensitive)) {
+            select(index);
+            return true;
+        }
+    }
+    return true;
 }
 
 void Spinner::hideAt(int x, int y)
@@ -98,7 +126,14 @@ void Spinner::keyPressEvent(QKeyEvent* event)
     case Qt::Key_Down:
         vertical ? step(1) : event->ignore();
         return;
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+        if (count() > 0)
+            select(std::clamp(m_current + (event->key() == Qt::Key_PageUp ? -10 : 10), 0, count() - 1));
+        return;
     default:
+        if (typeAhead(event->text()))
+            return;
         // Like a focused list box, the spinner keeps the keys it does not use.
         event->accept();
     }
@@ -111,6 +146,14 @@ void Spinner::mousePressEvent(QMouseEvent* event)
     const int x = qRound(event->position().x());
     if (x >= buttonsLeft)
         step(x < buttonsLeft + ButtonWidth / 2 ? -1 : 1);
+}
+
+void Spinner::wheelEvent(QWheelEvent* event)
+{
+    const int notches = event->angleDelta().y() / 120;
+    if (notches != 0)
+        step(-notches);
+    event->accept();
 }
 
 void Spinner::paintEvent(QPaintEvent*)

@@ -46,10 +46,17 @@ signals:
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    // Typing letters jumps to the next item that starts with what was typed, as in a list box.
+    bool typeAhead(const QString& text);
+    void select(int index);
+
     QStringList m_items;
+    QString m_typed;
+    qint64 m_typedAt = 0;
     int m_current = -1;
     bool m_wrapping = false;
     Orientation m_orientation;
