@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "time/SystemTime.h"
+
+#include <cstdint>
+#include <string>
+
+// Whole-day calendar arithmetic on SystemTime, done as the handheld did it: through a 64-bit count of
+// 100-ns units since 1 January 1601. Dates are valid from 1601 to 30827; the time of day may run past
+// its usual range and is then carried into the following days.
+
+// The date-time moved by whole days, time of day kept, day of week recomputed.
+// A date that is not a calendar date, or a result outside 1601 to 30827, leaves the date unchanged.
+SystemTime AddDays(const SystemTime& date, std::int64_t days);
+
+// True when a's day is strictly later than b's. Hour, minute and second are cleared first but the
+// milliseconds are kept, so on the same day a reading with milliseconds is later than one without.
+// False when either is not a calendar date.
+bool IsLaterDay(const SystemTime& a, const SystemTime& b);
+
+// "day/month/year", as the daylight-saving boundaries are shown.
+std::wstring FormatDayMonthYear(const SystemTime& date);

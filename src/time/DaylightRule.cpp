@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "time/DaylightRule.h"
+
+#include "text/WideText.h"
+#include "time/CalendarDays.h"
+
+namespace {
+
+// Cuts the next field off the front of `rest`.
+std::wstring_view NextField(std::wstring_view& rest)
+{
+    const std::wstring_view field = BeforeFirst(rest, L':');
+    rest = AfterFirst(rest, L':');
+    return field;
+}
+
+std::int32_t NextNumber(std::wstring_view& rest)
+{
+    return Wtol(std::wstring(NextField(rest)));
+}
+
+SystemTime Boundary(int year, std::int32_t day, std::int32_t hour)
+{
+    SystemTime firstOfYear;
+    firstOfYear.year = static_cast<std::uint16_t>(year);
+    firstOfYear.month = 1;
+    firstOfYear.day = 1;
+    firstOfYear.hour = static_cast<std::uint16_t>(hour);
+    return AddDays(firstOfYear, std::int64_t {day} - 1);
+}
+
+} // namespace
+
+DaylightRule ParseDaylightRule(std::wstring_view text)
+{
+    DaylightRule rule;
+    rule.shiftText = NextField(text);
+    if (!rule.observes())
+        return rule;
+    rule.shift = Wtol(rule.shiftText);
+    rule.startDay = NextNumber(text);
+    rule.startHour = NextNumber(text);
+    rule.endDay = NextNumber(text);
+    rule.endHour = NextNumber(text);
+    return rule;
+}
+
+DaylightPeriod DaylightPeriodOf(const DaylightRule& rule, int year)
+{
+    DaylightPeriod period {Boundary(year, rule.startDay, rule.startHour), Boundary(year, rule.endDay, rule.endHour)};
+    if (period.end.month < period.start.month)
+        period.end = Boundary(year + 1, rule.endDay, rule.endHour);
+    return period;
+}
+
+bool IsInDaylightPeriod(const DaylightPeriod& period, const SystemTime& now)
+{
+    return !IsLaterDay(period.start, now) && !IsLaterDay(now, period.end);
+}

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "time/CalendarDays.h"
+
+#include "support/FakeDeviceClock.h"
+
+#include <gtest/gtest.h>
+
+#include <tuple>
+
+using C = FakeDeviceClock;
+
+TEST(CalendarDays, AddDaysWalksTheCalendarAcrossCenturies)
+{
+    // A calendar stepped a day at a time from month lengths, from Tuesday 1 January 1895;
+    // the walk crosses 1900 (not leap), 2000 (leap) and 2100 (not leap).
+    int year = 1895, month = 1, day = 1, weekday = 2;
+    const auto stepped = [&] {
+        return SystemTime {
+            std::uint16_t(year), std::uint16_t(month), std::uint16_t(weekday), std::uint16_t(day), 13, 45, 30, 250};
+    };
+    const SystemTime first = stepped();
+    for (std::int64_t days = 0; year < 2105; ++days) {
+        const SystemTime today = stepped();
+        ASSERT_EQ(AddDays(first, days), today) << days;
+        const bool leap = year % 4 == 0 && (year % 100 != 0 || year % 400 == 0);
+        const int lengths[] = {31, leap ? 29 : 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+        weekday = (weekday + 1) % 7;
+        if (++day > lengths[month - 1]) {
+            day = 1;
+            year += month == 12;
+            month = month % 12 + 1;
+        }
+        ASSERT_EQ(AddDays(today, 1), stepped()) << days;
+        ASSERT_EQ(AddDays(stepped(), -1), today) << days;
+    }
+}
+
+TEST(CalendarDays, AddDaysLeavesWhatItCannotMove)
+{
+    const SystemTime firstDay = C::at(1601, 1, 1, 0, 0, 0);
+    const SystemTime lastDay = C::at(30827, 12, 31, 12, 0, 0);
+    SystemTime notADate = C::at(2100, 2, 28, 0, 0, 0);
+    notADate.day = 29; // 2100 is not a leap year
+    EXPECT_EQ(AddDays(firstDay, -1), firstDay);
+    EXPECT_EQ(AddDays(lastDay, 1), lastDay);
+    EXPECT_EQ(AddDays(notADate, 1), notADate);
+    EXPECT_EQ(AddDays(firstDay, std::int64_t {1} << 40), firstDay);
+}
+
+TEST(CalendarDays, IsLaterDayComparesDaysWithTheirMilliseconds)
+{
+    const std::tuple<SystemTime, SystemTime, bool> cases[]
+        = {{C::at(2026, 3, 29, 23, 0, 0), C::at(2026, 3, 29, 1, 0, 0), false},
+            {C::at(2026, 3, 29, 0, 0, 0, 1), C::at(2026, 3, 29, 23, 0, 0), true},
+            {C::at(2026, 3, 30, 0, 0, 0), C::at(2026, 3, 29, 23, 59, 59, 999), true},
+            {C::at(2027, 1, 1, 0, 0, 0), C::at(2026, 12, 31, 0, 0, 0, 999), true},
+            {SystemTime {}, C::at(2026, 1, 1, 0, 0, 0), false}};
+    for (std::size_t i = 0; i < std::size(cases); ++i) {
+        const auto& [a, b, later] = cases[i];
+        EXPECT_EQ(IsLaterDay(a, b), later) << "case " << i;
+    }
+}

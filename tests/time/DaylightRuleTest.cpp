@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "time/DaylightRule.h"
+
+#include "support/FakeDeviceClock.h"
+
+#include <gtest/gtest.h>
+
+#include <tuple>
+
+using C = FakeDeviceClock;
+
+TEST(DaylightRule, ReadsFieldsUpToTheNextColonOrTheEnd)
+{
+    // Only exactly "0" means never: "00" and "" observe, with a shift of nothing.
+    const std::pair<std::wstring, DaylightRule> cases[] = {{L"1:88:2:298:3\r", {L"1", 1, 88, 2, 298, 3}},
+        {L"1:88:2:298", {L"1", 1, 88, 2, 298, 0}}, {L"1::2:x298:3", {L"1", 1, 0, 2, 0, 3}},
+        {L"-1:88:2:298:3", {L"-1", -1, 88, 2, 298, 3}}, {L"0:88:2:298:3", {L"0", 0, 0, 0, 0, 0}},
+        {L"00:88:2:298:3", {L"00", 0, 88, 2, 298, 3}}, {L"", {L"", 0, 0, 0, 0, 0}}};
+    for (const auto& [text, rule] : cases)
+        EXPECT_EQ(ParseDaylightRule(text), rule) << text;
+    EXPECT_FALSE(ParseDaylightRule(L"0:88:2:298:3").observes());
+    EXPECT_TRUE(ParseDaylightRule(L"00:88:2:298:3").observes() && ParseDaylightRule(L"").observes());
+}
+
+TEST(DaylightRule, BuildsThisYearsBoundariesFromDayNumbers)
+{
+    const std::tuple<std::wstring, int, DaylightPeriod> cases[] = {
+        {L"1:88:2:298:3", 2026, {C::at(2026, 3, 29, 2, 0, 0), C::at(2026, 10, 25, 3, 0, 0)}},
+        {L"1:88:2:298:3", 2024, {C::at(2024, 3, 28, 2, 0, 0), C::at(2024, 10, 24, 3, 0, 0)}},
+        // Southern: the end month comes first, so the end moves to next year (2027 is not leap).
+        {L"1:277:2:95:3", 2026, {C::at(2026, 10, 4, 2, 0, 0), C::at(2027, 4, 5, 3, 0, 0)}},
+        // Same month, end before start: the end stays in this year.
+        {L"1:100:2:95:3", 2026, {C::at(2026, 4, 10, 2, 0, 0), C::at(2026, 4, 5, 3, 0, 0)}},
+        // Day 0 is the day before 1 January; as a start, its December pushes the end to next year.
+        {L"1:0:2:298:3", 2026, {C::at(2025, 12, 31, 2, 0, 0), C::at(2027, 10, 25, 3, 0, 0)}},
+        {L"1:88:2:0:3", 2026, {C::at(2026, 3, 29, 2, 0, 0), C::at(2025, 12, 31, 3, 0, 0)}},
+    };
+    for (const auto& [rule, year, period] : cases)
+        EXPECT_EQ(DaylightPeriodOf(ParseDaylightRule(rule), year), period) << rule << " in " << year;
+}
