@@ -60,7 +60,7 @@ def distance_km(a, b):
 def suburbs(cities):
     """Keys of the cities that lie within SUBURB_RADIUS_KM of a more populous one."""
     grid = defaultdict(list)
-    for key, city in cities.items():
+    for city in cities.values():
         grid[(math.floor(city.lat), math.floor(city.lon))].append(city)
     found = set()
     for key, city in cities.items():

@@ -3,7 +3,7 @@
 import unicodedata
 
 # Letters that Unicode decomposition does not reduce to ASCII.
-_SPECIAL = str.maketrans({
+_UNDECOMPOSABLE = str.maketrans({
     "\u00df": "ss", "\u00e6": "ae", "\u00c6": "AE", "\u00f8": "o", "\u00d8": "O",
     "\u0111": "d", "\u0110": "D", "\u0142": "l", "\u0141": "L", "\u0131": "i",
     "\u00fe": "th", "\u00de": "Th", "\u00f0": "d", "\u00d0": "D", "\u0153": "oe",
@@ -13,7 +13,7 @@ _SPECIAL = str.maketrans({
 
 def to_ascii(text):
     """Transliterates text to 7-bit ASCII ("Sao Paulo", "Zurich"); drops what has no ASCII form."""
-    decomposed = unicodedata.normalize("NFKD", text.translate(_SPECIAL))
+    decomposed = unicodedata.normalize("NFKD", text.translate(_UNDECOMPOSABLE))
     return "".join(ch for ch in decomposed if ord(ch) < 128 and not unicodedata.combining(ch)).strip()
 
 
