@@ -1,0 +1,121 @@
+"""Checks the committed device root the way the device reads it."""
+
+import struct
+import unittest
+
+from wkdata import paths
+from wkdata.catalogue import read_catalogue
+from wkdata.checks import (country_list_problems, currency_order, mapping_problems, position_report,
+                           read_currencies, rule_matches_tzdata)
+from wkdata.countries import SOVEREIGN, load_country_names
+from wkdata.zonerule import tzdata_version
+
+DEVICE = paths.DEVICE_DIR
+
+
+def read(name):
+    return (DEVICE / name).read_bytes()
+
+
+class TextFilesTest(unittest.TestCase):
+    def test_files_are_ascii_with_line_feeds_only(self):
+        names = ["cities.lst", "currs.lst", "cities.wet", "mapping.cfg"]
+        names += [f"weatcs/{p.name}" for p in (DEVICE / "weatcs").iterdir()]
+        for name in names:
+            with self.subTest(name=name):
+                data = read(name)
+                self.assertTrue(data.isascii())
+                self.assertNotIn(b"\r", data)
+
+    def test_default_positions(self):
+        for what, expected, found in position_report(DEVICE):
+            with self.subTest(what=what):
+                self.assertEqual(found, expected)
+
+
+class CatalogueTest(unittest.TestCase):
+    def setUp(self):
+        self.data = read("cities.lst")
+        self.entries = read_catalogue(self.data)
+
+    def test_count_and_fields(self):
+        lines = self.data.decode("ascii").split("\n")
+        self.assertEqual(int(lines[1]), len(lines) - 3)
+        self.assertTrue(1050 <= len(self.entries) <= 1150)
+        for line in lines[2:-1]:
+            fields = line.split(";")
+            self.assertEqual(len(fields), 11, line)
+            self.assertTrue(all(fields), f"empty field in {line}")
+            self.assertFalse(any(":" in f for f in fields[1:3]), line)
+        self.assertEqual(len({e.key for e in self.entries}), len(self.entries))
+
+    def test_every_sovereign_state_has_a_city(self):
+        names = load_country_names()
+        countries = {e.country for e in self.entries}
+        self.assertEqual([c for c in SOVEREIGN if names[c] not in countries], [])
+
+    def test_rules_are_those_of_the_installed_tzdata(self):
+        built_with = self.data.split(b"\n", 1)[0].decode("ascii").split()[-1]
+        if built_with != tzdata_version():
+            self.skipTest(f"built with tzdata {built_with}, {tzdata_version()} installed")
+        self.assertEqual([e.key for e in self.entries if not rule_matches_tzdata(e)], [])
+
+
+class WeatherFilesTest(unittest.TestCase):
+    def test_country_lists_hold_every_catalogue_city(self):
+        self.assertEqual(country_list_problems(DEVICE, read_catalogue(read("cities.lst"))), [])
+
+    def test_favourites_name_catalogue_cities_with_their_codes(self):
+        lines = read("cities.wet").decode("ascii").split("\n")
+        self.assertEqual(int(lines[0]), len(lines) - 2)
+        for line in lines[1:-1]:
+            country, city, code = line.split(";")
+            self.assertIn(f"{city};{code}\n", read(f"weatcs/{country}").decode("ascii"))
+        cities = {line.split(";")[1] for line in lines[1:-1]}
+        self.assertLessEqual({"London", "New York", "Paris", "Tokyo"}, cities)
+
+    def test_every_icon_code_resolves_to_its_own_icon(self):
+        self.assertEqual(mapping_problems(read("mapping.cfg"), DEVICE / "wiconset"), [])
+
+
+class CurrencyFileTest(unittest.TestCase):
+    def test_189_priced_currencies(self):
+        rows = read_currencies(read("currs.lst"))
+        self.assertEqual(len(rows), 189)
+        self.assertEqual(len(currency_order(rows)), 189)
+        for code, name, rate in rows:
+            self.assertRegex(code, r"^[A-Z]{3}$")
+            self.assertRegex(rate, r"^[0-9]+(\.[0-9]+)?$")
+            self.assertGreater(float(rate), 0)
+
+
+class PicturesTest(unittest.TestCase):
+    def test_icons_are_48_pixel_24_bit_bitmaps(self):
+        for path in (DEVICE / "wiconset").iterdir():
+            with self.subTest(icon=path.name):
+                header = path.read_bytes()[:34]
+                self.assertEqual(header[:2], b"BM")
+                width, height, _, bits, compression = struct.unpack("<iiHHI", header[18:34])
+                self.assertEqual((width, abs(height), bits, compression), (48, 48, 24, 0))
+
+    def test_jpeg_sizes(self):
+        sizes = {"day.jpg": (480, 240), "bmap.jpg": (480, 240), "back.jpg": (240, 268), "bconv.jpg": (240, 268)}
+        for name, size in sizes.items():
+            with self.subTest(name=name):
+                self.assertEqual(jpeg_size(read(name)), size)
+
+
+def jpeg_size(data):
+    """Width and height from the first start-of-frame marker."""
+    pos = 2
+    while pos < len(data):
+        marker, length = data[pos + 1], struct.unpack(">H", data[pos + 2:pos + 4])[0]
+        if marker in (0xC0, 0xC1, 0xC2):
+            height, width = struct.unpack(">HH", data[pos + 5:pos + 9])
+            return width, height
+        pos += 2 + length
+    return None
+
+
+if __name__ == "__main__":
+    unittest.main()
