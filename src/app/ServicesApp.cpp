@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/ServicesApp.h"
 
+#include "screens/worldclock/WorldClockScreen.h"
+#include "settings/SettingsTable.h"
+#include "ui/BusyCursor.h"
 #include "ui/Commands.h"
 #include "ui/Icons.h"
 #include "ui/MessageBox.h"
@@ -22,7 +25,12 @@ constexpr std::array<int, ServicesApp::ServiceCount> LabelIds {40008, 40009, 400
 ServicesApp::ServicesApp(ScreenEnvironment& environment, DeviceWindow& window)
     : Screen(environment, window, LauncherMenuBar, QStringLiteral("launcher"))
     , m_selector(new Spinner(this))
+    , m_settings(environment.settings)
+    , m_cities(environment.objects, environment.paths, environment.messages)
+    , m_favourites(environment.objects, environment.paths, environment.messages)
+    , m_currencies(environment.objects)
 {
+    m_screens[0] = std::make_unique<WorldClockScreen>(environment, window, m_cities, m_favourites);
     m_selector->setObjectName(QStringLiteral("serviceSpinner"));
     m_selector->setWrapping(true);
     watchSpinner(*m_selector);
@@ -44,6 +52,7 @@ void ServicesApp::initialise()
 {
     m_leftPressed = false;
     m_rightPressed = false;
+    loadStores();
     m_labelFont = Painting::makeFont(25, Painting::Bold);
     m_selector->clear();
     for (std::size_t i = 0; i < LabelIds.size(); ++i) {
@@ -52,6 +61,25 @@ void ServicesApp::initialise()
     }
     m_selector->setCurrentIndex(0);
     m_selector->setFocus();
+}
+
+// The stores are filled from the shipped files on the first start only; the currency file is read
+// at every start, since the converter is handed its list.
+void ServicesApp::loadStores()
+{
+    ScreenEnvironment& env = environment();
+    {
+        const BusyCursor busy;
+        m_cities.Load();
+    }
+    {
+        const BusyCursor busy;
+        m_favourites.loadFavouritesOnce();
+    }
+    const BusyCursor busy;
+    m_initialCurrencies = ReadInitialCurrencies(env.paths, env.messages);
+    m_currencies.SetInitialList(m_initialCurrencies);
+    m_currencies.Load();
 }
 
 void ServicesApp::layout(int width, int height)
@@ -153,4 +181,9 @@ void ServicesApp::openService(int index)
         runModal(*screen);
 }
 
-void ServicesApp::destroyWork() { }
+void ServicesApp::destroyWork()
+{
+    // Amounts typed into the converters last only while the program runs.
+    WriteSetting(m_settings, Settings::CurrencyAmount, L"");
+    WriteSetting(m_settings, Settings::MeasureValue, L"");
+}

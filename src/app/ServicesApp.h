@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "settings/RegistrySettings.h"
+#include "store/CityCatalogue.h"
+#include "store/CurrencyStore.h"
+#include "store/InitialCurrencyList.h"
+#include "store/WeatherFavourites.h"
 #include "ui/Screen.h"
 
 #include <QFont>
@@ -44,15 +49,23 @@ private:
     static constexpr int LeftArrowTimer = 1;
     static constexpr int RightArrowTimer = 2;
 
+    void loadStores();
     int iconX(int index) const;
     int iconY(int index) const;
     void openService(int index);
 
+    // The launcher's own state.
     Spinner* m_selector;
     std::array<QString, ServiceCount> m_labels;
     QRect m_labelBand;
     bool m_leftPressed = false;
     bool m_rightPressed = false;
     QFont m_labelFont;
+    InitialCurrencyList m_initialCurrencies;
+    RegistrySettings m_settings;
+    // The stores, then the screens: built once, destroyed in reverse order at the end.
+    CityCatalogue m_cities;
+    WeatherFavourites m_favourites;
+    CurrencyStore m_currencies;
     std::array<std::unique_ptr<Screen>, ServiceCount> m_screens;
 };

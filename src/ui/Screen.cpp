@@ -8,6 +8,7 @@
 #include "ui/Spinner.h"
 
 #include <QKeyEvent>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QTimer>
 
@@ -148,8 +149,9 @@ int Screen::finishRun()
     return m_result;
 }
 
-void Screen::paintEvent(QPaintEvent*)
+void Screen::paintEvent(QPaintEvent* event)
 {
+    m_dirty = event->rect();
     QPainter painter(this);
     eraseBackground(painter);
     paint(painter);

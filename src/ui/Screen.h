@@ -70,6 +70,8 @@ protected:
     // The background picture, found beside the program by the joined-name rule; loaded by each run.
     void setBackgroundPicture(const wchar_t* fileName) { m_pictureName = fileName; }
     const QImage& backgroundPicture() const { return m_picture; }
+    // The area being repainted, for screens that skip what lies outside it.
+    const QRect& dirtyRect() const { return m_dirty; }
 
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -96,5 +98,6 @@ private:
     const wchar_t* m_pictureName = nullptr;
     QImage m_picture;
     QPixmap m_background;
+    QRect m_dirty;
     std::map<int, QTimer*> m_timers;
 };

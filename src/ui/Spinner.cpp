@@ -3,11 +3,11 @@
 
 #include <QDateTime>
 #include <QKeyEvent>
+#include <QPainter>
+#include <QPainterPath>
 #include <QWheelEvent>
 
 #include <algorithm>
-#include <QPainter>
-#include <QPainterPath>
 
 Spinner::Spinner(QWidget* parent, Orientation orientation)
     : QWidget(parent)

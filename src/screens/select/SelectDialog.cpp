@@ -1,0 +1,162 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "screens/select/SelectDialog.h"
+
+#include "device/DeviceClock.h"
+#include "settings/SettingsTable.h"
+#include "time/CityPanelValues.h"
+#include "time/ClockOffsets.h"
+#include "ui/Painting.h"
+#include "ui/Spinner.h"
+
+#include <QPainter>
+
+namespace {
+
+constexpr int SelectMenuBar = 106;
+constexpr int TitleHeight = 25; // T
+constexpr int SpinnerSize = 25; // S
+// Panel labels: "City", "Country", "Long/Lat", "Daylight Saving", "DST start/end", "Time zone (GMT)".
+constexpr std::array<int, 6> PanelLabelIds {40022, 40023, 40024, 40026, 40030, 40031};
+
+QString fromWide(const std::wstring& text)
+{
+    return QString::fromStdWString(text);
+}
+
+CityZoneTexts zoneTexts(const CityRecord& city)
+{
+    return {city.timeZone, city.daylightRule};
+}
+
+// The panel font, made smaller for a line that would not fit the screen's width.
+QFont fittedFont(QFont font, const QString& text, int width)
+{
+    while (font.pixelSize() > 11 && QFontMetrics(font).horizontalAdvance(text) > width)
+        font.setPixelSize(font.pixelSize() - 1);
+    return font;
+}
+
+} // namespace
+
+SelectDialog::SelectDialog(ScreenEnvironment& environment, DeviceWindow& window)
+    : Screen(environment, window, SelectMenuBar, QStringLiteral("select"))
+    , m_cities(environment.objects, environment.paths, environment.messages)
+    , m_currencies(environment.objects)
+    , m_settings(environment.settings)
+    , m_list(new Spinner(this, Spinner::Orientation::Vertical))
+{
+    m_list->setObjectName(QStringLiteral("choiceSpinner"));
+    connect(m_list, &Spinner::currentChanged, this, &SelectDialog::listChanged);
+}
+
+void SelectDialog::initialise()
+{
+    m_titleFont = Painting::makeFont(24, Painting::Bold);
+    m_listFont = Painting::makeFont(22, Painting::Normal);
+    m_panelFont = Painting::makeFont(20, Painting::Normal);
+    m_mode == Mode::City ? fillCities() : fillCurrencies();
+    m_list->setCurrentIndex(m_selection);
+    m_list->setFont(m_listFont);
+    m_list->setFocus();
+    computePanel();
+}
+
+void SelectDialog::fillCities()
+{
+    m_cities.Load();
+    QStringList names;
+    const int count = m_cities.Count();
+    names.reserve(count);
+    for (int i = 0; i < count; ++i)
+        names << fromWide(m_cities.CityName(static_cast<std::uint32_t>(i)));
+    m_list->setItems(names);
+}
+
+void SelectDialog::fillCurrencies()
+{
+    m_currencies.Load();
+    QStringList items;
+    const int count = m_currencies.RecordCount();
+    for (int i = 0; i < count; ++i) {
+        const auto position = static_cast<std::uint32_t>(i);
+        const QString item = fromWide(m_currencies.Code(position) + L" - " + m_currencies.Name(position));
+        // A currency whose code and name are both empty is left out of the list.
+        if (item != QLatin1String(" - "))
+            items << item;
+    }
+    m_list->setItems(items);
+}
+
+void SelectDialog::listChanged(int index)
+{
+    if (m_mode == Mode::Currency) {
+        m_selection = index;
+        return;
+    }
+    computePanel();
+    update();
+}
+
+void SelectDialog::computePanel()
+{
+    m_panelValues = {};
+    const int index = m_list->currentIndex();
+    if (m_mode != Mode::City || index < 0)
+        return;
+    const CityRecord city = m_cities.Record(static_cast<std::uint32_t>(index));
+    // The World Clocks device offset: from the home city, synchronisation off.
+    const std::uint32_t home = m_settings.GetDWORD(Settings::HomeClock.subkey, Settings::HomeClock.name);
+    const CityRecord homeCity = m_cities.Record(m_settings.Status() == RegistrySettings::Read ? home : 0);
+    const DeviceClock& clock = environment().clock;
+    const SystemTime now = clock.localTime();
+    const DeviceOffset device = ComputeDeviceOffset(false, clock.standardBias(), zoneTexts(homeCity), now);
+    const CityPanelValues values = ComputeCityPanelValues(zoneTexts(city), device, now);
+    m_panelValues = {fromWide(city.name), fromWide(city.country),
+        fromWide(city.coordinate1) + QLatin1Char('/') + fromWide(city.coordinate2), fromWide(values.status),
+        fromWide(values.period), fromWide(values.timeZone)};
+}
+
+QStringList SelectDialog::panelLines() const
+{
+    QStringList lines;
+    if (m_mode != Mode::City)
+        return lines;
+    for (std::size_t i = 0; i < PanelLabelIds.size(); ++i)
+        lines << Painting::loadString(PanelLabelIds[i]) + QStringLiteral(": ") + m_panelValues[i];
+    return lines;
+}
+
+void SelectDialog::layout(int width, int)
+{
+    const int listTop = m_mode == Mode::Currency ? TitleHeight + 10 : TitleHeight + 5; // y0
+    m_titleBand = QRect(0, 0, width, TitleHeight);
+    // The list box (x = 5, width W - 15) and its up-down (S x S at W - 10 - S) are one spinner here.
+    m_list->setGeometry(5, listTop, width - 15, SpinnerSize);
+    m_list->raise();
+    const int infoBottom = listTop + 30 + TitleHeight; // y1
+    m_infoBand = QRect(0, listTop + 30, width, infoBottom - (listTop + 30));
+    m_panelTop = infoBottom + 5;
+}
+
+void SelectDialog::paint(QPainter& painter)
+{
+    const bool city = m_mode == Mode::City;
+    Painting::drawBand(
+        painter, m_titleBand, Painting::ShellBand, Painting::loadString(city ? 40020 : 40037), m_titleFont);
+    if (!city)
+        return;
+    Painting::drawBand(painter, m_infoBand, Painting::ShellBand, Painting::loadString(40021), m_titleFont);
+    painter.setPen(Qt::black);
+    const QStringList lines = panelLines();
+    const int width = workWidth() - 10;
+    for (int i = 0; i < lines.size(); ++i) {
+        const QFont font = fittedFont(m_panelFont, lines[i], width);
+        painter.setFont(font);
+        painter.drawText(5, m_panelTop + 25 * i + QFontMetrics(font).ascent(), lines[i]);
+    }
+}
+
+void SelectDialog::destroyWork()
+{
+    m_selection = m_list->currentIndex();
+}

@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "settings/RegistrySettings.h"
+#include "time/ClockOffsets.h"
+#include "time/ClockSlotText.h"
+#include "ui/Screen.h"
+
+#include <QFont>
+
+#include <array>
+
+class CityCatalogue;
+class Spinner;
+class WeatherFavourites;
+
+// World Clocks: the home clock (the device's own time) and four cities, each with an analog dial, its
+// time and date, a daylight-saving mark and a weather icon. Left/right move the focus over the ten
+// entries (clock faces and weather icons); the action key changes a clock's city or adds the city to
+// the weather favourites.
+class WorldClockScreen final : public Screen
+{
+    Q_OBJECT
+
+public:
+    static constexpr int SlotCount = 5;
+
+    WorldClockScreen(
+        ScreenEnvironment& environment, DeviceWindow& window, CityCatalogue& cities, WeatherFavourites& favourites);
+
+    std::uint32_t slotCity(int slot) const { return m_cityOf[static_cast<std::size_t>(slot)]; }
+    const ClockSlot& slot(int slot) const { return m_slots[static_cast<std::size_t>(slot)]; }
+    // The time and date as drawn (twelve-hour form applied) and the AM/PM mark ("" in 24-hour form).
+    QString shownTime(int slot) const;
+    QString shownSuffix(int slot) const;
+    QString shownDate(int slot) const;
+    QString shownName(int slot) const;
+    bool twelveHour() const { return m_twelveHour; }
+    void tourVisit() override;
+
+protected:
+    void initialise() override;
+    void layout(int width, int height) override;
+    void paint(QPainter& painter) override;
+    void timerTick(int id) override;
+    void destroyWork() override;
+    void command(int id) override;
+    void spinnerDelta(Spinner& spinner, int delta) override;
+
+private:
+    enum class DatePlace {
+        Below, // under the name
+        RightOfName, // right-aligned at `date` on the name's line
+        BeforeTime, // on the time's line, just before it
+    };
+
+    // Where one clock is drawn.
+    struct SlotLayout
+    {
+        QRect area;
+        QRect dial;
+        QRect weather;
+        QPoint name;
+        const QFont* nameFont = nullptr;
+        QPoint time; // top-left of the time text, or its top-right end when `timeRightAligned`
+        bool timeRightAligned = false;
+        const QFont* timeFont = nullptr;
+        QPoint date;
+        DatePlace datePlace = DatePlace::Below;
+    };
+
+    void readSettings();
+    void computeOffsets();
+    void formatTexts();
+    void makeHomeFavourite();
+    bool addFavourite(std::uint32_t city);
+    void changeCity(int slot);
+    void showWeather(int slot);
+    void toggleTwelveHour();
+    void layoutHome(int width, int height);
+    void layoutCities(int width, int height);
+    void paintTitle(QPainter& painter) const;
+    void paintSlot(QPainter& painter, int slot) const;
+    void paintFocus(QPainter& painter) const;
+    void paintWeatherIcon(QPainter& painter, const QRect& box, bool favourite) const;
+    // Where the time text of a slot begins, its mark included.
+    int timeLeft(int slot) const;
+    int dateLeft(int slot) const;
+
+    CityCatalogue& m_cities;
+    WeatherFavourites& m_favourites;
+    RegistrySettings m_settings;
+    std::array<std::uint32_t, SlotCount> m_cityOf {};
+    std::array<QString, SlotCount> m_names;
+    std::array<bool, SlotCount> m_favourite {};
+    std::array<ClockSlot, SlotCount> m_slots {};
+    std::array<ClockSlotText, SlotCount> m_texts {};
+    std::array<SystemTime, SlotCount> m_handTimes {};
+    DeviceOffset m_device;
+    bool m_twelveHour = false;
+    bool m_syncLocalZone = false;
+    Spinner* m_focusList;
+    bool m_movedLeft = false;
+    bool m_movedRight = false;
+    QFont m_bigFont;
+    QFont m_font;
+    QFont m_nameFont;
+    QFont m_smallFont;
+    QRect m_titleBand;
+    std::array<SlotLayout, SlotCount> m_layout;
+};
