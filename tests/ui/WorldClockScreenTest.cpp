@@ -1,0 +1,214 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "CityFixture.h"
+#include "ScreenTestBench.h"
+
+#include "screens/select/SelectDialog.h"
+#include "screens/worldclock/WorldClockScreen.h"
+#include "settings/RegistrySettings.h"
+#include "store/CityCatalogue.h"
+#include "store/WeatherFavourites.h"
+#include "ui/Commands.h"
+#include "ui/SoftKeyBar.h"
+
+#include <QTest>
+#include <QTimer>
+
+namespace {
+
+const wchar_t* const ClockKey = L"Wanderkit\\wrldclk";
+
+// A bench with the fixture catalogue loaded and an empty favourites store.
+struct WorldClockBench
+{
+    explicit WorldClockBench(const std::map<int, std::string>& zones = {})
+    {
+        CityFixture::write(bench.root, zones);
+        cities.Load();
+        favourites.loadFavouritesOnce();
+    }
+
+    // Runs the screen, drives it, then leaves it with "Services".
+    void run(const std::function<void()>& drive)
+    {
+        bench.run(screen, [&] {
+            drive();
+            screen.sendCommand(Commands::Services);
+        });
+    }
+
+    ScreenTestBench bench;
+    CityCatalogue cities {*bench.objects, bench.paths, bench.messages};
+    WeatherFavourites favourites {*bench.objects, bench.paths, bench.messages};
+    WorldClockScreen screen {bench.environment, bench.window, cities, favourites};
+    RegistrySettings registry {*bench.settings};
+};
+
+} // namespace
+
+class WorldClockScreenTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aFreshDeviceShowsTheDefaultCitiesAndWritesThem()
+    {
+        WorldClockBench t;
+        t.run([&] {
+            const std::array<std::uint32_t, 5> expected {0, 684, 756, 565, 988};
+            for (int slot = 0; slot < 5; ++slot) {
+                QCOMPARE(t.screen.slotCity(slot), expected[static_cast<std::size_t>(slot)]);
+                QCOMPARE(t.screen.shownName(slot), QStringLiteral("C%1").arg(expected[static_cast<std::size_t>(slot)], 4, 10, QLatin1Char('0')));
+            }
+            // "syncltz" is read first and created as 1, which creates the key: the clock values that
+            // follow find their key and are only written when the screen is left.
+            QCOMPARE(t.registry.GetDWORD(ClockKey, L"syncltz"), 1u);
+            t.registry.GetDWORD(ClockKey, L"clock2");
+            QCOMPARE(t.registry.Status(), RegistrySettings::ValueMissing);
+        });
+        QCOMPARE(t.registry.GetDWORD(ClockKey, L"clock"), 0u);
+        QCOMPARE(t.registry.Status(), RegistrySettings::Read);
+        QCOMPARE(t.registry.GetDWORD(ClockKey, L"clock2"), 756u);
+        QCOMPARE(t.registry.GetDWORD(ClockKey, L"clock4"), 988u);
+    }
+
+    void aMissingValueOfAnExistingKeyIsWrittenOnlyOnLeaving()
+    {
+        WorldClockBench t;
+        t.registry.SetDWORD(ClockKey, L"clock1", 10);
+        t.run([&] {
+            QCOMPARE(t.screen.slotCity(1), 10u);
+            QCOMPARE(t.screen.slotCity(2), 756u);
+            t.registry.GetDWORD(ClockKey, L"clock2");
+            QCOMPARE(t.registry.Status(), RegistrySettings::ValueMissing);
+        });
+        QCOMPARE(t.registry.GetDWORD(ClockKey, L"clock2"), 756u);
+        QCOMPARE(t.registry.Status(), RegistrySettings::Read);
+    }
+
+    void homeShowsTheDeviceTimeAndCitiesTheirOwn()
+    {
+        // Home C0000 is on +1 with a European rule; C0684 on -5 with a North American one.
+        WorldClockBench t({{0, "1;1;88;2;298;3"}, {684, "-5;1;67;2;305;2"}, {988, "9;0;0;0;0;0"}});
+        t.bench.clock.set(FakeDeviceClock::at(2026, 7, 13, 9, 5, 7, 250)); // a Monday, summer time
+        t.run([&] {
+            QCOMPARE(t.screen.shownTime(0), QStringLiteral("09:05:07"));
+            QCOMPARE(t.screen.shownDate(0), QStringLiteral("13/7/2026 Done"));
+            // Device time is home time (+2 in summer): GMT 07:05, New York 03:05 (-4), Tokyo 16:05.
+            QCOMPARE(t.screen.shownTime(1), QStringLiteral("03:05"));
+            QCOMPARE(t.screen.shownDate(1), QStringLiteral("13/7 Done"));
+            QCOMPARE(t.screen.slot(1).offset, -4);
+            QCOMPARE(t.screen.slot(1).observes, 1);
+            QCOMPARE(t.screen.shownTime(4), QStringLiteral("16:05"));
+            QCOMPARE(t.screen.slot(4).observes, 0);
+        });
+    }
+
+    void twelveHourDisplayRewritesTheHour()
+    {
+        struct Case
+        {
+            int hour;
+            const char* time;
+            const char* suffix;
+        };
+        const Case cases[] = {{0, "12:15:00", "AM"}, {9, "09:15:00", "AM"}, {12, "12:15:00", "PM"}, {23, "11:15:00", "PM"}};
+        for (const Case& c : cases) {
+            WorldClockBench t;
+            t.registry.SetDWORD(L"Wanderkit", L"twelvehour", 1);
+            t.bench.clock.set(FakeDeviceClock::at(2026, 1, 5, c.hour, 15, 0));
+            t.run([&] {
+                QVERIFY(t.screen.twelveHour());
+                QCOMPARE(t.screen.shownTime(0), QString::fromLatin1(c.time));
+                QCOMPARE(t.screen.shownSuffix(0), QString::fromLatin1(c.suffix));
+                QVERIFY(t.screen.softKeys()->isItemChecked(Commands::TwelveHourClocks));
+            });
+        }
+    }
+
+    void theMenuItemTogglesTwelveHourDisplayAndStoresIt()
+    {
+        WorldClockBench t;
+        t.bench.clock.set(FakeDeviceClock::at(2026, 1, 5, 13, 15, 0));
+        t.run([&] {
+            QVERIFY(!t.screen.softKeys()->isItemChecked(Commands::TwelveHourClocks));
+            t.screen.softKeys()->chooseItem(Commands::TwelveHourClocks);
+            QVERIFY(t.screen.twelveHour());
+            QCOMPARE(t.screen.shownTime(0), QStringLiteral("01:15:00"));
+            QVERIFY(t.screen.softKeys()->isItemChecked(Commands::TwelveHourClocks));
+            QCOMPARE(t.registry.GetDWORD(L"Wanderkit", L"twelvehour"), 1u);
+            t.screen.softKeys()->chooseItem(Commands::TwelveHourClocks);
+            QCOMPARE(t.screen.shownTime(0), QStringLiteral("13:15:00"));
+            QCOMPARE(t.registry.GetDWORD(L"Wanderkit", L"twelvehour"), 0u);
+        });
+    }
+
+    void theActionKeyOnAClockFaceChangesItsCity()
+    {
+        WorldClockBench t;
+        t.run([&] {
+            QTest::keyClick(t.bench.window.focusWidget(), Qt::Key_Right);
+            QTest::keyClick(t.bench.window.focusWidget(), Qt::Key_Right); // "c1"
+            QObject context;
+            connect(&t.bench.window, &DeviceWindow::screenShown, &context, [&](Screen& dialog) {
+                QTimer::singleShot(0, &context, [&] {
+                    QCOMPARE(static_cast<SelectDialog&>(dialog).selection(), 684);
+                    QTest::keyClick(t.bench.window.focusWidget(), Qt::Key_Down);
+                    QTest::keyClick(t.bench.window.focusWidget(), Qt::Key_Down);
+                    dialog.sendCommand(Commands::Done);
+                });
+            });
+            QTest::keyClick(t.bench.window.focusWidget(), Qt::Key_Return);
+            QCOMPARE(t.screen.slotCity(1), 686u);
+            QCOMPARE(t.registry.GetDWORD(ClockKey, L"clock1"), 686u);
+            QCOMPARE(t.screen.shownName(1), QStringLiteral("C0686"));
+        });
+    }
+
+    void theHomeCityBecomesAWeatherFavourite()
+    {
+        WorldClockBench t;
+        QCOMPARE(t.favourites.count(), 0);
+        t.run([&] {
+            QCOMPARE(t.favourites.count(), 1);
+            QCOMPARE(t.favourites.getName(0), L"C0000");
+            QCOMPARE(t.favourites.getLocationCode(0), L"1000");
+            QCOMPARE(t.favourites.getLastUpdate(0), L"01/01/2000");
+            QCOMPARE(t.favourites.getCountryFile(0), L"Land");
+            // "wetp" was missing: it takes the home city's catalogue index.
+            QCOMPARE(t.registry.GetDWORD(L"Wanderkit\\weather", L"wetp"), 0u);
+            QCOMPARE(t.registry.Status(), RegistrySettings::Read);
+        });
+    }
+
+    void theActionKeyOnAWeatherIconAddsTheCity()
+    {
+        WorldClockBench t;
+        t.run([&] {
+            for (int i = 0; i < 3; ++i)
+                QTest::keyClick(t.bench.window.focusWidget(), Qt::Key_Right); // "w1"
+            QTest::keyClick(t.bench.window.focusWidget(), Qt::Key_Return);
+            QCOMPARE(t.favourites.count(), 2);
+            QVERIFY(t.favourites.findByName(L"C0684") != 0);
+            QCOMPARE(t.bench.boxes.size(), std::size_t(1));
+            QCOMPARE(t.bench.boxes[0].text, QStringLiteral("This city has been added to the Favorites List."));
+            // A favourite already: nothing more is added.
+            QTest::keyClick(t.bench.window.focusWidget(), Qt::Key_Return);
+            QCOMPARE(t.favourites.count(), 2);
+        });
+    }
+
+    void theClockTicksEverySecond()
+    {
+        WorldClockBench t;
+        t.bench.clock.set(FakeDeviceClock::at(2026, 1, 5, 23, 59, 58));
+        t.run([&] {
+            QCOMPARE(t.screen.shownTime(0), QStringLiteral("23:59:58"));
+            t.bench.clock.advanceSeconds(2);
+            QTRY_COMPARE_WITH_TIMEOUT(t.screen.shownTime(0), QStringLiteral("00:00:00"), 3000);
+            QCOMPARE(t.screen.shownDate(0), QStringLiteral("6/1/2026 Tue"));
+        });
+    }
+};
+
+QTEST_MAIN(WorldClockScreenTest)
+#include "WorldClockScreenTest.moc"
