@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/CommandRunner.h"
 
+#include "cli/CityCommands.h"
 #include "cli/DialCommand.h"
 #include "cli/SizesCommand.h"
 
@@ -17,8 +18,11 @@ using Command = std::function<int(const StartOptions&, std::ostream&, std::ostre
 const std::map<std::string, Command>& commands()
 {
     static const std::map<std::string, Command> table {
+        {"cities", RunCitiesCommand},
+        {"city", RunCityCommand},
         {"dial", RunDialCommand},
         {"sizes", RunSizesCommand},
+        {"time", RunTimeCommand},
     };
     return table;
 }

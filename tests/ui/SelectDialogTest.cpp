@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "screens/select/SelectDialog.h"
+
 #include "CityFixture.h"
 #include "ScreenTestBench.h"
-
-#include "screens/select/SelectDialog.h"
 #include "store/CityCatalogue.h"
 #include "store/CurrencyStore.h"
 #include "store/InitialCurrencyList.h"
@@ -49,7 +49,8 @@ private slots:
                     QStringLiteral("Time zone (GMT): 5h30")}},
             {FakeDeviceClock::at(2026, 7, 13, 12, 0, 0), 684,
                 {QStringLiteral("City: C0684"), QStringLiteral("Country: Land"), QStringLiteral("Long/Lat: 2.35/48.85"),
-                    QStringLiteral("Daylight Saving: Observing Now"), QStringLiteral("DST start/end: 8/3/2026-1/11/2026"),
+                    QStringLiteral("Daylight Saving: Observing Now"),
+                    QStringLiteral("DST start/end: 8/3/2026-1/11/2026"),
                     QStringLiteral("Time zone (GMT): -5h + 1h (DST)")}},
             {FakeDeviceClock::at(2026, 1, 13, 12, 0, 0), 684,
                 {QStringLiteral("City: C0684"), QStringLiteral("Country: Land"), QStringLiteral("Long/Lat: 2.35/48.85"),

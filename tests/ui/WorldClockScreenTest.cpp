@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "screens/worldclock/WorldClockScreen.h"
+
 #include "CityFixture.h"
 #include "ScreenTestBench.h"
-
 #include "screens/select/SelectDialog.h"
-#include "screens/worldclock/WorldClockScreen.h"
 #include "settings/RegistrySettings.h"
 #include "store/CityCatalogue.h"
 #include "store/WeatherFavourites.h"
@@ -57,7 +57,8 @@ private slots:
             const std::array<std::uint32_t, 5> expected {0, 684, 756, 565, 988};
             for (int slot = 0; slot < 5; ++slot) {
                 QCOMPARE(t.screen.slotCity(slot), expected[static_cast<std::size_t>(slot)]);
-                QCOMPARE(t.screen.shownName(slot), QStringLiteral("C%1").arg(expected[static_cast<std::size_t>(slot)], 4, 10, QLatin1Char('0')));
+                QCOMPARE(t.screen.shownName(slot),
+                    QStringLiteral("C%1").arg(expected[static_cast<std::size_t>(slot)], 4, 10, QLatin1Char('0')));
             }
             // "syncltz" is read first and created as 1, which creates the key: the clock values that
             // follow find their key and are only written when the screen is left.
@@ -111,7 +112,8 @@ private slots:
             const char* time;
             const char* suffix;
         };
-        const Case cases[] = {{0, "12:15:00", "AM"}, {9, "09:15:00", "AM"}, {12, "12:15:00", "PM"}, {23, "11:15:00", "PM"}};
+        const Case cases[]
+            = {{0, "12:15:00", "AM"}, {9, "09:15:00", "AM"}, {12, "12:15:00", "PM"}, {23, "11:15:00", "PM"}};
         for (const Case& c : cases) {
             WorldClockBench t;
             t.registry.SetDWORD(L"Wanderkit", L"twelvehour", 1);

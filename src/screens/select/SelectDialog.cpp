@@ -2,9 +2,8 @@
 #include "screens/select/SelectDialog.h"
 
 #include "device/DeviceClock.h"
-#include "settings/SettingsTable.h"
-#include "time/CityPanelValues.h"
-#include "time/ClockOffsets.h"
+#include "store/HomeCity.h"
+#include "time/CityInformation.h"
 #include "ui/Painting.h"
 #include "ui/Spinner.h"
 
@@ -15,17 +14,10 @@ namespace {
 constexpr int SelectMenuBar = 106;
 constexpr int TitleHeight = 25; // T
 constexpr int SpinnerSize = 25; // S
-// Panel labels: "City", "Country", "Long/Lat", "Daylight Saving", "DST start/end", "Time zone (GMT)".
-constexpr std::array<int, 6> PanelLabelIds {40022, 40023, 40024, 40026, 40030, 40031};
 
 QString fromWide(const std::wstring& text)
 {
     return QString::fromStdWString(text);
-}
-
-CityZoneTexts zoneTexts(const CityRecord& city)
-{
-    return {city.timeZone, city.daylightRule};
 }
 
 // The panel font, made smaller for a line that would not fit the screen's width.
@@ -99,31 +91,15 @@ void SelectDialog::listChanged(int index)
 
 void SelectDialog::computePanel()
 {
-    m_panelValues = {};
+    m_panelLines.clear();
     const int index = m_list->currentIndex();
     if (m_mode != Mode::City || index < 0)
         return;
-    const CityRecord city = m_cities.Record(static_cast<std::uint32_t>(index));
-    // The World Clocks device offset: from the home city, synchronisation off.
-    const std::uint32_t home = m_settings.GetDWORD(Settings::HomeClock.subkey, Settings::HomeClock.name);
-    const CityRecord homeCity = m_cities.Record(m_settings.Status() == RegistrySettings::Read ? home : 0);
     const DeviceClock& clock = environment().clock;
-    const SystemTime now = clock.localTime();
-    const DeviceOffset device = ComputeDeviceOffset(false, clock.standardBias(), zoneTexts(homeCity), now);
-    const CityPanelValues values = ComputeCityPanelValues(zoneTexts(city), device, now);
-    m_panelValues = {fromWide(city.name), fromWide(city.country),
-        fromWide(city.coordinate1) + QLatin1Char('/') + fromWide(city.coordinate2), fromWide(values.status),
-        fromWide(values.period), fromWide(values.timeZone)};
-}
-
-QStringList SelectDialog::panelLines() const
-{
-    QStringList lines;
-    if (m_mode != Mode::City)
-        return lines;
-    for (std::size_t i = 0; i < PanelLabelIds.size(); ++i)
-        lines << Painting::loadString(PanelLabelIds[i]) + QStringLiteral(": ") + m_panelValues[i];
-    return lines;
+    const DeviceOffset device = HomeCity::deviceOffset(m_cities, HomeCity::position(m_settings), clock);
+    const CityRecord city = m_cities.Record(static_cast<std::uint32_t>(index));
+    for (const std::wstring& line : CityInformationLines(city, device, clock.localTime()))
+        m_panelLines << QString::fromStdWString(line);
 }
 
 void SelectDialog::layout(int width, int)
@@ -147,7 +123,7 @@ void SelectDialog::paint(QPainter& painter)
         return;
     Painting::drawBand(painter, m_infoBand, Painting::ShellBand, Painting::loadString(40021), m_titleFont);
     painter.setPen(Qt::black);
-    const QStringList lines = panelLines();
+    const QStringList& lines = m_panelLines;
     const int width = workWidth() - 10;
     for (int i = 0; i < lines.size(); ++i) {
         const QFont font = fittedFont(m_panelFont, lines[i], width);

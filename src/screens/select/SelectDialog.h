@@ -8,8 +8,6 @@
 
 #include <QFont>
 
-#include <array>
-
 class Spinner;
 
 // Chooses a city from the catalogue or a currency from the currency store. The caller sets the mode
@@ -28,7 +26,7 @@ public:
     void setSelection(int selection) { m_selection = selection; }
     int selection() const { return m_selection; }
     // The six panel lines ("label: value") of the highlighted city; empty in currency mode.
-    QStringList panelLines() const;
+    const QStringList& panelLines() const { return m_panelLines; }
 
 protected:
     void initialise() override;
@@ -48,7 +46,7 @@ private:
     CurrencyStore m_currencies;
     RegistrySettings m_settings;
     Spinner* m_list;
-    std::array<QString, 6> m_panelValues;
+    QStringList m_panelLines;
     QFont m_titleFont;
     QFont m_listFont;
     QFont m_panelFont;

@@ -3,6 +3,7 @@
 
 #include "TempDir.h"
 
+#include <cstdio>
 #include <map>
 #include <string>
 

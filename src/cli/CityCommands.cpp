@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/CityCommands.h"
+
+#include "cli/CityLookup.h"
+#include "cli/CoreSession.h"
+#include "store/HomeCity.h"
+#include "text/WideText.h"
+#include "time/CalendarDays.h"
+#include "time/CityInformation.h"
+#include "time/ClockOffsets.h"
+#include "time/ClockSlotText.h"
+#include "time/TwelveHourTime.h"
+
+#include <ostream>
+
+namespace {
+
+constexpr int UsageError = 2;
+
+std::string joined(const std::vector<std::string>& words)
+{
+    std::string text;
+    for (const std::string& word : words)
+        text += (text.empty() ? "" : " ") + word;
+    return text;
+}
+
+// Resolves one CITY word; prints the reason and gives nothing when it names no single city.
+std::optional<std::uint32_t> findCity(CoreSession& session, const std::string& word, std::ostream& err)
+{
+    std::string error;
+    const auto position = CityLookup(session.cities()).find(word, error);
+    if (!position)
+        err << "wanderkit: " << error << '\n';
+    return position;
+}
+
+struct TimeRequest
+{
+    std::vector<std::string> cities;
+    std::optional<std::string> home;
+    bool twelveHour = false;
+};
+
+std::optional<TimeRequest> parseTimeRequest(const std::vector<std::string>& args, std::ostream& err)
+{
+    TimeRequest request;
+    for (std::size_t i = 0; i < args.size(); ++i) {
+        if (args[i] == "--twelve-hour") {
+            request.twelveHour = true;
+        } else if (args[i] == "--home" && i + 1 < args.size()) {
+            request.home = args[++i];
+        } else if (args[i].starts_with("--home=")) {
+            request.home = args[i].substr(7);
+        } else if (args[i].starts_with("-")) {
+            err << "wanderkit: time: unknown option " << args[i] << "\nUsage: wanderkit time CITY... [--home CITY] "
+                << "[--twelve-hour]\n";
+            return std::nullopt;
+        } else {
+            request.cities.push_back(args[i]);
+        }
+    }
+    if (request.cities.empty()) {
+        err << "wanderkit: time: name at least one city\nUsage: wanderkit time CITY... [--home CITY] [--twelve-hour]\n";
+        return std::nullopt;
+    }
+    return request;
+}
+
+std::string dayMonthYear(const ClockSlot& slot, const SystemTime& date)
+{
+    return slot.observes ? WideToUtf8(FormatDayMonthYear(date)) : "-";
+}
+
+} // namespace
+
+int RunCitiesCommand(const StartOptions& options, std::ostream& out, std::ostream& err)
+{
+    auto session = CoreSession::open(options, err);
+    if (!session)
+        return 1;
+    const std::wstring text = FoldLatin1(Utf8ToWide(joined(options.commandArgs)));
+    CityCatalogue& cities = session->cities();
+    const std::uint32_t count = cities.Count();
+    for (std::uint32_t i = 0; i < count; ++i) {
+        const CityRecord city = cities.Record(i);
+        if (FoldLatin1(city.name + L":" + city.country).find(text) == std::wstring::npos)
+            continue;
+        out << i << '\t' << WideToUtf8(city.name) << '\t' << WideToUtf8(city.country) << '\t'
+            << WideToUtf8(city.coordinate1) << '\t' << WideToUtf8(city.coordinate2) << '\t' << WideToUtf8(city.timeZone)
+            << '\t' << WideToUtf8(city.daylightRule) << '\n';
+    }
+    return 0;
+}
+
+int RunTimeCommand(const StartOptions& options, std::ostream& out, std::ostream& err)
+{
+    const auto request = parseTimeRequest(options.commandArgs, err);
+    if (!request)
+        return UsageError;
+    auto session = CoreSession::open(options, err);
+    if (!session)
+        return 1;
+    std::uint32_t home = HomeCity::position(session->settings());
+    if (request->home) {
+        const auto found = findCity(*session, *request->home, err);
+        if (!found)
+            return UsageError;
+        home = *found;
+    }
+    std::vector<std::uint32_t> positions;
+    for (const std::string& word : request->cities) {
+        const auto found = findCity(*session, word, err);
+        if (!found)
+            return UsageError;
+        positions.push_back(*found);
+    }
+    CityCatalogue& cities = session->cities();
+    const SystemTime now = session->clock().localTime();
+    const DeviceOffset device = HomeCity::deviceOffset(cities, home, session->clock());
+    for (const std::uint32_t position : positions) {
+        const CityRecord city = cities.Record(position);
+        const ClockSlot slot = ComputeCitySlot({city.timeZone, city.daylightRule}, device, now);
+        const ClockSlotText text = FormatCitySlot(slot, device, now);
+        const std::wstring time = request->twelveHour ? ToTwelveHour(text.time).withSuffix() : text.time;
+        out << position << '\t' << WideToUtf8(city.name) << '\t' << WideToUtf8(time) << '\t' << WideToUtf8(text.date)
+            << '\t' << slot.offset << '\t' << slot.observes << '\t' << dayMonthYear(slot, slot.start) << '\t'
+            << dayMonthYear(slot, slot.end) << '\n';
+    }
+    return 0;
+}
+
+int RunCityCommand(const StartOptions& options, std::ostream& out, std::ostream& err)
+{
+    if (options.commandArgs.size() != 1 || options.commandArgs[0].starts_with("-")) {
+        err << "wanderkit: city: name one city\nUsage: wanderkit city CITY\n";
+        return UsageError;
+    }
+    auto session = CoreSession::open(options, err);
+    if (!session)
+        return 1;
+    const auto position = findCity(*session, options.commandArgs[0], err);
+    if (!position)
+        return UsageError;
+    CityCatalogue& cities = session->cities();
+    const DeviceOffset device
+        = HomeCity::deviceOffset(cities, HomeCity::position(session->settings()), session->clock());
+    for (const std::wstring& line :
+        CityInformationLines(cities.Record(*position), device, session->clock().localTime()))
+        out << WideToUtf8(line) << '\n';
+    return 0;
+}

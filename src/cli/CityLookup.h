@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+class CityCatalogue;
+
+// Finds the city a command-line word names: a catalogue position ("684"), a city name ("Paris") or
+// "city:country" ("Paris:France"), names compared without regard to case.
+class CityLookup
+{
+public:
+    explicit CityLookup(CityCatalogue& cities);
+
+    // The position, or nothing with `error` saying why: no such position, the nearest names for an
+    // unknown name, or the candidates of an ambiguous one.
+    std::optional<std::uint32_t> find(const std::string& word, std::string& error) const;
+
+private:
+    std::string nearestNames(const std::wstring& wanted) const;
+
+    CityCatalogue& m_cities;
+};

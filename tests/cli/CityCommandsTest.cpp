@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "CityFixture.h"
+#include "TempDir.h"
+#include "cli/CommandRunner.h"
+#include "device/SystemDeviceClock.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+namespace {
+
+struct Result
+{
+    int code;
+    std::string out;
+    std::string err;
+};
+
+// Each test gets a device root with the fixture catalogue and an empty state folder.
+class CityCommands : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        // C0000 (home) on +1 with a European rule; C0684 on -5 with a North American one; two cities
+        // that share the name "Twin".
+        CityFixture::write(device, {{0, "1;1;88;2;298;3"}, {684, "-5;1;67;2;305;2"}, {10, "530;0;0;0;0;0"}});
+    }
+
+    Result run(
+        const std::string& command, const std::vector<std::string>& args, const char* now = "2026-07-13 09:05:00")
+    {
+        StartOptions options;
+        options.command = command;
+        options.commandArgs = args;
+        options.stateDir = state.path();
+        options.deviceRoot = device.path();
+        options.now = SystemDeviceClock::parseLocalTime(now);
+        std::ostringstream out, err;
+        const int code = RunCommand(options, out, err);
+        return {code, out.str(), err.str()};
+    }
+
+    TempDir device;
+    TempDir state;
+};
+
+} // namespace
+
+TEST_F(CityCommands, CitiesListsTheMatchingCatalogueEntries)
+{
+    const Result all = run("cities", {});
+    EXPECT_EQ(all.code, 0);
+    EXPECT_EQ(std::count(all.out.begin(), all.out.end(), '\n'), 1000);
+    const Result some = run("cities", {"c068"});
+    EXPECT_EQ(some.out.substr(0, some.out.find('\n')), "680\tC0680\tLand\t2.35\t48.85\t0\t0:0:0:0:0");
+    EXPECT_NE(some.out.find("684\tC0684\tLand\t2.35\t48.85\t-5\t1:67:2:305:2\n"), std::string::npos);
+    EXPECT_EQ(run("cities", {"nowhere"}).out, "");
+}
+
+TEST_F(CityCommands, TimeShowsWhatAWorldClockShows)
+{
+    struct Case
+    {
+        std::vector<std::string> args;
+        std::string out;
+    };
+    const Case cases[] = {
+        // Device time is the home city's (+2 in July): GMT 07:05.
+        {{"684"}, "684\tC0684\t03:05\t13/7 Done\t-4\t1\t8/3/2026\t1/11/2026\n"},
+        {{"c0010"}, "10\tC0010\t12:35\t13/7 Done\t530\t0\t-\t-\n"},
+        {{"C0684:Land", "--twelve-hour"}, "684\tC0684\t03:05 AM\t13/7 Done\t-4\t1\t8/3/2026\t1/11/2026\n"},
+        // A home on GMT moves the device offset: New York is then four hours behind device time.
+        {{"684", "--home", "C0001"}, "684\tC0684\t05:05\t13/7 Done\t-4\t1\t8/3/2026\t1/11/2026\n"},
+    };
+    for (const Case& c : cases) {
+        const Result result = run("time", c.args);
+        EXPECT_EQ(result.code, 0) << result.err;
+        EXPECT_EQ(result.out, c.out);
+    }
+}
+
+TEST_F(CityCommands, CityPrintsTheInformationPanel)
+{
+    const Result result = run("city", {"C0684"}, "2026-01-13 12:00:00");
+    EXPECT_EQ(result.code, 0);
+    EXPECT_EQ(result.out,
+        "City: C0684\nCountry: Land\nLong/Lat: 2.35/48.85\nDaylight Saving: Not observing now\n"
+        "DST start/end: 8/3/2026-1/11/2026\nTime zone (GMT): -5h\n");
+}
+
+TEST_F(CityCommands, UnknownAndAmbiguousCitiesAreUsageErrors)
+{
+    const Result unknown = run("city", {"C068"});
+    EXPECT_EQ(unknown.code, 2);
+    EXPECT_NE(unknown.err.find("nearest names are: C0680"), std::string::npos) << unknown.err;
+    EXPECT_EQ(run("time", {"4000"}).code, 2);
+    EXPECT_EQ(run("time", {}).code, 2);
+    EXPECT_EQ(run("time", {"684", "--frobnicate"}).code, 2);
+    EXPECT_EQ(run("city", {}).code, 2);
+
+    // Two cities of the same name in two countries.
+    TempDir twins;
+    twins.write("cities.lst", "h\n2\nx;Twin;Alpha;0;0;0;0;0;0;0;0\nx;Twin;Beta;0;0;0;0;0;0;0;0\n");
+    StartOptions options;
+    options.command = "city";
+    options.commandArgs = {"twin"};
+    options.stateDir = twins.path() / "state";
+    options.deviceRoot = twins.path();
+    std::ostringstream out, err;
+    EXPECT_EQ(RunCommand(options, out, err), 2);
+    EXPECT_NE(err.str().find("0 Twin:Alpha"), std::string::npos) << err.str();
+    EXPECT_NE(err.str().find("1 Twin:Beta"), std::string::npos);
+    options.commandArgs = {"Twin:Beta"};
+    EXPECT_EQ(RunCommand(options, out, err), 0);
+}
