@@ -362,6 +362,11 @@ void WorldClockScreen::paintFocus(QPainter& painter) const
 
 void WorldClockScreen::timerTick(int)
 {
+    refresh();
+}
+
+void WorldClockScreen::refresh()
+{
     const auto before = m_texts;
     const SystemTime now = environment().clock.localTime();
     // Once a minute the offsets are computed again, so a daylight-saving change shows at once.

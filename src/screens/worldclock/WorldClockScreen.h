@@ -36,6 +36,8 @@ public:
     QString shownDate(int slot) const;
     QString shownName(int slot) const;
     bool twelveHour() const { return m_twelveHour; }
+    // One tick of the clock: new texts from the device clock, and a repaint of what changed.
+    void refresh();
     void tourVisit() override;
 
 protected:
