@@ -2,6 +2,7 @@
 #include "store/ObjectStore.h"
 
 #include "store/StateFile.h"
+#include "text/WideText.h"
 
 #include <array>
 
@@ -60,10 +61,43 @@ std::unique_ptr<ObjectStore> ObjectStore::openInMemory()
 
 ObjectStore::Stamp ObjectStore::stamp()
 {
-    Stamp stamp;
-    stamp.localChanges = m_connection->changeCount();
-    SqliteQuery version = m_connection->query("PRAGMA data_version");
-    if (version.next())
-        stamp.dataVersion = version.integer(0);
-    return stamp;
+    // PRAGMA data_version takes and drops a lock on the shared-memory index (about 2 us): too slow to run
+    // before each of a thousand reads by position.
+    const auto now = std::chrono::steady_clock::now();
+    if (m_dataVersion < 0 || now - m_versionCheckedAt >= OtherWritersInterval) {
+        SqliteQuery version = m_connection->query("PRAGMA data_version");
+        if (version.next())
+            m_dataVersion = version.integer(0);
+        m_versionCheckedAt = now;
+    }
+    return {m_dataVersion, m_connection->changeCount()};
+}
+
+std::vector<StoredRecord> ObjectStore::records(std::int64_t databaseId)
+{
+    std::vector<StoredRecord> records;
+    SqliteQuery rows = m_connection->query("SELECT r.id, p.prop, p.value FROM records r "
+                                           "LEFT JOIN properties p ON p.record = r.id "
+                                           "WHERE r.db = ?1 ORDER BY r.id, p.slot");
+    rows.bind(1, databaseId);
+    while (rows.next()) {
+        const std::int64_t id = rows.integer(0);
+        if (records.empty() || records.back().id != id)
+            records.push_back({id, {}});
+        if (!rows.isNull(1))
+            records.back().properties.push_back({static_cast<PropertyId>(rows.integer(1)), Utf8ToWide(rows.text(2))});
+    }
+    return records;
+}
+
+std::shared_ptr<const RecordIndex> ObjectStore::traversal(
+    std::int64_t databaseId, PropertyId sortId, bool caseInsensitive)
+{
+    const Stamp now = stamp();
+    CachedIndex& cached = m_indexes[{databaseId, sortId, caseInsensitive}];
+    if (!cached.index || !(cached.stamp == now)) {
+        cached.index = std::make_shared<const RecordIndex>(records(databaseId), sortId, caseInsensitive);
+        cached.stamp = now;
+    }
+    return cached.index;
 }

@@ -49,20 +49,23 @@ void PropertyDatabase::Create(
     if (!connection.query("INSERT INTO databases(name, type) VALUES(?1, ?2)")
              .bind(1, utf8(name))
              .bind(2, std::int64_t {type})
-             .run())
+             .run()) {
+        transaction.commit(); // a database of that name exists: nothing was written
         return;
+    }
     const std::int64_t id = connection.lastInsertId();
     const auto orders = std::min({static_cast<std::size_t>(std::max(sortCount, 0)), MaxSortOrders, sortIds.size()});
-    for (std::size_t slot = 0; slot < orders; ++slot) {
+    bool written = true;
+    for (std::size_t slot = 0; written && slot < orders; ++slot) {
         const std::uint32_t flags = sortMode == 2 && slot == 0 ? CaseInsensitive : 0;
-        connection.query("INSERT INTO sort_orders(db, slot, prop, flags) VALUES(?1, ?2, ?3, ?4)")
-            .bind(1, id)
-            .bind(2, static_cast<std::int64_t>(slot))
-            .bind(3, std::int64_t {sortIds[slot]})
-            .bind(4, std::int64_t {flags})
-            .run();
+        written = connection.query("INSERT INTO sort_orders(db, slot, prop, flags) VALUES(?1, ?2, ?3, ?4)")
+                      .bind(1, id)
+                      .bind(2, static_cast<std::int64_t>(slot))
+                      .bind(3, std::int64_t {sortIds[slot]})
+                      .bind(4, std::int64_t {flags})
+                      .run();
     }
-    if (transaction.commit()) {
+    if (written && transaction.commit()) {
         m_databaseId = id;
         connection.noteChange();
     }
@@ -124,47 +127,26 @@ void PropertyDatabase::Close()
     m_current = 0;
     m_atEnd = false;
     m_sortOrders.clear();
-    m_index = RecordIndex();
-    m_indexValid = false;
+    m_index.reset();
 }
 
 bool PropertyDatabase::refreshIndex()
 {
     if (!m_open)
         return false;
-    const ObjectStore::Stamp stamp = m_store.stamp();
-    if (m_indexValid && stamp == m_indexStamp)
-        return true;
-    std::vector<StoredRecord> records;
-    {
-        SqliteQuery rows = m_store.connection().query(
-            "SELECT r.id, p.prop, p.value FROM records r LEFT JOIN properties p ON p.record = r.id "
-            "WHERE r.db = ?1 ORDER BY r.id, p.slot");
-        rows.bind(1, m_databaseId);
-        while (rows.next()) {
-            const std::int64_t id = rows.integer(0);
-            if (records.empty() || records.back().id != id)
-                records.push_back({id, {}});
-            if (!rows.isNull(1))
-                records.back().properties.push_back(
-                    {static_cast<PropertyId>(rows.integer(1)), Utf8ToWide(rows.text(2))});
-        }
-    }
-    m_index = RecordIndex(std::move(records), m_traversal.id, (m_traversal.flags & CaseInsensitive) != 0);
-    m_indexValid = true;
-    m_indexStamp = stamp;
+    m_index = m_store.traversal(m_databaseId, m_traversal.id, (m_traversal.flags & CaseInsensitive) != 0);
     return true;
 }
 
 const StoredRecord* PropertyDatabase::current() const
 {
-    const auto position = m_current == 0 ? std::nullopt : m_index.positionOf(m_current);
-    return position ? &m_index.at(*position) : nullptr;
+    const auto position = m_current == 0 ? std::nullopt : m_index->positionOf(m_current);
+    return position ? &m_index->at(*position) : nullptr;
 }
 
 std::uint16_t PropertyDatabase::RecordCount()
 {
-    return refreshIndex() ? static_cast<std::uint16_t>(m_index.size()) : 0;
+    return refreshIndex() ? static_cast<std::uint16_t>(m_index->size()) : 0;
 }
 
 bool PropertyDatabase::SeekFirst()
@@ -182,10 +164,10 @@ bool PropertyDatabase::SeekLast()
 PropertyDatabase::RecordId PropertyDatabase::SeekTo(std::uint32_t position, bool fromEnd)
 {
     m_current = 0;
-    if (!refreshIndex() || position >= m_index.size())
+    if (!refreshIndex() || position >= m_index->size())
         return 0;
-    const std::size_t at = fromEnd ? m_index.size() - 1 - position : position;
-    m_current = m_index.at(at).id;
+    const std::size_t at = fromEnd ? m_index->size() - 1 - position : position;
+    m_current = m_index->at(at).id;
     m_atEnd = false;
     return m_current;
 }
@@ -200,14 +182,14 @@ bool PropertyDatabase::Next()
 // Moves to the next record of the current index; the cursor stays on the last record at the end.
 bool PropertyDatabase::step()
 {
-    const auto position = m_index.positionOf(m_current);
+    const auto position = m_index->positionOf(m_current);
     if (!position) {
         m_current = 0;
         return false;
     }
-    if (*position + 1 >= m_index.size())
+    if (*position + 1 >= m_index->size())
         return false;
-    m_current = m_index.at(*position + 1).id;
+    m_current = m_index->at(*position + 1).id;
     return true;
 }
 
@@ -230,7 +212,7 @@ PropertyDatabase::RecordId PropertyDatabase::SeekEqual(const Property& value)
     // the first match in traversal order is wanted.
     RecordId first = matches.front();
     if (value.id != m_traversal.id && refreshIndex()) {
-        const auto position = [this](RecordId id) { return m_index.positionOf(id).value_or(m_index.size()); };
+        const auto position = [this](RecordId id) { return m_index->positionOf(id).value_or(m_index->size()); };
         first = *std::min_element(
             matches.begin(), matches.end(), [&](RecordId a, RecordId b) { return position(a) < position(b); });
     }
@@ -244,9 +226,9 @@ const StoredRecord* PropertyDatabase::readRecord(std::uint32_t position)
 {
     m_atEnd = false;
     m_current = 0;
-    if (!refreshIndex() || position >= m_index.size())
+    if (!refreshIndex() || position >= m_index->size())
         return nullptr;
-    const StoredRecord* record = &m_index.at(position);
+    const StoredRecord* record = &m_index->at(position);
     m_current = record->id;
     if (m_autoAdvance)
         m_atEnd = !step();
@@ -318,13 +300,19 @@ bool PropertyDatabase::writeProperty(RecordId record, const Property& property)
         .run();
 }
 
+// Sets the modification time once per transaction: a load of a thousand records stamps it once.
 bool PropertyDatabase::touch()
 {
-    return m_store.connection()
-        .query("UPDATE databases SET modified = ?2 WHERE id = ?1")
-        .bind(1, m_databaseId)
-        .bind(2, static_cast<std::int64_t>(fileTimeNow()))
-        .run();
+    SqliteConnection& connection = m_store.connection();
+    if (m_touchedIn == connection.transactionSerial())
+        return true;
+    const bool stamped = connection.query("UPDATE databases SET modified = ?2 WHERE id = ?1")
+                             .bind(1, m_databaseId)
+                             .bind(2, static_cast<std::int64_t>(fileTimeNow()))
+                             .run();
+    if (stamped)
+        m_touchedIn = connection.transactionSerial();
+    return stamped;
 }
 
 bool PropertyDatabase::recordExists(RecordId record)
@@ -407,5 +395,6 @@ bool PropertyDatabase::SetLastModified(std::uint32_t low, std::uint32_t high)
                          .bind(2, static_cast<std::int64_t>(time))
                          .run();
     connection.noteChange();
+    m_touchedIn = 0; // a later write stamps the time again
     return set && m_databaseId != 0;
 }

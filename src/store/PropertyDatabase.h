@@ -6,6 +6,7 @@
 #include "store/RecordIndex.h"
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
@@ -14,8 +15,7 @@
 
 // One record database of the object store, with a cursor over its records. Records hold string
 // properties; positions count records in the traversal order (the first sort order, or the one chosen by
-// OpenSorted). Reads by position are served from an in-memory copy of that order, renewed whenever the
-// stored data changed (through this process or another one).
+// OpenSorted). Reads by position are served from the store's in-memory copy of that order.
 class PropertyDatabase
 {
 public:
@@ -101,7 +101,6 @@ private:
     bool m_atEnd = false;
     RecordId m_current = 0; // the record under the cursor, 0 for none
 
-    RecordIndex m_index;
-    bool m_indexValid = false;
-    ObjectStore::Stamp m_indexStamp;
+    std::shared_ptr<const RecordIndex> m_index; // the traversal as of the last operation
+    std::uint64_t m_touchedIn = 0; // the transaction that last set the modification time
 };
