@@ -4,6 +4,7 @@
 #include "text/WideText.h"
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 
 namespace {
@@ -201,7 +202,9 @@ PropertyDatabase::RecordId PropertyDatabase::SeekEqual(const Property& value)
     std::vector<RecordId> matches;
     {
         SqliteQuery found = m_store.connection().query(
-            "SELECT record FROM properties WHERE db = ?1 AND prop = ?2 AND lookup = ?3 ORDER BY record");
+            "SELECT id FROM records WHERE (db = ?1 AND prop0 = ?2 AND lookup0 = ?3) "
+            "OR (db = ?1 AND prop1 = ?2 AND lookup1 = ?3) OR (db = ?1 AND prop2 = ?2 AND lookup2 = ?3) "
+            "OR (db = ?1 AND prop3 = ?2 AND lookup3 = ?3) ORDER BY id");
         found.bind(1, m_databaseId).bind(2, std::int64_t {value.id}).bind(3, utf8(lookupText(value.id, value.text)));
         while (found.next())
             matches.push_back(found.integer(0));
@@ -264,40 +267,45 @@ std::wstring PropertyDatabase::lookupText(PropertyId id, std::wstring_view text)
     return fold ? FoldLatin1(storable(text)) : std::wstring(storable(text));
 }
 
-bool PropertyDatabase::insertProperty(RecordId record, std::size_t slot, const Property& property)
+// Binds a property to the three parameters of its slot, from `first` on.
+void PropertyDatabase::bindSlot(SqliteQuery& query, int first, const Property& property) const
 {
-    return m_store.connection()
-        .query("INSERT INTO properties(record, slot, db, prop, value, lookup) VALUES(?1, ?2, ?3, ?4, ?5, ?6)")
-        .bind(1, record)
-        .bind(2, static_cast<std::int64_t>(slot))
-        .bind(3, m_databaseId)
-        .bind(4, std::int64_t {property.id})
-        .bind(5, utf8(storable(property.text)))
-        .bind(6, utf8(lookupText(property.id, property.text)))
-        .run();
+    query.bind(first, std::int64_t {property.id})
+        .bind(first + 1, utf8(storable(property.text)))
+        .bind(first + 2, utf8(lookupText(property.id, property.text)));
 }
 
+// Writes one property into its slot of `record`: the slot holding that identifier, or the first free one.
 bool PropertyDatabase::writeProperty(RecordId record, const Property& property)
 {
+    static constexpr std::array<const char*, MaxSortOrders> UpdateSlot = {
+        "UPDATE records SET prop0 = ?2, value0 = ?3, lookup0 = ?4 WHERE id = ?1",
+        "UPDATE records SET prop1 = ?2, value1 = ?3, lookup1 = ?4 WHERE id = ?1",
+        "UPDATE records SET prop2 = ?2, value2 = ?3, lookup2 = ?4 WHERE id = ?1",
+        "UPDATE records SET prop3 = ?2, value3 = ?3, lookup3 = ?4 WHERE id = ?1",
+    };
     SqliteConnection& connection = m_store.connection();
-    std::int64_t slots = 0;
-    bool present = false;
+    std::optional<std::size_t> same;
+    std::optional<std::size_t> free;
     {
-        SqliteQuery existing = connection.query("SELECT count(*), sum(prop = ?2) FROM properties WHERE record = ?1");
-        existing.bind(1, record).bind(2, std::int64_t {property.id});
-        if (existing.next()) {
-            slots = existing.integer(0);
-            present = existing.integer(1) > 0;
+        SqliteQuery slots = connection.query("SELECT prop0, prop1, prop2, prop3 FROM records WHERE id = ?1");
+        if (!slots.bind(1, record).next())
+            return false;
+        for (std::size_t i = 0; i < MaxSortOrders && !same; ++i) {
+            const int column = static_cast<int>(i);
+            if (slots.isNull(column))
+                free = free.value_or(i);
+            else if (slots.integer(column) == property.id)
+                same = i;
         }
     }
-    if (!present)
-        return insertProperty(record, static_cast<std::size_t>(slots), property);
-    return connection.query("UPDATE properties SET value = ?3, lookup = ?4 WHERE record = ?1 AND prop = ?2")
-        .bind(1, record)
-        .bind(2, std::int64_t {property.id})
-        .bind(3, utf8(storable(property.text)))
-        .bind(4, utf8(lookupText(property.id, property.text)))
-        .run();
+    const auto slot = same ? same : free;
+    if (!slot)
+        return false; // a record holds four properties
+    SqliteQuery update = connection.query(UpdateSlot[*slot]);
+    update.bind(1, record);
+    bindSlot(update, 2, property);
+    return update.run();
 }
 
 // Sets the modification time once per transaction: a load of a thousand records stamps it once.
@@ -315,12 +323,6 @@ bool PropertyDatabase::touch()
     return stamped;
 }
 
-bool PropertyDatabase::recordExists(RecordId record)
-{
-    SqliteQuery exists = m_store.connection().query("SELECT 1 FROM records WHERE id = ?1 AND db = ?2");
-    return exists.bind(1, record).bind(2, m_databaseId).next();
-}
-
 bool PropertyDatabase::Add(std::span<const Property> properties, int keyIndex)
 {
     if (!m_open)
@@ -330,12 +332,14 @@ bool PropertyDatabase::Add(std::span<const Property> properties, int keyIndex)
         return false;
     SqliteConnection& connection = m_store.connection();
     ObjectStore::Transaction transaction(connection);
-    bool written = connection.query("INSERT INTO records(db) VALUES(?1)").bind(1, m_databaseId).run();
-    const RecordId record = connection.lastInsertId();
-    for (std::size_t slot = 0; written && slot < std::min(properties.size(), m_propertyCount); ++slot)
-        written = insertProperty(record, slot, properties[slot]);
-    written = written && touch() && transaction.commit();
-    if (!written)
+    SqliteQuery insert = connection.query("INSERT INTO records(db, prop0, value0, lookup0, prop1, value1, lookup1, "
+                                          "prop2, value2, lookup2, prop3, value3, lookup3) "
+                                          "VALUES(?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9, ?10, ?11, ?12, ?13)");
+    insert.bind(1, m_databaseId);
+    const std::size_t written = std::min({properties.size(), m_propertyCount, MaxSortOrders});
+    for (std::size_t slot = 0; slot < written; ++slot)
+        bindSlot(insert, 2 + 3 * static_cast<int>(slot), properties[slot]);
+    if (!insert.run() || !touch() || !transaction.commit())
         return false;
     connection.noteChange();
     if (m_autoAdvance)
@@ -350,7 +354,7 @@ bool PropertyDatabase::UpdateAt(std::uint32_t position, std::span<const Property
 
 bool PropertyDatabase::UpdateCurrent(std::span<const Property> properties)
 {
-    if (!m_open || m_current == 0 || !recordExists(m_current))
+    if (!m_open || m_current == 0)
         return false;
     SqliteConnection& connection = m_store.connection();
     ObjectStore::Transaction transaction(connection);
@@ -370,8 +374,7 @@ bool PropertyDatabase::DeleteAt(std::uint32_t position)
         return false;
     SqliteConnection& connection = m_store.connection();
     ObjectStore::Transaction transaction(connection);
-    const bool deleted = connection.query("DELETE FROM properties WHERE record = ?1").bind(1, record).run()
-        && connection.query("DELETE FROM records WHERE id = ?1").bind(1, record).run() && touch()
+    const bool deleted = connection.query("DELETE FROM records WHERE id = ?1").bind(1, record).run() && touch()
         && transaction.commit();
     if (deleted) {
         connection.noteChange();

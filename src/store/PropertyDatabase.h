@@ -86,10 +86,9 @@ private:
     bool step();
     const StoredRecord* readRecord(std::uint32_t position);
     std::wstring lookupText(PropertyId id, std::wstring_view text) const;
-    bool insertProperty(RecordId record, std::size_t slot, const Property& property);
+    void bindSlot(SqliteQuery& query, int first, const Property& property) const;
     bool writeProperty(RecordId record, const Property& property);
     bool touch();
-    bool recordExists(RecordId record);
 
     ObjectStore& m_store;
     std::int64_t m_databaseId = 0; // the object identifier, set by Create and Open

@@ -25,11 +25,11 @@ struct Device
     std::unique_ptr<ObjectStore> store = ObjectStore::openInMemory();
 };
 
-std::vector<std::wstring> citiesAndCountries(CityCatalogue& catalogue)
+std::vector<std::wstring> citiesCountriesAndCoordinates(CityCatalogue& catalogue)
 {
     std::vector<std::wstring> texts;
     for (std::uint32_t i = 0; i < catalogue.Count(); ++i)
-        texts.push_back(catalogue.CityName(i) + L"|" + catalogue.Country(i));
+        texts.push_back(catalogue.CityName(i) + L"|" + catalogue.Country(i) + L"|" + catalogue.Coordinate1(i));
     return texts;
 }
 
@@ -39,80 +39,40 @@ const std::string Header = "Wanderkit cities\n";
 
 TEST(CityCatalogue, LoadsTheCitiesFile)
 {
+    // Data lines: label;city;country;coordinate;coordinate;zone;rule 1;rule 2;rule 3;rule 4;rest.
+    const std::string rome = "1;Rome;Italy;12.5;41.9;1;a;b;c;d;e\n";
+    const std::string paris = "2;Paris;France;2.3;48.8;1;a;b;c;d;e\n";
+    const std::string texas = "3;Paris;Texas;-95.5;33.6;-6;a;b;c;d;e\n";
+    const std::string secondRome = "4;Rome;Italy;0;0;0;a;b;c;d;e\n";
     struct Case
     {
         const char* what;
-        std::string file;
-        std::vector<std::wstring> cities; // "city|country" in catalogue order
+        std::string afterHeader;
+        std::vector<std::wstring> cities; // "city|country|coordinate 1" in catalogue order
     };
     const Case cases[] = {
-        {"sorted by city and country",
-            Header
-                + "3\n"
-                  "1;Rome;Italy;12.5;41.9;1;a;b;c;d;e\n"
-                  "2;Paris;France;2.3;48.8;1;a;b;c;d;e\n"
-                  "3;Paris;Texas;-95.5;33.6;-6;a;b;c;d;e\n",
-            {L"Paris|France", L"Paris|Texas", L"Rome|Italy"}},
-        {"the first city with a city and country wins; the count is not adjusted",
-            Header
-                + "3\n"
-                  "1;Oslo;Norway;1;1;1;a;b;c;d;e\n"
-                  "2;Oslo;Norway;2;2;2;a;b;c;d;e\n"
-                  "3;Bergen;Norway;3;3;1;a;b;c;d;e\n",
-            {L"Bergen|Norway", L"Oslo|Norway"}},
-        {"'>' as country ends the load without that line",
-            Header
-                + "3\n"
-                  "1;Rome;Italy;1;1;1;a;b;c;d;e\n"
-                  "2;End;>;2;2;2;a;b;c;d;e\n"
-                  "3;Oslo;Norway;3;3;1;a;b;c;d;e\n",
-            {L"Rome|Italy"}},
-        {"'>' as second coordinate ends the load",
-            Header
-                + "2\n"
-                  "1;Rome;Italy;1;1;1;a;b;c;d;e\n"
-                  "2;End;X;2;>;2;a;b;c;d;e\n",
-            {L"Rome|Italy"}},
-        {"'>' as rule field 4 ends the load",
-            Header
-                + "2\n"
-                  "1;Rome;Italy;1;1;1;a;b;c;d;e\n"
-                  "2;End;X;2;2;2;a;b;c;>;e\n",
-            {L"Rome|Italy"}},
-        {"'>' elsewhere is text",
-            Header
-                + "1\n"
-                  "1;>;X;>;2;>;>;>;>;d;e\n",
-            {L">|X"}},
-        {"'>' inside a field is text",
-            Header
-                + "1\n"
-                  "1;Rome;>>;1;1;1;a;b;c;d;e\n",
-            {L"Rome|>>"}},
-        {"a count larger than the lines adds one empty city",
-            Header
-                + "5\n"
-                  "1;Rome;Italy;1;1;1;a;b;c;d;e\n",
-            {L"|", L"Rome|Italy"}},
-        {"a count smaller than the lines reads that many",
-            Header
-                + "1\n"
-                  "1;Rome;Italy;1;1;1;a;b;c;d;e\n"
-                  "2;Oslo;Norway;1;1;1;a;b;c;d;e\n",
-            {L"Rome|Italy"}},
-        {"a count of 0", Header + "0\n1;Rome;Italy;1;1;1;a;b;c;d;e\n", {}},
-        {"a negative count", Header + "-4\n1;Rome;Italy;1;1;1;a;b;c;d;e\n", {}},
-        {"a huge count ends at the end of the file", Header + "2147483647\n1;Rome;Italy;1;1;1;a;b;c;d;e\n",
-            {L"|", L"Rome|Italy"}},
-        {"bytes above 127 are Latin-1", Header + "1\n1;Z\xFCrich;Schweiz;1;1;1;a;b;c;d;e\n", {L"Z\u00FCrich|Schweiz"}},
-        {"an empty file", "", {}},
+        {"sorted by city and country", "3\n" + rome + paris + texas,
+            {L"Paris|France|2.3", L"Paris|Texas|-95.5", L"Rome|Italy|12.5"}},
+        {"the first line of a city and country wins", "3\n" + rome + secondRome + paris,
+            {L"Paris|France|2.3", L"Rome|Italy|12.5"}},
+        {"'>' as country ends the load", "3\n" + rome + "2;End;>;2;2;2;a;b;c;d;e\n" + paris, {L"Rome|Italy|12.5"}},
+        {"'>' as second coordinate ends the load", "2\n" + rome + "2;End;X;2;>;2;a;b;c;d;e\n", {L"Rome|Italy|12.5"}},
+        {"'>' as rule field 4 ends the load", "2\n" + rome + "2;End;X;2;2;2;a;b;c;>;e\n", {L"Rome|Italy|12.5"}},
+        {"'>' in other fields is text", "1\n1;>;X;>;2;>;>;>;>;d;>\n", {L">|X|>"}},
+        {"'>' inside a field is text", "1\n1;Rome;>>;1;1;1;a;b;c;d;e\n", {L"Rome|>>|1"}},
+        {"a count larger than the lines adds one empty city", "5\n" + rome, {L"||", L"Rome|Italy|12.5"}},
+        {"a huge count ends at the end of the file", "2147483647\n" + rome, {L"||", L"Rome|Italy|12.5"}},
+        {"a count smaller than the lines reads that many", "1\n" + rome + paris, {L"Rome|Italy|12.5"}},
+        {"a count of 0", "0\n" + rome, {}},
+        {"a negative count", "-4\n" + rome, {}},
+        {"bytes above 127 are Latin-1", "1\n1;Z\xFCrich;Schweiz;1;1;1;a;b;c;d;e\n", {L"Z\u00FCrich|Schweiz|1"}},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
-        Device device(c.file);
+        Device device(Header + c.afterHeader);
         auto catalogue = device.catalogue();
         catalogue.Load();
-        EXPECT_EQ(citiesAndCountries(catalogue), c.cities);
+        EXPECT_EQ(citiesCountriesAndCoordinates(catalogue), c.cities);
         EXPECT_TRUE(device.messages.messages.empty());
     }
 }
