@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "device/DevicePaths.h"
+#include "settings/RegistrySettings.h"
 #include "store/CityCatalogue.h"
 #include "support/RecordingMessageSink.h"
 #include "support/TempDir.h"
@@ -92,4 +93,27 @@ TEST(CrashSafety, AKilledFirstStartLoadLeavesNothingHalfDone)
     // The moments must have hit both sides of the commit for the test to mean anything.
     EXPECT_GT(complete, 0);
     EXPECT_GT(interrupted, 0);
+}
+
+// A setting is on disk when the write returns: a process killed right after it loses nothing.
+TEST(CrashSafety, AWrittenSettingOutlivesItsProcess)
+{
+    TempDir dir;
+    const auto file = dir.path() / "registry.db";
+    for (std::uint32_t value = 1; value <= 5; ++value) {
+        const pid_t child = fork();
+        if (child == 0) {
+            RecordingMessageSink messages;
+            if (auto hive = SettingsHive::open(file, messages))
+                RegistrySettings(*hive).SetDWORD(L"Wanderkit\\map", L"mapclock", value);
+            raise(SIGKILL);
+        }
+        int status = 0;
+        waitpid(child, &status, 0);
+        RecordingMessageSink messages;
+        auto hive = SettingsHive::open(file, messages);
+        ASSERT_TRUE(hive);
+        EXPECT_EQ(RegistrySettings(*hive).GetDWORD(L"Wanderkit\\map", L"mapclock"), value);
+        EXPECT_TRUE(messages.messages.empty());
+    }
 }

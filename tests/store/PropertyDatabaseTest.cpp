@@ -239,11 +239,15 @@ TEST(PropertyDatabase, SeesWritesOfOtherAccessorsAndProcesses)
     EXPECT_EQ(otherConnection.ReadAt(0, Key), L"a") << "seen after a moment in another process";
     EXPECT_EQ(otherConnection.RecordCount(), 2);
 
-    // A rolled-back write is forgotten by the in-memory order too.
+    // A rolled-back write is forgotten by the in-memory order too; while it is pending, a reader on
+    // another connection is not held up and sees the committed records.
     {
         ObjectStore::Transaction transaction(first->connection());
         writer.Add(record(L"0", L""), 0);
         EXPECT_EQ(sameStore.ReadAt(0, Key), L"0");
+        std::this_thread::sleep_for(ObjectStore::OtherWritersInterval + std::chrono::milliseconds(1));
+        EXPECT_EQ(otherConnection.ReadAt(0, Key), L"a");
+        EXPECT_EQ(otherConnection.RecordCount(), 2);
     }
     EXPECT_EQ(sameStore.ReadAt(0, Key), L"a");
     EXPECT_EQ(sameStore.RecordCount(), 2);
