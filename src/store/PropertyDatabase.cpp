@@ -19,11 +19,6 @@ std::uint64_t fileTimeNow()
         + static_cast<std::uint64_t>(std::chrono::duration_cast<std::chrono::nanoseconds>(sinceEpoch).count() / 100);
 }
 
-std::string utf8(std::wstring_view text)
-{
-    return WideToUtf8(text);
-}
-
 // A stored string ends at its first null character, as a C string would.
 std::wstring_view storable(std::wstring_view text)
 {
@@ -48,7 +43,7 @@ void PropertyDatabase::Create(
     ObjectStore::Transaction transaction(connection);
     m_databaseId = 0;
     if (!connection.query("INSERT INTO databases(name, type) VALUES(?1, ?2)")
-             .bind(1, utf8(name))
+             .bind(1, WideToUtf8(name))
              .bind(2, std::int64_t {type})
              .run()) {
         transaction.commit(); // a database of that name exists: nothing was written
@@ -82,39 +77,41 @@ bool PropertyDatabase::OpenSorted(std::wstring_view name, PropertyId id)
     return openWith(name, id);
 }
 
+std::optional<std::int64_t> PropertyDatabase::findDatabase(std::wstring_view name)
+{
+    SqliteQuery database = m_store.connection().query("SELECT id FROM databases WHERE name = ?1");
+    if (!database.bind(1, WideToUtf8(name)).next())
+        return std::nullopt;
+    return database.integer(0);
+}
+
+std::vector<PropertyDatabase::SortOrder> PropertyDatabase::sortOrdersOf(std::int64_t databaseId)
+{
+    std::vector<SortOrder> orders;
+    SqliteQuery sorts = m_store.connection().query("SELECT prop, flags FROM sort_orders WHERE db = ?1 ORDER BY slot");
+    sorts.bind(1, databaseId);
+    while (sorts.next())
+        orders.push_back({static_cast<PropertyId>(sorts.integer(0)), static_cast<std::uint32_t>(sorts.integer(1))});
+    return orders;
+}
+
 bool PropertyDatabase::openWith(std::wstring_view name, std::optional<PropertyId> sortId)
 {
     Close();
-    SqliteConnection& connection = m_store.connection();
-    std::int64_t id = 0;
-    {
-        SqliteQuery database = connection.query("SELECT id FROM databases WHERE name = ?1");
-        if (!database.bind(1, utf8(name)).next())
-            return false;
-        id = database.integer(0);
-    }
-    std::vector<SortOrder> orders;
-    {
-        SqliteQuery sorts = connection.query("SELECT prop, flags FROM sort_orders WHERE db = ?1 ORDER BY slot");
-        sorts.bind(1, id);
-        while (sorts.next())
-            orders.push_back({static_cast<PropertyId>(sorts.integer(0)), static_cast<std::uint32_t>(sorts.integer(1))});
-    }
-    SortOrder traversal;
-    if (sortId) {
-        const auto found
-            = std::find_if(orders.begin(), orders.end(), [&](const SortOrder& o) { return o.id == *sortId; });
-        if (found == orders.end())
-            return false;
-        traversal = *found;
-    } else if (!orders.empty()) {
-        traversal = orders.front();
-    }
-    m_databaseId = id;
+    const auto id = findDatabase(name);
+    if (!id)
+        return false;
+    std::vector<SortOrder> orders = sortOrdersOf(*id);
+    const auto traversal = sortId
+        ? std::find_if(orders.begin(), orders.end(), [&](const SortOrder& o) { return o.id == *sortId; })
+        : orders.begin();
+    if (sortId && traversal == orders.end())
+        return false;
+    m_traversal = traversal == orders.end() ? SortOrder {} : *traversal;
+    m_databaseId = *id;
     m_open = true;
     m_propertyCount = orders.size();
     m_sortOrders = std::move(orders);
-    m_traversal = traversal;
     m_autoAdvance = true;
     m_atEnd = false;
     SeekFirst();
@@ -137,12 +134,6 @@ bool PropertyDatabase::refreshIndex()
         return false;
     m_index = m_store.traversal(m_databaseId, m_traversal.id, (m_traversal.flags & CaseInsensitive) != 0);
     return true;
-}
-
-const StoredRecord* PropertyDatabase::current() const
-{
-    const auto position = m_current == 0 ? std::nullopt : m_index->positionOf(m_current);
-    return position ? &m_index->at(*position) : nullptr;
 }
 
 std::uint16_t PropertyDatabase::RecordCount()
@@ -205,7 +196,9 @@ PropertyDatabase::RecordId PropertyDatabase::SeekEqual(const Property& value)
             "SELECT id FROM records WHERE (db = ?1 AND prop0 = ?2 AND lookup0 = ?3) "
             "OR (db = ?1 AND prop1 = ?2 AND lookup1 = ?3) OR (db = ?1 AND prop2 = ?2 AND lookup2 = ?3) "
             "OR (db = ?1 AND prop3 = ?2 AND lookup3 = ?3) ORDER BY id");
-        found.bind(1, m_databaseId).bind(2, std::int64_t {value.id}).bind(3, utf8(lookupText(value.id, value.text)));
+        found.bind(1, m_databaseId)
+            .bind(2, std::int64_t {value.id})
+            .bind(3, WideToUtf8(lookupText(value.id, value.text)));
         while (found.next())
             matches.push_back(found.integer(0));
     }
@@ -271,8 +264,8 @@ std::wstring PropertyDatabase::lookupText(PropertyId id, std::wstring_view text)
 void PropertyDatabase::bindSlot(SqliteQuery& query, int first, const Property& property) const
 {
     query.bind(first, std::int64_t {property.id})
-        .bind(first + 1, utf8(storable(property.text)))
-        .bind(first + 2, utf8(lookupText(property.id, property.text)));
+        .bind(first + 1, WideToUtf8(storable(property.text)))
+        .bind(first + 2, WideToUtf8(lookupText(property.id, property.text)));
 }
 
 // Writes one property into its slot of `record`: the slot holding that identifier, or the first free one.

@@ -79,10 +79,11 @@ private:
         std::uint32_t flags = 0;
     };
 
+    std::optional<std::int64_t> findDatabase(std::wstring_view name);
+    std::vector<SortOrder> sortOrdersOf(std::int64_t databaseId);
     // Opens with the traversal of `sortId`'s order, or of the first order when there is none.
     bool openWith(std::wstring_view name, std::optional<PropertyId> sortId);
     bool refreshIndex();
-    const StoredRecord* current() const;
     bool step();
     const StoredRecord* readRecord(std::uint32_t position);
     std::wstring lookupText(PropertyId id, std::wstring_view text) const;
@@ -96,7 +97,7 @@ private:
     std::vector<SortOrder> m_sortOrders;
     SortOrder m_traversal; // the order positions are counted in
     std::size_t m_propertyCount = 0; // the number of sort orders; also the properties written by Add
-    bool m_autoAdvance = false;
+    bool m_autoAdvance = false; // set by every open: a read or a write moves on to the next record
     bool m_atEnd = false;
     RecordId m_current = 0; // the record under the cursor, 0 for none
 
