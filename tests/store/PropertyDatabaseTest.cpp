@@ -202,20 +202,6 @@ TEST(PropertyDatabase, WritesThePropertyCountAndKeepsWhatAStringCanHold)
     EXPECT_EQ(all[1].text.size(), 999u);
 }
 
-TEST(PropertyDatabase, ModificationTime)
-{
-    auto store = ObjectStore::openInMemory();
-    auto database = created(*store, 1);
-    EXPECT_EQ(database.LastModified(), 0u);
-    database.Add(record(L"a", L""), 0);
-    const std::uint64_t afterWrite = database.LastModified();
-    EXPECT_GT(afterWrite, 133000000000000000ULL) << "a write stamps the time of day (after 2022)";
-    EXPECT_TRUE(database.SetLastModified(0x89ABCDEF, 0x01234567));
-    EXPECT_EQ(database.LastModified(), 0x0123456789ABCDEFULL);
-    EXPECT_TRUE(database.SetLastModified(0, 0));
-    EXPECT_EQ(database.LastModified(), 0u);
-}
-
 TEST(PropertyDatabase, SeesWritesOfOtherAccessorsAndProcesses)
 {
     TempDir dir;

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "store/StateFile.h"
 
 #include "settings/RegistrySettings.h"
 #include "settings/SettingsHive.h"
@@ -170,20 +169,4 @@ TEST(StateFile, NothingWhenNoFileCanBeCreated)
     EXPECT_EQ(SettingsHive::open(dir.path() / "plain" / "registry.db", messages), nullptr);
     EXPECT_EQ(ObjectStore::open(dir.path() / "plain" / "objectstore.db", messages), nullptr);
     EXPECT_TRUE(messages.messages.empty());
-}
-
-TEST(StateFile, SetAsideNames)
-{
-    TempDir dir;
-    std::tm time {};
-    time.tm_year = 2026 - 1900;
-    time.tm_mon = 10;
-    time.tm_mday = 22;
-    time.tm_hour = 9;
-    time.tm_min = 5;
-    time.tm_sec = 7;
-    const auto file = dir.path() / "registry.db";
-    EXPECT_EQ(StateFile::setAsideName(file, time), dir.path() / "registry.db.broken-20261122-090507");
-    dir.write("registry.db.broken-20261122-090507", "");
-    EXPECT_EQ(StateFile::setAsideName(file, time), dir.path() / "registry.db.broken-20261122-090507-2");
 }
