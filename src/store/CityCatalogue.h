@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "device/DevicePaths.h"
+#include "device/MessageSink.h"
 #include "store/CityRecord.h"
 #include "store/PropertyDatabase.h"
 
 #include <cstdint>
 #include <string>
 
-class DevicePaths;
 class DelimitedFieldReader;
-class MessageSink;
 
 // The city catalogue "wdkCities", filled once from "\cities.lst". A city is referred to by its position
 // in ascending order of "city:country".

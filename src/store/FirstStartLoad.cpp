@@ -3,13 +3,19 @@
 
 namespace {
 
+bool isFilled(PropertyDatabase& database, const DatabaseShape& shape)
+{
+    return database.Open(shape.name) && database.RecordCount() > 0;
+}
+
 FirstStartLoad::Result loadInTransaction(ObjectStore& store, PropertyDatabase& database, const DatabaseShape& shape,
     const std::function<bool(PropertyDatabase&)>& fill)
 {
     ObjectStore::Transaction transaction(store.connection());
     if (!transaction.active())
         return FirstStartLoad::Result::Failed;
-    if (database.Open(shape.name) && database.RecordCount() > 0)
+    // Another process may have filled it since the first look.
+    if (isFilled(database, shape))
         return transaction.commit() ? FirstStartLoad::Result::AlreadyFilled : FirstStartLoad::Result::Failed;
     database.Create(shape.name, shape.type, static_cast<int>(shape.sortIds.size()), shape.sortIds, shape.sortMode);
     if (!database.Open(shape.name))
@@ -25,6 +31,9 @@ FirstStartLoad::Result loadInTransaction(ObjectStore& store, PropertyDatabase& d
 FirstStartLoad::Result FirstStartLoad::run(ObjectStore& store, PropertyDatabase& database, const DatabaseShape& shape,
     const std::function<bool(PropertyDatabase&)>& fill)
 {
+    // The usual case, a filled database, needs no write lock.
+    if (isFilled(database, shape))
+        return Result::AlreadyFilled;
     const Result result = loadInTransaction(store, database, shape, fill);
     // After a rollback the handle may name a database that no longer exists: open what is really there.
     if (result == Result::Failed)

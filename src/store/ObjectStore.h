@@ -1,13 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "store/Property.h"
+#include "store/RecordIndex.h"
 #include "store/SqliteConnection.h"
 #include "store/SqliteTransaction.h"
 
-#include <compare>
+#include <chrono>
 #include <cstdint>
 #include <filesystem>
+#include <map>
 #include <memory>
+#include <tuple>
 
 class MessageSink;
 
@@ -33,12 +37,29 @@ public:
     static std::unique_ptr<ObjectStore> open(const std::filesystem::path& file, MessageSink& messages);
     static std::unique_ptr<ObjectStore> openInMemory();
 
+    // Another process's commits are looked for at most this often; this process's writes are seen at once.
+    static constexpr std::chrono::milliseconds OtherWritersInterval {10};
+
     SqliteConnection& connection() { return *m_connection; }
     Stamp stamp();
 
+    // The records of database `databaseId` in the traversal order of property `sortId`, shared by every
+    // accessor of this store and rebuilt when the stored data has changed.
+    std::shared_ptr<const RecordIndex> traversal(std::int64_t databaseId, PropertyId sortId, bool caseInsensitive);
+
 private:
+    struct CachedIndex
+    {
+        Stamp stamp;
+        std::shared_ptr<const RecordIndex> index;
+    };
+
     explicit ObjectStore(std::unique_ptr<SqliteConnection> connection);
     static bool prepare(SqliteConnection& connection);
+    std::vector<StoredRecord> records(std::int64_t databaseId);
 
     std::unique_ptr<SqliteConnection> m_connection;
+    std::int64_t m_dataVersion = -1;
+    std::chrono::steady_clock::time_point m_versionCheckedAt;
+    std::map<std::tuple<std::int64_t, PropertyId, bool>, CachedIndex> m_indexes;
 };

@@ -4,6 +4,7 @@
 #include "text/WideText.h"
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 
 namespace {
@@ -16,11 +17,6 @@ std::uint64_t fileTimeNow()
     const auto sinceEpoch = std::chrono::system_clock::now().time_since_epoch();
     return UnixEpochAsFileTime
         + static_cast<std::uint64_t>(std::chrono::duration_cast<std::chrono::nanoseconds>(sinceEpoch).count() / 100);
-}
-
-std::string utf8(std::wstring_view text)
-{
-    return WideToUtf8(text);
 }
 
 // A stored string ends at its first null character, as a C string would.
@@ -47,22 +43,25 @@ void PropertyDatabase::Create(
     ObjectStore::Transaction transaction(connection);
     m_databaseId = 0;
     if (!connection.query("INSERT INTO databases(name, type) VALUES(?1, ?2)")
-             .bind(1, utf8(name))
+             .bind(1, WideToUtf8(name))
              .bind(2, std::int64_t {type})
-             .run())
+             .run()) {
+        transaction.commit(); // a database of that name exists: nothing was written
         return;
+    }
     const std::int64_t id = connection.lastInsertId();
     const auto orders = std::min({static_cast<std::size_t>(std::max(sortCount, 0)), MaxSortOrders, sortIds.size()});
-    for (std::size_t slot = 0; slot < orders; ++slot) {
+    bool written = true;
+    for (std::size_t slot = 0; written && slot < orders; ++slot) {
         const std::uint32_t flags = sortMode == 2 && slot == 0 ? CaseInsensitive : 0;
-        connection.query("INSERT INTO sort_orders(db, slot, prop, flags) VALUES(?1, ?2, ?3, ?4)")
-            .bind(1, id)
-            .bind(2, static_cast<std::int64_t>(slot))
-            .bind(3, std::int64_t {sortIds[slot]})
-            .bind(4, std::int64_t {flags})
-            .run();
+        written = connection.query("INSERT INTO sort_orders(db, slot, prop, flags) VALUES(?1, ?2, ?3, ?4)")
+                      .bind(1, id)
+                      .bind(2, static_cast<std::int64_t>(slot))
+                      .bind(3, std::int64_t {sortIds[slot]})
+                      .bind(4, std::int64_t {flags})
+                      .run();
     }
-    if (transaction.commit()) {
+    if (written && transaction.commit()) {
         m_databaseId = id;
         connection.noteChange();
     }
@@ -78,39 +77,41 @@ bool PropertyDatabase::OpenSorted(std::wstring_view name, PropertyId id)
     return openWith(name, id);
 }
 
+std::optional<std::int64_t> PropertyDatabase::findDatabase(std::wstring_view name)
+{
+    SqliteQuery database = m_store.connection().query("SELECT id FROM databases WHERE name = ?1");
+    if (!database.bind(1, WideToUtf8(name)).next())
+        return std::nullopt;
+    return database.integer(0);
+}
+
+std::vector<PropertyDatabase::SortOrder> PropertyDatabase::sortOrdersOf(std::int64_t databaseId)
+{
+    std::vector<SortOrder> orders;
+    SqliteQuery sorts = m_store.connection().query("SELECT prop, flags FROM sort_orders WHERE db = ?1 ORDER BY slot");
+    sorts.bind(1, databaseId);
+    while (sorts.next())
+        orders.push_back({static_cast<PropertyId>(sorts.integer(0)), static_cast<std::uint32_t>(sorts.integer(1))});
+    return orders;
+}
+
 bool PropertyDatabase::openWith(std::wstring_view name, std::optional<PropertyId> sortId)
 {
     Close();
-    SqliteConnection& connection = m_store.connection();
-    std::int64_t id = 0;
-    {
-        SqliteQuery database = connection.query("SELECT id FROM databases WHERE name = ?1");
-        if (!database.bind(1, utf8(name)).next())
-            return false;
-        id = database.integer(0);
-    }
-    std::vector<SortOrder> orders;
-    {
-        SqliteQuery sorts = connection.query("SELECT prop, flags FROM sort_orders WHERE db = ?1 ORDER BY slot");
-        sorts.bind(1, id);
-        while (sorts.next())
-            orders.push_back({static_cast<PropertyId>(sorts.integer(0)), static_cast<std::uint32_t>(sorts.integer(1))});
-    }
-    SortOrder traversal;
-    if (sortId) {
-        const auto found
-            = std::find_if(orders.begin(), orders.end(), [&](const SortOrder& o) { return o.id == *sortId; });
-        if (found == orders.end())
-            return false;
-        traversal = *found;
-    } else if (!orders.empty()) {
-        traversal = orders.front();
-    }
-    m_databaseId = id;
+    const auto id = findDatabase(name);
+    if (!id)
+        return false;
+    std::vector<SortOrder> orders = sortOrdersOf(*id);
+    const auto traversal = sortId
+        ? std::find_if(orders.begin(), orders.end(), [&](const SortOrder& o) { return o.id == *sortId; })
+        : orders.begin();
+    if (sortId && traversal == orders.end())
+        return false;
+    m_traversal = traversal == orders.end() ? SortOrder {} : *traversal;
+    m_databaseId = *id;
     m_open = true;
     m_propertyCount = orders.size();
     m_sortOrders = std::move(orders);
-    m_traversal = traversal;
     m_autoAdvance = true;
     m_atEnd = false;
     SeekFirst();
@@ -124,47 +125,20 @@ void PropertyDatabase::Close()
     m_current = 0;
     m_atEnd = false;
     m_sortOrders.clear();
-    m_index = RecordIndex();
-    m_indexValid = false;
+    m_index.reset();
 }
 
 bool PropertyDatabase::refreshIndex()
 {
     if (!m_open)
         return false;
-    const ObjectStore::Stamp stamp = m_store.stamp();
-    if (m_indexValid && stamp == m_indexStamp)
-        return true;
-    std::vector<StoredRecord> records;
-    {
-        SqliteQuery rows = m_store.connection().query(
-            "SELECT r.id, p.prop, p.value FROM records r LEFT JOIN properties p ON p.record = r.id "
-            "WHERE r.db = ?1 ORDER BY r.id, p.slot");
-        rows.bind(1, m_databaseId);
-        while (rows.next()) {
-            const std::int64_t id = rows.integer(0);
-            if (records.empty() || records.back().id != id)
-                records.push_back({id, {}});
-            if (!rows.isNull(1))
-                records.back().properties.push_back(
-                    {static_cast<PropertyId>(rows.integer(1)), Utf8ToWide(rows.text(2))});
-        }
-    }
-    m_index = RecordIndex(std::move(records), m_traversal.id, (m_traversal.flags & CaseInsensitive) != 0);
-    m_indexValid = true;
-    m_indexStamp = stamp;
+    m_index = m_store.traversal(m_databaseId, m_traversal.id, (m_traversal.flags & CaseInsensitive) != 0);
     return true;
-}
-
-const StoredRecord* PropertyDatabase::current() const
-{
-    const auto position = m_current == 0 ? std::nullopt : m_index.positionOf(m_current);
-    return position ? &m_index.at(*position) : nullptr;
 }
 
 std::uint16_t PropertyDatabase::RecordCount()
 {
-    return refreshIndex() ? static_cast<std::uint16_t>(m_index.size()) : 0;
+    return refreshIndex() ? static_cast<std::uint16_t>(m_index->size()) : 0;
 }
 
 bool PropertyDatabase::SeekFirst()
@@ -182,10 +156,10 @@ bool PropertyDatabase::SeekLast()
 PropertyDatabase::RecordId PropertyDatabase::SeekTo(std::uint32_t position, bool fromEnd)
 {
     m_current = 0;
-    if (!refreshIndex() || position >= m_index.size())
+    if (!refreshIndex() || position >= m_index->size())
         return 0;
-    const std::size_t at = fromEnd ? m_index.size() - 1 - position : position;
-    m_current = m_index.at(at).id;
+    const std::size_t at = fromEnd ? m_index->size() - 1 - position : position;
+    m_current = m_index->at(at).id;
     m_atEnd = false;
     return m_current;
 }
@@ -200,14 +174,14 @@ bool PropertyDatabase::Next()
 // Moves to the next record of the current index; the cursor stays on the last record at the end.
 bool PropertyDatabase::step()
 {
-    const auto position = m_index.positionOf(m_current);
+    const auto position = m_index->positionOf(m_current);
     if (!position) {
         m_current = 0;
         return false;
     }
-    if (*position + 1 >= m_index.size())
+    if (*position + 1 >= m_index->size())
         return false;
-    m_current = m_index.at(*position + 1).id;
+    m_current = m_index->at(*position + 1).id;
     return true;
 }
 
@@ -219,8 +193,12 @@ PropertyDatabase::RecordId PropertyDatabase::SeekEqual(const Property& value)
     std::vector<RecordId> matches;
     {
         SqliteQuery found = m_store.connection().query(
-            "SELECT record FROM properties WHERE db = ?1 AND prop = ?2 AND lookup = ?3 ORDER BY record");
-        found.bind(1, m_databaseId).bind(2, std::int64_t {value.id}).bind(3, utf8(lookupText(value.id, value.text)));
+            "SELECT id FROM records WHERE (db = ?1 AND prop0 = ?2 AND lookup0 = ?3) "
+            "OR (db = ?1 AND prop1 = ?2 AND lookup1 = ?3) OR (db = ?1 AND prop2 = ?2 AND lookup2 = ?3) "
+            "OR (db = ?1 AND prop3 = ?2 AND lookup3 = ?3) ORDER BY id");
+        found.bind(1, m_databaseId)
+            .bind(2, std::int64_t {value.id})
+            .bind(3, WideToUtf8(lookupText(value.id, value.text)));
         while (found.next())
             matches.push_back(found.integer(0));
     }
@@ -230,7 +208,7 @@ PropertyDatabase::RecordId PropertyDatabase::SeekEqual(const Property& value)
     // the first match in traversal order is wanted.
     RecordId first = matches.front();
     if (value.id != m_traversal.id && refreshIndex()) {
-        const auto position = [this](RecordId id) { return m_index.positionOf(id).value_or(m_index.size()); };
+        const auto position = [this](RecordId id) { return m_index->positionOf(id).value_or(m_index->size()); };
         first = *std::min_element(
             matches.begin(), matches.end(), [&](RecordId a, RecordId b) { return position(a) < position(b); });
     }
@@ -244,9 +222,9 @@ const StoredRecord* PropertyDatabase::readRecord(std::uint32_t position)
 {
     m_atEnd = false;
     m_current = 0;
-    if (!refreshIndex() || position >= m_index.size())
+    if (!refreshIndex() || position >= m_index->size())
         return nullptr;
-    const StoredRecord* record = &m_index.at(position);
+    const StoredRecord* record = &m_index->at(position);
     m_current = record->id;
     if (m_autoAdvance)
         m_atEnd = !step();
@@ -282,55 +260,60 @@ std::wstring PropertyDatabase::lookupText(PropertyId id, std::wstring_view text)
     return fold ? FoldLatin1(storable(text)) : std::wstring(storable(text));
 }
 
-bool PropertyDatabase::insertProperty(RecordId record, std::size_t slot, const Property& property)
+// Binds a property to the three parameters of its slot, from `first` on.
+void PropertyDatabase::bindSlot(SqliteQuery& query, int first, const Property& property) const
 {
-    return m_store.connection()
-        .query("INSERT INTO properties(record, slot, db, prop, value, lookup) VALUES(?1, ?2, ?3, ?4, ?5, ?6)")
-        .bind(1, record)
-        .bind(2, static_cast<std::int64_t>(slot))
-        .bind(3, m_databaseId)
-        .bind(4, std::int64_t {property.id})
-        .bind(5, utf8(storable(property.text)))
-        .bind(6, utf8(lookupText(property.id, property.text)))
-        .run();
+    query.bind(first, std::int64_t {property.id})
+        .bind(first + 1, WideToUtf8(storable(property.text)))
+        .bind(first + 2, WideToUtf8(lookupText(property.id, property.text)));
 }
 
+// Writes one property into its slot of `record`: the slot holding that identifier, or the first free one.
 bool PropertyDatabase::writeProperty(RecordId record, const Property& property)
 {
+    static constexpr std::array<const char*, MaxSortOrders> UpdateSlot = {
+        "UPDATE records SET prop0 = ?2, value0 = ?3, lookup0 = ?4 WHERE id = ?1",
+        "UPDATE records SET prop1 = ?2, value1 = ?3, lookup1 = ?4 WHERE id = ?1",
+        "UPDATE records SET prop2 = ?2, value2 = ?3, lookup2 = ?4 WHERE id = ?1",
+        "UPDATE records SET prop3 = ?2, value3 = ?3, lookup3 = ?4 WHERE id = ?1",
+    };
     SqliteConnection& connection = m_store.connection();
-    std::int64_t slots = 0;
-    bool present = false;
+    std::optional<std::size_t> same;
+    std::optional<std::size_t> free;
     {
-        SqliteQuery existing = connection.query("SELECT count(*), sum(prop = ?2) FROM properties WHERE record = ?1");
-        existing.bind(1, record).bind(2, std::int64_t {property.id});
-        if (existing.next()) {
-            slots = existing.integer(0);
-            present = existing.integer(1) > 0;
+        SqliteQuery slots = connection.query("SELECT prop0, prop1, prop2, prop3 FROM records WHERE id = ?1");
+        if (!slots.bind(1, record).next())
+            return false;
+        for (std::size_t i = 0; i < MaxSortOrders && !same; ++i) {
+            const int column = static_cast<int>(i);
+            if (slots.isNull(column))
+                free = free.value_or(i);
+            else if (slots.integer(column) == property.id)
+                same = i;
         }
     }
-    if (!present)
-        return insertProperty(record, static_cast<std::size_t>(slots), property);
-    return connection.query("UPDATE properties SET value = ?3, lookup = ?4 WHERE record = ?1 AND prop = ?2")
-        .bind(1, record)
-        .bind(2, std::int64_t {property.id})
-        .bind(3, utf8(storable(property.text)))
-        .bind(4, utf8(lookupText(property.id, property.text)))
-        .run();
+    const auto slot = same ? same : free;
+    if (!slot)
+        return false; // a record holds four properties
+    SqliteQuery update = connection.query(UpdateSlot[*slot]);
+    update.bind(1, record);
+    bindSlot(update, 2, property);
+    return update.run();
 }
 
+// Sets the modification time once per transaction: a load of a thousand records stamps it once.
 bool PropertyDatabase::touch()
 {
-    return m_store.connection()
-        .query("UPDATE databases SET modified = ?2 WHERE id = ?1")
-        .bind(1, m_databaseId)
-        .bind(2, static_cast<std::int64_t>(fileTimeNow()))
-        .run();
-}
-
-bool PropertyDatabase::recordExists(RecordId record)
-{
-    SqliteQuery exists = m_store.connection().query("SELECT 1 FROM records WHERE id = ?1 AND db = ?2");
-    return exists.bind(1, record).bind(2, m_databaseId).next();
+    SqliteConnection& connection = m_store.connection();
+    if (m_touchedIn == connection.transactionSerial())
+        return true;
+    const bool stamped = connection.query("UPDATE databases SET modified = ?2 WHERE id = ?1")
+                             .bind(1, m_databaseId)
+                             .bind(2, static_cast<std::int64_t>(fileTimeNow()))
+                             .run();
+    if (stamped)
+        m_touchedIn = connection.transactionSerial();
+    return stamped;
 }
 
 bool PropertyDatabase::Add(std::span<const Property> properties, int keyIndex)
@@ -342,12 +325,14 @@ bool PropertyDatabase::Add(std::span<const Property> properties, int keyIndex)
         return false;
     SqliteConnection& connection = m_store.connection();
     ObjectStore::Transaction transaction(connection);
-    bool written = connection.query("INSERT INTO records(db) VALUES(?1)").bind(1, m_databaseId).run();
-    const RecordId record = connection.lastInsertId();
-    for (std::size_t slot = 0; written && slot < std::min(properties.size(), m_propertyCount); ++slot)
-        written = insertProperty(record, slot, properties[slot]);
-    written = written && touch() && transaction.commit();
-    if (!written)
+    SqliteQuery insert = connection.query("INSERT INTO records(db, prop0, value0, lookup0, prop1, value1, lookup1, "
+                                          "prop2, value2, lookup2, prop3, value3, lookup3) "
+                                          "VALUES(?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9, ?10, ?11, ?12, ?13)");
+    insert.bind(1, m_databaseId);
+    const std::size_t written = std::min({properties.size(), m_propertyCount, MaxSortOrders});
+    for (std::size_t slot = 0; slot < written; ++slot)
+        bindSlot(insert, 2 + 3 * static_cast<int>(slot), properties[slot]);
+    if (!insert.run() || !touch() || !transaction.commit())
         return false;
     connection.noteChange();
     if (m_autoAdvance)
@@ -362,7 +347,7 @@ bool PropertyDatabase::UpdateAt(std::uint32_t position, std::span<const Property
 
 bool PropertyDatabase::UpdateCurrent(std::span<const Property> properties)
 {
-    if (!m_open || m_current == 0 || !recordExists(m_current))
+    if (!m_open || m_current == 0)
         return false;
     SqliteConnection& connection = m_store.connection();
     ObjectStore::Transaction transaction(connection);
@@ -382,8 +367,7 @@ bool PropertyDatabase::DeleteAt(std::uint32_t position)
         return false;
     SqliteConnection& connection = m_store.connection();
     ObjectStore::Transaction transaction(connection);
-    const bool deleted = connection.query("DELETE FROM properties WHERE record = ?1").bind(1, record).run()
-        && connection.query("DELETE FROM records WHERE id = ?1").bind(1, record).run() && touch()
+    const bool deleted = connection.query("DELETE FROM records WHERE id = ?1").bind(1, record).run() && touch()
         && transaction.commit();
     if (deleted) {
         connection.noteChange();
@@ -407,5 +391,6 @@ bool PropertyDatabase::SetLastModified(std::uint32_t low, std::uint32_t high)
                          .bind(2, static_cast<std::int64_t>(time))
                          .run();
     connection.noteChange();
+    m_touchedIn = 0; // a later write stamps the time again
     return set && m_databaseId != 0;
 }

@@ -6,6 +6,7 @@
 #include "store/RecordIndex.h"
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
@@ -14,8 +15,7 @@
 
 // One record database of the object store, with a cursor over its records. Records hold string
 // properties; positions count records in the traversal order (the first sort order, or the one chosen by
-// OpenSorted). Reads by position are served from an in-memory copy of that order, renewed whenever the
-// stored data changed (through this process or another one).
+// OpenSorted). Reads by position are served from the store's in-memory copy of that order.
 class PropertyDatabase
 {
 public:
@@ -79,17 +79,17 @@ private:
         std::uint32_t flags = 0;
     };
 
+    std::optional<std::int64_t> findDatabase(std::wstring_view name);
+    std::vector<SortOrder> sortOrdersOf(std::int64_t databaseId);
     // Opens with the traversal of `sortId`'s order, or of the first order when there is none.
     bool openWith(std::wstring_view name, std::optional<PropertyId> sortId);
     bool refreshIndex();
-    const StoredRecord* current() const;
     bool step();
     const StoredRecord* readRecord(std::uint32_t position);
     std::wstring lookupText(PropertyId id, std::wstring_view text) const;
-    bool insertProperty(RecordId record, std::size_t slot, const Property& property);
+    void bindSlot(SqliteQuery& query, int first, const Property& property) const;
     bool writeProperty(RecordId record, const Property& property);
     bool touch();
-    bool recordExists(RecordId record);
 
     ObjectStore& m_store;
     std::int64_t m_databaseId = 0; // the object identifier, set by Create and Open
@@ -97,11 +97,10 @@ private:
     std::vector<SortOrder> m_sortOrders;
     SortOrder m_traversal; // the order positions are counted in
     std::size_t m_propertyCount = 0; // the number of sort orders; also the properties written by Add
-    bool m_autoAdvance = false;
+    bool m_autoAdvance = false; // set by every open: a read or a write moves on to the next record
     bool m_atEnd = false;
     RecordId m_current = 0; // the record under the cursor, 0 for none
 
-    RecordIndex m_index;
-    bool m_indexValid = false;
-    ObjectStore::Stamp m_indexStamp;
+    std::shared_ptr<const RecordIndex> m_index; // the traversal as of the last operation
+    std::uint64_t m_touchedIn = 0; // the transaction that last set the modification time
 };

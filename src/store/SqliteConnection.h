@@ -44,10 +44,23 @@ public:
     std::uint64_t changeCount() const { return m_changes; }
     void noteChange() { ++m_changes; }
 
+    // Bookkeeping of SqliteTransaction: each outermost transaction gets a new serial number, and a joined
+    // part that failed marks it for rollback.
+    void beginTransaction()
+    {
+        ++m_transactionSerial;
+        m_transactionFailed = false;
+    }
+    void failTransaction() { m_transactionFailed = true; }
+    bool transactionFailed() const { return m_transactionFailed; }
+    std::uint64_t transactionSerial() const { return m_transactionSerial; }
+
 private:
     explicit SqliteConnection(sqlite3* handle);
 
     sqlite3* m_handle;
     std::map<std::string, struct sqlite3_stmt*, std::less<>> m_statements;
     std::uint64_t m_changes = 0;
+    std::uint64_t m_transactionSerial = 0;
+    bool m_transactionFailed = false;
 };

@@ -5,11 +5,13 @@
 
 SqliteTransaction::SqliteTransaction(SqliteConnection& connection)
     : m_connection(connection)
-    , m_nested(connection.inTransaction())
+    , m_joined(connection.inTransaction())
 {
     // IMMEDIATE takes the write lock at once: a read that later turns into a write could otherwise fail
     // with SQLITE_BUSY without waiting when another process commits in between.
-    const bool begun = m_connection.query(m_nested ? "SAVEPOINT nested" : "BEGIN IMMEDIATE").run();
+    const bool begun = m_joined || m_connection.query("BEGIN IMMEDIATE").run();
+    if (begun && !m_joined)
+        m_connection.beginTransaction();
     m_state = begun ? State::Open : State::Failed;
 }
 
@@ -17,10 +19,11 @@ SqliteTransaction::~SqliteTransaction()
 {
     if (m_state != State::Open)
         return;
-    if (m_nested)
-        m_connection.execute("ROLLBACK TO nested; RELEASE nested");
-    else
-        m_connection.execute("ROLLBACK");
+    if (m_joined) {
+        m_connection.failTransaction();
+        return;
+    }
+    m_connection.execute("ROLLBACK");
     m_connection.noteChange();
 }
 
@@ -28,7 +31,7 @@ bool SqliteTransaction::commit()
 {
     if (m_state != State::Open)
         return false;
-    if (!m_connection.query(m_nested ? "RELEASE nested" : "COMMIT").run())
+    if (!m_joined && (m_connection.transactionFailed() || !m_connection.query("COMMIT").run()))
         return false;
     m_state = State::Done;
     return true;

@@ -3,8 +3,10 @@
 
 class SqliteConnection;
 
-// A write transaction that is rolled back unless commit() is called. Inside another transaction it is a
-// savepoint, so operations that protect themselves can also run as part of a larger load.
+// A write transaction that is rolled back unless commit() is called. Begun inside another transaction it
+// joins that one: it writes no SQL of its own, and ending it without commit() makes the outer commit()
+// fail and roll everything back. So an operation that protects itself can run as part of a larger load,
+// and a load with one failed write leaves nothing behind.
 class SqliteTransaction
 {
 public:
@@ -21,6 +23,6 @@ private:
     enum class State { Failed, Open, Done };
 
     SqliteConnection& m_connection;
-    bool m_nested;
+    bool m_joined;
     State m_state;
 };

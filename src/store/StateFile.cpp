@@ -45,10 +45,11 @@ bool passesQuickCheck(SqliteConnection& connection)
     return check.next() && check.text(0) == "ok";
 }
 
-// Write-ahead log with a sync at every commit: a setting or a load that returned is on disk.
-bool configure(SqliteConnection& connection)
+// Write-ahead log with a sync at every commit: a setting or a load that returned is on disk. The log is
+// switched on only once the file is known to be ours, so that a file set aside is left exactly as it was.
+bool useDurableLog(SqliteConnection& connection)
 {
-    return connection.execute("PRAGMA journal_mode = WAL") && connection.execute("PRAGMA synchronous = FULL");
+    return connection.execute("PRAGMA journal_mode = WAL");
 }
 
 Attempt tryOpen(const std::filesystem::path& file, const StateFile::Prepare& prepare)
@@ -56,14 +57,17 @@ Attempt tryOpen(const std::filesystem::path& file, const StateFile::Prepare& pre
     auto connection = SqliteConnection::openFile(file);
     if (!connection)
         return {nullptr, Outcome::Failed};
-    if (configure(*connection) && passesQuickCheck(*connection) && prepare(*connection))
+    if (connection->execute("PRAGMA synchronous = FULL") && passesQuickCheck(*connection) && prepare(*connection)
+        && useDurableLog(*connection))
         return {std::move(connection), Outcome::Opened};
     return {nullptr, isEnvironmentError(connection->lastError()) ? Outcome::Failed : Outcome::Unreadable};
 }
 
-std::filesystem::path withSuffix(const std::filesystem::path& file, const char* suffix)
+std::filesystem::path withSuffix(const std::filesystem::path& file, std::string_view suffix)
 {
-    return std::filesystem::path(file.native() + suffix);
+    std::string name = file.native();
+    name.append(suffix);
+    return name;
 }
 
 std::optional<std::filesystem::path> setAside(const std::filesystem::path& file)
@@ -124,6 +128,6 @@ std::filesystem::path StateFile::setAsideName(const std::filesystem::path& file,
     std::filesystem::path candidate = base;
     std::error_code error;
     for (int number = 2; std::filesystem::exists(candidate, error); ++number)
-        candidate = withSuffix(base, ("-" + std::to_string(number)).c_str());
+        candidate = withSuffix(withSuffix(base, "-"), std::to_string(number));
     return candidate;
 }

@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "device/DevicePaths.h"
+#include "device/MessageSink.h"
 #include "store/PropertyDatabase.h"
 
 #include <cstdint>
 #include <string>
 #include <string_view>
-
-class DevicePaths;
-class MessageSink;
 
 // The weather favourites "wdkWeather": one record per favourite city with its location code, its stored
 // forecast and its update key ("date:country list file"). Filled once from "\cities.wet".

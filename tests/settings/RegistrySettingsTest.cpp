@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "settings/RegistrySettings.h"
+
+#include "support/RecordingMessageSink.h"
+#include "support/TempDir.h"
+#include "text/WideText.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+struct Hive
+{
+    std::unique_ptr<SettingsHive> hive = SettingsHive::openInMemory();
+    RegistrySettings settings {*hive};
+};
+
+} // namespace
+
+TEST(RegistrySettings, StatusOfEachRead)
+{
+    Hive h;
+    h.settings.SetDWORD(L"Wanderkit\\wrldclk", L"clock1", 684);
+    h.settings.SetDWORD(L"Wanderkit\\wrldclk", L"Clock2", 756);
+    h.settings.SetDWORD(L"Wanderkit\\measurs", L"twenty_characters_xx", 20);
+    h.settings.SetDWORD(L"Wanderkit\\measurs", L"twenty_one_characters", 21);
+
+    struct Case
+    {
+        const wchar_t* subkey;
+        const wchar_t* name;
+        std::int32_t status;
+        std::uint32_t value;
+    };
+    const Case cases[] = {
+        {L"Wanderkit\\wrldclk", L"clock1", 0, 684}, {L"WANDERKIT\\WrldClk", L"clock1", 0, 684}, // key paths ignore case
+        {L"Wanderkit\\wrldclk", L"Clock1", -1, 0}, // value names do not
+        {L"Wanderkit\\wrldclk", L"clock2", -1, 0}, {L"Wanderkit\\wrldclk", L"Clock2", 0, 756},
+        {L"Wanderkit\\weather", L"wetp", -2, 0},
+        {L"Wanderkit", L"twelvehour", -1, 0}, // a parent of a created key exists
+        {L"Wanderkit\\wrldclk\\more", L"clock1", -2, 0}, {L"Wanderkit\\measurs", L"twenty_characters_xx", 0, 20},
+        {L"Wanderkit\\measurs", L"twenty_one_characters", -1, 0}, // longer than 20: never found
+        {L"", L"clock1", -1, 0}, // the root key always exists
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(testing::Message() << WideToUtf8(c.subkey) << " " << WideToUtf8(c.name));
+        EXPECT_EQ(h.settings.GetDWORD(c.subkey, c.name), c.value);
+        EXPECT_EQ(h.settings.Status(), c.status);
+        h.settings.GetString(c.subkey, c.name);
+        EXPECT_EQ(h.settings.Status(), c.status) << "GetString reports the same status";
+    }
+}
+
+TEST(RegistrySettings, StoredForms)
+{
+    Hive h;
+    struct Case
+    {
+        const char* what;
+        std::wstring text;
+        std::vector<std::uint8_t> bytes;
+    };
+    const Case strings[] = {
+        {"two bytes a character, no terminator", L"\\wiconset\\",
+            {'\\', 0, 'w', 0, 'i', 0, 'c', 0, 'o', 0, 'n', 0, 's', 0, 'e', 0, 't', 0, '\\', 0}},
+        {"empty", L"", {}},
+        {"Latin-1 and beyond", L"\u00E9\u20AC", {0xE9, 0x00, 0xAC, 0x20}},
+        {"outside the basic plane: a surrogate pair", L"\U0001F30D", {0x3C, 0xD8, 0x0D, 0xDF}},
+    };
+    for (const Case& c : strings) {
+        SCOPED_TRACE(c.what);
+        h.settings.SetString(L"Wanderkit\\weather", L"icondir", c.text);
+        const auto stored = h.hive->value(L"Wanderkit\\weather", L"icondir");
+        ASSERT_TRUE(stored);
+        EXPECT_EQ(stored->type, RegistryType::String);
+        EXPECT_EQ(stored->data, c.bytes);
+        EXPECT_EQ(h.settings.GetString(L"Wanderkit\\weather", L"icondir"), c.text);
+    }
+
+    h.settings.SetDWORD(L"Wanderkit", L"twelvehour", 0x01020304);
+    const auto dword = h.hive->value(L"Wanderkit", L"twelvehour");
+    ASSERT_TRUE(dword);
+    EXPECT_EQ(dword->type, RegistryType::Dword);
+    EXPECT_EQ(dword->data, (std::vector<std::uint8_t> {4, 3, 2, 1}));
+    EXPECT_EQ(h.settings.GetDWORD(L"Wanderkit", L"twelvehour"), 0x01020304u) << "all four bytes are read";
+
+    const std::uint8_t binary[] = {0xFF, 0xFE, 0x41, 0x00, 0x00, 0x00, 0x42, 0x00};
+    h.settings.SetBinary(L"Wanderkit", L"blob", binary, sizeof binary);
+    EXPECT_EQ(h.hive->value(L"Wanderkit", L"blob")->type, RegistryType::Binary);
+    EXPECT_EQ(h.settings.GetDWORD(L"Wanderkit", L"blob"), 0x0041FEFFu) << "a DWORD read takes the first four bytes";
+    EXPECT_EQ(h.settings.GetString(L"Wanderkit", L"blob"), L"\uFEFFA") << "a string read stops at a null character";
+    h.settings.SetBinary(L"Wanderkit", L"short", binary, 1);
+    EXPECT_EQ(h.settings.GetDWORD(L"Wanderkit", L"short"), 0xFFu);
+
+    // A value keeps its name's case and its latest type.
+    h.settings.SetString(L"WANDERKIT", L"twelvehour", L"1");
+    EXPECT_EQ(h.hive->value(L"Wanderkit", L"twelvehour")->type, RegistryType::String);
+}
+
+TEST(RegistrySettings, SettingsSurviveARestart)
+{
+    TempDir dir;
+    RecordingMessageSink messages;
+    {
+        auto hive = SettingsHive::open(dir.path() / "registry.db", messages);
+        RegistrySettings settings(*hive);
+        settings.SetDWORD(L"Wanderkit\\currencies", L"curp", 61);
+        settings.SetString(L"Wanderkit\\currencies", L"curval", L"12.5");
+    }
+    auto hive = SettingsHive::open(dir.path() / "registry.db", messages);
+    RegistrySettings settings(*hive);
+    EXPECT_EQ(settings.GetDWORD(L"Wanderkit\\currencies", L"curp"), 61u);
+    EXPECT_EQ(settings.GetString(L"Wanderkit\\currencies", L"curval"), L"12.5");
+
+    // Another accessor on another connection (the command line, say) reads the same values.
+    auto other = SettingsHive::open(dir.path() / "registry.db", messages);
+    RegistrySettings reader(*other);
+    settings.SetDWORD(L"Wanderkit\\currencies", L"curp", 62);
+    EXPECT_EQ(reader.GetDWORD(L"Wanderkit\\currencies", L"curp"), 62u);
+    EXPECT_TRUE(messages.messages.empty());
+}

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "settings/SettingsTable.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+
+namespace {
+
+// What the hive holds before a read of a row.
+enum class Before { FreshDevice, KeyOnly, Stored };
+
+std::unique_ptr<SettingsHive> hiveWith(Before before, std::wstring_view subkey, std::wstring_view name)
+{
+    auto hive = SettingsHive::openInMemory();
+    RegistrySettings settings(*hive);
+    if (before == Before::KeyOnly)
+        settings.SetDWORD(subkey, L"another value", 1);
+    if (before == Before::Stored)
+        settings.SetDWORD(subkey, name, 5);
+    return hive;
+}
+
+} // namespace
+
+TEST(SettingsTable, DefaultsAndWriteBack)
+{
+    struct Case
+    {
+        const char* what;
+        const DwordSetting& setting;
+        Before before;
+        std::uint32_t read;
+        std::optional<std::uint32_t> storedAfter;
+    };
+    const Case cases[] = {
+        {"clock1, fresh device: default, written", Settings::Clock1, Before::FreshDevice, 684, 684},
+        {"clock2, value deleted: default, not written", Settings::Clock2, Before::KeyOnly, 756, std::nullopt},
+        {"clock3 present", Settings::Clock3, Before::Stored, 5, 5},
+        {"clock4, fresh device", Settings::Clock4, Before::FreshDevice, 988, 988},
+        {"home clock, fresh device", Settings::HomeClock, Before::FreshDevice, 0, 0},
+        {"curp, fresh: written", Settings::Currency1, Before::FreshDevice, 61, 61},
+        {"curp2, value missing: written", Settings::Currency2, Before::KeyOnly, 180, 180},
+        {"curp3, fresh", Settings::Currency3, Before::FreshDevice, 27, 27},
+        {"syncltz, value missing: written", Settings::SyncLocalZone, Before::KeyOnly, 1, 1},
+        {"showcs: default, never written", Settings::ShowCities, Before::FreshDevice, 1, std::nullopt},
+        {"twelvehour", Settings::TwelveHour, Before::FreshDevice, 0, std::nullopt},
+        {"wetp", Settings::WeatherPosition, Before::KeyOnly, 0, std::nullopt},
+        {"mapclock present", Settings::MapClock, Before::Stored, 5, 5},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        auto hive = hiveWith(c.before, c.setting.subkey, c.setting.name);
+        RegistrySettings settings(*hive);
+        EXPECT_EQ(ReadSetting(settings, c.setting), c.read);
+        const auto stored = hive->value(c.setting.subkey, c.setting.name);
+        EXPECT_EQ(stored.has_value(), c.storedAfter.has_value());
+        if (stored && c.storedAfter) {
+            EXPECT_EQ(RegistrySettings(*hive).GetDWORD(c.setting.subkey, c.setting.name), *c.storedAfter);
+        }
+    }
+}
+
+TEST(SettingsTable, StringRows)
+{
+    auto hive = SettingsHive::openInMemory();
+    RegistrySettings settings(*hive);
+    EXPECT_EQ(ReadSetting(settings, Settings::IconFolder), L"\\wiconset\\");
+    EXPECT_EQ(ReadSetting(settings, Settings::CurrencyAmount), L"");
+    EXPECT_FALSE(hive->value(Settings::IconFolder.subkey, Settings::IconFolder.name));
+
+    WriteSetting(settings, Settings::MeasureValue, L"3.5");
+    EXPECT_EQ(ReadSetting(settings, Settings::MeasureValue), L"3.5");
+    WriteSetting(settings, Settings::MeasureValue, L"");
+    EXPECT_EQ(ReadSetting(settings, Settings::MeasureValue), L"");
+    EXPECT_EQ(settings.Status(), RegistrySettings::Read) << "an empty string is a stored value";
+    WriteSetting(settings, Settings::ClothesKind, 4);
+    EXPECT_EQ(ReadSetting(settings, Settings::ClothesKind), 4u);
+}

@@ -1,0 +1,138 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "store/CityCatalogue.h"
+
+#include "support/RecordingMessageSink.h"
+#include "support/TempDir.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// A device root holding `citiesFile` as "\cities.lst", and an object store in memory.
+struct Device
+{
+    explicit Device(const std::string& citiesFile)
+        : paths(dir.path())
+    {
+        dir.write("cities.lst", citiesFile);
+    }
+
+    CityCatalogue catalogue() { return CityCatalogue(*store, paths, messages); }
+
+    TempDir dir;
+    DevicePaths paths;
+    RecordingMessageSink messages;
+    std::unique_ptr<ObjectStore> store = ObjectStore::openInMemory();
+};
+
+std::vector<std::wstring> citiesCountriesAndCoordinates(CityCatalogue& catalogue)
+{
+    std::vector<std::wstring> texts;
+    for (std::uint32_t i = 0; i < catalogue.Count(); ++i)
+        texts.push_back(catalogue.CityName(i) + L"|" + catalogue.Country(i) + L"|" + catalogue.Coordinate1(i));
+    return texts;
+}
+
+const std::string Header = "Wanderkit cities\n";
+
+} // namespace
+
+TEST(CityCatalogue, LoadsTheCitiesFile)
+{
+    // Data lines: label;city;country;coordinate;coordinate;zone;rule 1;rule 2;rule 3;rule 4;rest.
+    const std::string rome = "1;Rome;Italy;12.5;41.9;1;a;b;c;d;e\n";
+    const std::string paris = "2;Paris;France;2.3;48.8;1;a;b;c;d;e\n";
+    const std::string texas = "3;Paris;Texas;-95.5;33.6;-6;a;b;c;d;e\n";
+    const std::string secondRome = "4;Rome;Italy;0;0;0;a;b;c;d;e\n";
+    struct Case
+    {
+        const char* what;
+        std::string afterHeader;
+        std::vector<std::wstring> cities; // "city|country|coordinate 1" in catalogue order
+    };
+    const Case cases[] = {
+        {"sorted by city and country", "3\n" + rome + paris + texas,
+            {L"Paris|France|2.3", L"Paris|Texas|-95.5", L"Rome|Italy|12.5"}},
+        {"the first line of a city and country wins", "3\n" + rome + secondRome + paris,
+            {L"Paris|France|2.3", L"Rome|Italy|12.5"}},
+        {"'>' as country ends the load", "3\n" + rome + "2;End;>;2;2;2;a;b;c;d;e\n" + paris, {L"Rome|Italy|12.5"}},
+        {"'>' as second coordinate ends the load", "2\n" + rome + "2;End;X;2;>;2;a;b;c;d;e\n", {L"Rome|Italy|12.5"}},
+        {"'>' as rule field 4 ends the load", "2\n" + rome + "2;End;X;2;2;2;a;b;c;>;e\n", {L"Rome|Italy|12.5"}},
+        {"'>' in other fields is text", "1\n1;>;X;>;2;>;>;>;>;d;>\n", {L">|X|>"}},
+        {"'>' inside a field is text", "1\n1;Rome;>>;1;1;1;a;b;c;d;e\n", {L"Rome|>>|1"}},
+        {"a count larger than the lines adds one empty city", "5\n" + rome, {L"||", L"Rome|Italy|12.5"}},
+        {"a huge count ends at the end of the file", "2147483647\n" + rome, {L"||", L"Rome|Italy|12.5"}},
+        {"a count smaller than the lines reads that many", "1\n" + rome + paris, {L"Rome|Italy|12.5"}},
+        {"a count of 0", "0\n" + rome, {}},
+        {"a negative count", "-4\n" + rome, {}},
+        {"bytes above 127 are Latin-1", "1\n1;Z\xFCrich;Schweiz;1;1;1;a;b;c;d;e\n", {L"Z\u00FCrich|Schweiz|1"}},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        Device device(Header + c.afterHeader);
+        auto catalogue = device.catalogue();
+        catalogue.Load();
+        EXPECT_EQ(citiesCountriesAndCoordinates(catalogue), c.cities);
+        EXPECT_TRUE(device.messages.messages.empty());
+    }
+}
+
+TEST(CityCatalogue, BuildsEachPropertyFromItsFields)
+{
+    Device device(Header
+        + "2\n"
+          "12;Adelaide;Australia;138.6;-34.9;930;1:0:10:2;4:0:4:3;60;x;rest;of;line\r\n"
+          "13;Lima;Peru;-77.0;-12.0;-5;;;;;\n");
+    auto catalogue = device.catalogue();
+    catalogue.Load();
+    ASSERT_EQ(catalogue.Count(), 2);
+
+    const CityRecord adelaide = catalogue.Record(0);
+    EXPECT_EQ(adelaide,
+        (CityRecord {L"Adelaide", L"Australia", L"138.6", L"-34.9", L"930", L"1:0:10:2:4:0:4:3:60:x:rest;of;line\r"}));
+    EXPECT_EQ(catalogue.CityName(0), adelaide.name);
+    EXPECT_EQ(catalogue.Country(0), adelaide.country);
+    EXPECT_EQ(catalogue.Coordinate1(0), adelaide.coordinate1);
+    EXPECT_EQ(catalogue.Coordinate2(0), adelaide.coordinate2);
+    EXPECT_EQ(catalogue.TimeZoneText(0), adelaide.timeZone);
+    EXPECT_EQ(catalogue.DaylightRuleText(0), adelaide.daylightRule);
+
+    // Empty fields are skipped by the reader: Lima's rule fields run on into the end of the file.
+    EXPECT_EQ(catalogue.TimeZoneText(1), L"-5");
+    EXPECT_EQ(catalogue.DaylightRuleText(1), L"\n::::");
+    EXPECT_EQ(catalogue.CityName(2), L"");
+    EXPECT_EQ(catalogue.Record(2), CityRecord {});
+}
+
+TEST(CityCatalogue, IsFilledOncePerDevice)
+{
+    TempDir dir;
+    const DevicePaths paths(dir.path());
+    RecordingMessageSink messages;
+    auto store = ObjectStore::openInMemory();
+
+    // No file: the message, and an empty catalogue that a later start fills.
+    CityCatalogue first(*store, paths, messages);
+    first.Load();
+    ASSERT_EQ(messages.messages.size(), 1u);
+    EXPECT_EQ(messages.messages[0].text, L"Initial Cities File not found!");
+    EXPECT_EQ(messages.messages[0].caption, L"Wanderkit");
+    EXPECT_EQ(first.Count(), 0);
+
+    dir.write("cities.lst", Header + "1\n1;Rome;Italy;1;1;1;a;b;c;d;e\n");
+    CityCatalogue second(*store, paths, messages);
+    second.Load();
+    EXPECT_EQ(second.Count(), 1);
+    EXPECT_EQ(first.Count(), 1) << "another catalogue object sees the filled database";
+
+    // Filled is permanent: a changed or missing file is not read again.
+    dir.write("cities.lst", Header + "1\n1;Oslo;Norway;1;1;1;a;b;c;d;e\n");
+    CityCatalogue third(*store, paths, messages);
+    third.Load();
+    EXPECT_EQ(third.CityName(0), L"Rome");
+    std::filesystem::remove(dir.path() / "cities.lst");
+    CityCatalogue fourth(*store, paths, messages);
+    fourth.Load();
+    EXPECT_EQ(fourth.Count(), 1);
+    EXPECT_EQ(messages.messages.size(), 1u);
+}

@@ -1,0 +1,194 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "store/CurrencyStore.h"
+
+#include "device/DevicePaths.h"
+#include "support/RecordingMessageSink.h"
+#include "support/TempDir.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+InitialCurrencyList readFile(const std::string& bytes, RecordingMessageSink& messages)
+{
+    TempDir dir;
+    dir.write("currs.lst", bytes);
+    return ReadInitialCurrencies(DevicePaths(dir.path()), messages);
+}
+
+InitialCurrencyList listOf(std::vector<CurrencyEntry> entries)
+{
+    InitialCurrencyList list;
+    list.fromFile = true;
+    list.count = static_cast<std::int32_t>(entries.size());
+    list.entries = std::move(entries);
+    return list;
+}
+
+std::vector<std::wstring> codes(CurrencyStore& store)
+{
+    std::vector<std::wstring> texts;
+    for (std::uint32_t i = 0; i < store.RecordCount(); ++i)
+        texts.push_back(store.Code(i));
+    return texts;
+}
+
+} // namespace
+
+TEST(InitialCurrencyList, ReadsTheCurrencyFile)
+{
+    struct Case
+    {
+        const char* what;
+        std::string file;
+        std::int32_t count;
+        std::vector<CurrencyEntry> entries;
+        std::int32_t size;
+    };
+    const Case cases[] = {
+        {"records end to end", "2\r\nUSD_US Dollar_1.0#EUR_Euro_0.92#", 2,
+            {{L"USD", L"US Dollar", L"1.0"}, {L"EUR", L"Euro", L"0.92"}}, 2},
+        {"a line break after '#' starts the next code", "2\nUSD_Dollar_1#\nEUR_Euro_2#\n", 2,
+            {{L"USD", L"Dollar", L"1"}, {L"\nEUR", L"Euro", L"2"}}, 2},
+        {"a count of 0 gives an empty list", "0\nUSD_Dollar_1#", 0, {}, 0},
+        {"a negative count gives an empty list", "-3\nUSD_Dollar_1#", -3, {}, 0},
+        {"a record cut short keeps what was read; the rest are empty", "3\nUSD_Dollar_1#EUR_Eu", 3,
+            {{L"USD", L"Dollar", L"1"}, {L"EUR", L"Eu", L""}}, 3},
+        {"a huge count costs nothing", "2147483647\nUSD_Dollar_1#", 2147483647, {{L"USD", L"Dollar", L"1"}},
+            2147483647},
+        {"no count line", "", 0, {}, 0},
+        {"bytes above 127 are Latin-1",
+            "1\nISK_\xCD"
+            "slensk kr\xF3na_0.007#",
+            1, {{L"ISK", L"\u00CDslensk kr\u00F3na", L"0.007"}}, 1},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        RecordingMessageSink messages;
+        const InitialCurrencyList list = readFile(c.file, messages);
+        EXPECT_TRUE(list.fromFile);
+        EXPECT_EQ(list.count, c.count);
+        EXPECT_EQ(list.entries, c.entries);
+        EXPECT_EQ(list.size(), c.size);
+        EXPECT_TRUE(messages.messages.empty());
+    }
+}
+
+TEST(InitialCurrencyList, MissingFileKeepsThePresetCount)
+{
+    TempDir dir;
+    RecordingMessageSink messages;
+    const InitialCurrencyList list = ReadInitialCurrencies(DevicePaths(dir.path()), messages);
+    EXPECT_FALSE(list.fromFile);
+    EXPECT_EQ(list.count, 189);
+    EXPECT_EQ(list.size(), 0);
+    ASSERT_EQ(messages.messages.size(), 1u);
+    EXPECT_EQ(messages.messages[0].text, L"Initial Currencies File not found!");
+    EXPECT_EQ(messages.messages[0].caption, L"Wanderkit");
+}
+
+TEST(CurrencyStore, FirstLoadCopiesTheListInNameOrder)
+{
+    auto objects = ObjectStore::openInMemory();
+    CurrencyStore store(*objects);
+    store.SetInitialList(listOf({{L"USD", L"US Dollar", L"1.0"}, {L"EUR", L"euro", L"0.92"}, {L"XEU", L"Euro", L"9"},
+        {L"CHF", L"Swiss Franc", L"0.88"}, {L"ALL", L"Albanian Lek", L"95"}}));
+    EXPECT_EQ(store.Load(), 5) << "the list's count, skipped duplicates included";
+    EXPECT_EQ(store.Count(), 5);
+    EXPECT_EQ(store.RecordCount(), 4);
+    EXPECT_EQ(codes(store), (std::vector<std::wstring> {L"ALL", L"EUR", L"CHF", L"USD"}))
+        << "names ignore case, and the first \"euro\" wins";
+    EXPECT_EQ(store.Name(1), L"euro");
+    EXPECT_EQ(store.RateText(1), L"0.92");
+    EXPECT_EQ(store.Code(4), L"");
+
+    EXPECT_EQ(store.LastUpdate(), 0u);
+    EXPECT_FALSE(CurrencyStore::LastUpdateDate(store.LastUpdate(), 2026)) << "the last update reads \"Never\"";
+
+    // Later loads only count the records; the list is a seed.
+    CurrencyStore again(*objects);
+    again.SetInitialList(listOf({{L"JPY", L"Yen", L"150"}}));
+    EXPECT_EQ(again.Load(), 4);
+    EXPECT_EQ(codes(again), codes(store));
+}
+
+TEST(CurrencyStore, EmptyAndShortLists)
+{
+    struct Case
+    {
+        const char* what;
+        InitialCurrencyList list;
+        std::int32_t count;
+        std::vector<std::wstring> codes;
+    };
+    InitialCurrencyList missingFile; // count 189, no entries
+    InitialCurrencyList shortFile = listOf({{L"USD", L"Dollar", L"1"}});
+    shortFile.count = 2147483647;
+    const Case cases[] = {
+        {"missing file: no currencies, count 189", missingFile, 189, {}},
+        {"count past the end: one empty currency", shortFile, 2147483647, {L"", L"USD"}},
+        {"count 0", listOf({}), 0, {}},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        auto objects = ObjectStore::openInMemory();
+        CurrencyStore store(*objects);
+        store.SetInitialList(c.list);
+        EXPECT_EQ(store.Load(), c.count);
+        EXPECT_EQ(codes(store), c.codes);
+    }
+
+    // An empty store is filled at the next load that has currencies.
+    auto objects = ObjectStore::openInMemory();
+    CurrencyStore store(*objects);
+    store.SetInitialList(missingFile);
+    store.Load();
+    store.SetInitialList(listOf({{L"USD", L"Dollar", L"1"}}));
+    EXPECT_EQ(store.Load(), 1);
+    EXPECT_EQ(store.Code(0), L"USD");
+}
+
+TEST(CurrencyStore, UpdatesAndDeletes)
+{
+    auto objects = ObjectStore::openInMemory();
+    CurrencyStore store(*objects);
+    store.SetInitialList(listOf({{L"USD", L"Dollar", L"1"}, {L"EUR", L"Euro", L"0.9"}}));
+    store.Load();
+
+    EXPECT_TRUE(store.UpdateByName(L"EUX", L"EURO", L"0.95")) << "names compare without case";
+    EXPECT_EQ(store.Code(1), L"EUX");
+    EXPECT_EQ(store.Name(1), L"EURO");
+    EXPECT_EQ(store.RateText(1), L"0.95");
+    EXPECT_FALSE(store.UpdateByName(L"JPY", L"Yen", L"150"));
+    EXPECT_NE(store.LastUpdate(), 0u) << "a write stamps the database";
+
+    EXPECT_TRUE(store.DeleteAt(0));
+    EXPECT_EQ(codes(store), (std::vector<std::wstring> {L"EUX"}));
+    EXPECT_FALSE(store.DeleteAt(1));
+}
+
+TEST(CurrencyStore, LastUpdateDate)
+{
+    struct Case
+    {
+        const char* what;
+        std::uint64_t fileTime;
+        int currentYear;
+        std::optional<SystemTime> date;
+    };
+    const Case cases[] = {
+        {"zero is never", 0, 2026, std::nullopt},
+        {"1 January 1601", 1, 2026, std::nullopt},
+        {"2024-02-29 13:45:30.250, a Thursday", 133536879302500000ULL, 2026,
+            SystemTime {2024, 2, 4, 29, 13, 45, 30, 250}},
+        {"1900-01-01, a Monday", 94354848000000000ULL, 2026, SystemTime {1900, 1, 1, 1, 0, 0, 0, 0}},
+        {"1899-12-31 23:59:59", 94354847990000000ULL, 2026, std::nullopt},
+        {"a year after the current one", 133536879302500000ULL, 2023, std::nullopt},
+        {"the current year counts", 133536879302500000ULL, 2024, SystemTime {2024, 2, 4, 29, 13, 45, 30, 250}},
+        {"beyond FILETIME's range", 0x8000000000000000ULL, 30000, std::nullopt},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        EXPECT_EQ(CurrencyStore::LastUpdateDate(c.fileTime, c.currentYear), c.date);
+    }
+}

@@ -1,0 +1,262 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "store/PropertyDatabase.h"
+
+#include "support/RecordingMessageSink.h"
+#include "support/TempDir.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <thread>
+
+namespace {
+
+constexpr PropertyId Key = 11;
+constexpr PropertyId Other = 12;
+constexpr PropertyId Third = 13;
+constexpr std::array<PropertyId, 4> SortIds = {Key, Other, Third, 14};
+
+std::array<Property, 2> record(std::wstring key, std::wstring other)
+{
+    return {{{Key, std::move(key)}, {Other, std::move(other)}}};
+}
+
+PropertyDatabase created(ObjectStore& store, int sortMode, int sortCount = 3)
+{
+    PropertyDatabase database(store);
+    database.Create(L"test", 1, sortCount, SortIds, sortMode);
+    EXPECT_TRUE(database.Open(L"test"));
+    return database;
+}
+
+std::vector<std::wstring> column(PropertyDatabase& database, PropertyId id)
+{
+    std::vector<std::wstring> texts;
+    for (std::uint32_t i = 0; i < database.RecordCount(); ++i)
+        texts.push_back(database.ReadAt(i, id));
+    return texts;
+}
+
+} // namespace
+
+TEST(PropertyDatabase, TraversesInTheFirstSortOrder)
+{
+    struct Case
+    {
+        const char* what;
+        int sortMode;
+        std::vector<std::array<std::wstring, 2>> added; // key, other
+        std::vector<std::wstring> expectedOthers; // in traversal order
+    };
+    const Case cases[] = {
+        {"character codes, capitals first", 1, {{L"b", L"1"}, {L"B", L"2"}, {L"a", L"3"}, {L"A", L"4"}},
+            {L"4", L"2", L"3", L"1"}},
+        {"mode 0 is case-sensitive too", 0, {{L"b", L"1"}, {L"a", L"2"}, {L"B", L"3"}}, {L"3", L"2", L"1"}},
+        {"mode 2 folds case, equal keys keep their order of addition", 2,
+            {{L"b", L"1"}, {L"B", L"2"}, {L"a", L"3"}, {L"A", L"4"}}, {L"3", L"4", L"1", L"2"}},
+        {"mode 2 folds Latin-1 letters", 2, {{L"\u00E9b", L"1"}, {L"\u00C9c", L"2"}, {L"z", L"3"}}, {L"3", L"1", L"2"}},
+        {"mode 1 keeps Latin-1 capitals apart", 1, {{L"\u00E9b", L"1"}, {L"\u00C9c", L"2"}, {L"z", L"3"}},
+            {L"3", L"2", L"1"}},
+        {"prefixes sort first; ':' before letters", 1, {{L"Paris:France", L"1"}, {L"Paris", L"2"}, {L":", L"3"}},
+            {L"3", L"2", L"1"}},
+        {"empty keys first", 1, {{L"a", L"1"}, {L"", L"2"}}, {L"2", L"1"}},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        auto store = ObjectStore::openInMemory();
+        auto database = created(*store, c.sortMode);
+        for (const auto& [key, other] : c.added)
+            EXPECT_TRUE(database.Add(record(key, other), PropertyDatabase::NoKey));
+        EXPECT_EQ(column(database, Other), c.expectedOthers);
+    }
+}
+
+TEST(PropertyDatabase, OpensInAnotherSortOrder)
+{
+    auto store = ObjectStore::openInMemory();
+    auto database = created(*store, 1);
+    database.Add(record(L"a", L"z"), 0);
+    database.Add(record(L"b", L"y"), 0);
+    database.Add(std::array<Property, 1> {{{Key, L"c"}}}, 0); // no Other: last in Other's order
+
+    PropertyDatabase byOther(*store);
+    ASSERT_TRUE(byOther.OpenSorted(L"test", Other));
+    EXPECT_EQ(column(byOther, Key), (std::vector<std::wstring> {L"b", L"a", L"c"}));
+    EXPECT_EQ(byOther.SeekEqual({Key, L"a"}), byOther.SeekTo(1));
+
+    EXPECT_FALSE(byOther.OpenSorted(L"test", 14)) << "the fourth identifier was not made a sort order";
+    EXPECT_FALSE(byOther.OpenSorted(L"missing", Key));
+    EXPECT_FALSE(byOther.Open(L"missing"));
+    EXPECT_EQ(byOther.RecordCount(), 0);
+    EXPECT_EQ(byOther.ReadAt(0, Key), L"");
+}
+
+TEST(PropertyDatabase, FirstRecordWithAKeyWins)
+{
+    struct Case
+    {
+        const char* what;
+        int sortMode;
+        int keyIndex;
+        std::array<std::wstring, 2> second;
+        bool written;
+    };
+    const Case cases[] = {
+        {"same key", 1, 0, {L"Euro", L"other"}, false},
+        {"key differing in case, case-sensitive order", 1, 0, {L"euro", L"x"}, true},
+        {"key differing in case, case-insensitive order", 2, 0, {L"euro", L"x"}, false},
+        {"key on the second property", 1, 1, {L"Dollar", L"1.5"}, false},
+        {"no key: duplicates are written", 1, PropertyDatabase::NoKey, {L"Euro", L"1.5"}, true},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        auto store = ObjectStore::openInMemory();
+        auto database = created(*store, c.sortMode);
+        ASSERT_TRUE(database.Add(record(L"Euro", L"1.5"), c.keyIndex));
+        EXPECT_EQ(database.Add(record(c.second[0], c.second[1]), c.keyIndex), c.written);
+        EXPECT_EQ(database.RecordCount(), c.written ? 2 : 1);
+        EXPECT_EQ(database.ReadAt(0, Other), L"1.5") << "the first record is left as it was";
+    }
+}
+
+TEST(PropertyDatabase, CursorAndFlags)
+{
+    auto store = ObjectStore::openInMemory();
+    PropertyDatabase unopened(*store);
+    EXPECT_EQ(unopened.RecordCount(), 0);
+    EXPECT_FALSE(unopened.SeekFirst());
+    EXPECT_EQ(unopened.ReadAt(0, Key), L"");
+
+    auto database = created(*store, 1);
+    for (const wchar_t* key : {L"a", L"b", L"c"})
+        database.Add(record(key, L""), 0);
+
+    // Auto-advance: a read moves on; reading the last record sets the at-end flag.
+    EXPECT_EQ(database.ReadAt(1, Key), L"b");
+    EXPECT_FALSE(database.AtEnd());
+    EXPECT_EQ(database.ReadAt(2, Key), L"c");
+    EXPECT_TRUE(database.AtEnd());
+    EXPECT_FALSE(database.Next());
+    EXPECT_TRUE(database.AtEnd());
+    EXPECT_TRUE(database.SeekFirst());
+    EXPECT_FALSE(database.AtEnd());
+
+    // Reads past the end are empty, whatever the flags.
+    EXPECT_EQ(database.ReadAt(3, Key), L"");
+    EXPECT_EQ(database.ReadAt(0xFFFFFFFF, Key), L"");
+    EXPECT_EQ(database.ReadAt(0, 99), L"") << "no such property";
+
+    // Seeks return the record identifier, 0 on failure.
+    const auto last = database.SeekTo(2);
+    EXPECT_NE(last, 0);
+    EXPECT_EQ(database.SeekTo(0, true), last);
+    EXPECT_EQ(database.SeekTo(2, true), database.SeekTo(0));
+    EXPECT_EQ(database.SeekTo(3), 0);
+    EXPECT_EQ(database.SeekTo(3, true), 0);
+    EXPECT_TRUE(database.SeekLast());
+    EXPECT_FALSE(database.Next());
+    EXPECT_TRUE(database.AtEnd());
+    EXPECT_EQ(database.SeekEqual({Key, L"c"}), last);
+    EXPECT_FALSE(database.AtEnd()) << "a successful seek clears the at-end flag";
+    EXPECT_EQ(database.SeekEqual({Key, L"C"}), 0);
+    EXPECT_EQ(database.SeekEqual({Key, L"zz"}), 0);
+}
+
+TEST(PropertyDatabase, UpdatesAndDeletesByPosition)
+{
+    auto store = ObjectStore::openInMemory();
+    auto database = created(*store, 1);
+    for (const wchar_t* key : {L"b", L"d", L"f"})
+        database.Add(record(key, L"old"), 0);
+
+    // An update that changes the key moves the record in the order.
+    EXPECT_TRUE(database.UpdateAt(0, record(L"z", L"new")));
+    EXPECT_EQ(column(database, Key), (std::vector<std::wstring> {L"d", L"f", L"z"}));
+    EXPECT_EQ(database.ReadAt(2, Other), L"new");
+    // A property the record did not have is added to it.
+    EXPECT_TRUE(database.UpdateAt(0, std::array<Property, 1> {{{Third, L"3"}}}));
+    EXPECT_EQ(database.ReadAt(0, Third), L"3");
+    EXPECT_EQ(database.ReadAt(0, Other), L"old");
+    EXPECT_FALSE(database.UpdateAt(3, record(L"x", L"x")));
+
+    EXPECT_TRUE(database.DeleteAt(1));
+    EXPECT_EQ(column(database, Key), (std::vector<std::wstring> {L"d", L"z"}));
+    EXPECT_FALSE(database.DeleteAt(2));
+    EXPECT_EQ(database.RecordCount(), 2);
+}
+
+TEST(PropertyDatabase, WritesThePropertyCountAndKeepsWhatAStringCanHold)
+{
+    auto store = ObjectStore::openInMemory();
+    auto database = created(*store, 1, 2); // two sort orders: two properties a record
+    const std::array<Property, 3> three = {{{Key, L"k"}, {Other, std::wstring(L"a\0b", 3)}, {Third, L"t"}}};
+    ASSERT_TRUE(database.Add(three, 0));
+    EXPECT_EQ(database.ReadAt(0, Third), L"") << "only the property count's properties are written";
+    EXPECT_EQ(database.ReadAt(0, Other), L"a") << "a stored string ends at a null character";
+
+    const std::wstring longText(1200, L'x');
+    database.UpdateAt(0, std::array<Property, 1> {{{Other, longText}}});
+    EXPECT_EQ(database.ReadAt(0, Other), longText.substr(0, 999)) << "reads go through a 1000-character buffer";
+    const auto all = database.ReadRecordAt(0);
+    ASSERT_EQ(all.size(), 2u);
+    EXPECT_EQ(all[1].text.size(), 999u);
+}
+
+TEST(PropertyDatabase, SeesWritesOfOtherAccessorsAndProcesses)
+{
+    TempDir dir;
+    RecordingMessageSink messages;
+    auto first = ObjectStore::open(dir.path() / "objectstore.db", messages);
+    auto second = ObjectStore::open(dir.path() / "objectstore.db", messages);
+    ASSERT_TRUE(first && second);
+    auto writer = created(*first, 1);
+    writer.Add(record(L"b", L""), 0);
+
+    PropertyDatabase sameStore(*first);
+    PropertyDatabase otherConnection(*second);
+    ASSERT_TRUE(sameStore.Open(L"test"));
+    ASSERT_TRUE(otherConnection.Open(L"test"));
+    EXPECT_EQ(sameStore.ReadAt(0, Key), L"b");
+    EXPECT_EQ(otherConnection.ReadAt(0, Key), L"b");
+
+    writer.Add(record(L"a", L""), 0);
+    EXPECT_EQ(sameStore.ReadAt(0, Key), L"a") << "seen at once in the same process";
+    std::this_thread::sleep_for(ObjectStore::OtherWritersInterval + std::chrono::milliseconds(1));
+    EXPECT_EQ(otherConnection.ReadAt(0, Key), L"a") << "seen after a moment in another process";
+    EXPECT_EQ(otherConnection.RecordCount(), 2);
+
+    // A rolled-back write is forgotten by the in-memory order too; while it is pending, a reader on
+    // another connection is not held up and sees the committed records.
+    {
+        ObjectStore::Transaction transaction(first->connection());
+        writer.Add(record(L"0", L""), 0);
+        EXPECT_EQ(sameStore.ReadAt(0, Key), L"0");
+        std::this_thread::sleep_for(ObjectStore::OtherWritersInterval + std::chrono::milliseconds(1));
+        EXPECT_EQ(otherConnection.ReadAt(0, Key), L"a");
+        EXPECT_EQ(otherConnection.RecordCount(), 2);
+    }
+    EXPECT_EQ(sameStore.ReadAt(0, Key), L"a");
+    EXPECT_EQ(sameStore.RecordCount(), 2);
+    EXPECT_TRUE(messages.messages.empty());
+}
+
+TEST(PropertyDatabase, AFailedPartOfATransactionRollsBackTheWhole)
+{
+    auto store = ObjectStore::openInMemory();
+    auto database = created(*store, 1);
+    {
+        ObjectStore::Transaction load(store->connection());
+        database.Add(record(L"a", L""), 0);
+        {
+            ObjectStore::Transaction part(store->connection()); // joins the load, ends without commit
+        }
+        database.Add(record(L"b", L""), 0);
+        EXPECT_FALSE(load.commit());
+    }
+    EXPECT_EQ(database.RecordCount(), 0);
+
+    ObjectStore::Transaction next(store->connection());
+    database.Add(record(L"c", L""), 0);
+    EXPECT_TRUE(next.commit()) << "the failure belonged to the earlier transaction";
+    EXPECT_EQ(database.RecordCount(), 1);
+}

@@ -1,0 +1,163 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "store/WeatherFavourites.h"
+
+#include "device/DevicePaths.h"
+#include "support/RecordingMessageSink.h"
+#include "support/TempDir.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+struct Device
+{
+    Device() = default;
+    explicit Device(const std::string& favouritesFile) { dir.write("cities.wet", favouritesFile); }
+
+    WeatherFavourites favourites() { return WeatherFavourites(*store, paths, messages); }
+
+    TempDir dir;
+    DevicePaths paths {dir.path()};
+    RecordingMessageSink messages;
+    std::unique_ptr<ObjectStore> store = ObjectStore::openInMemory();
+};
+
+// "name|code|forecast|last update|country file" for every favourite, in store order.
+std::vector<std::wstring> contents(WeatherFavourites& favourites)
+{
+    std::vector<std::wstring> rows;
+    for (std::uint32_t i = 0; i < favourites.count(); ++i)
+        rows.push_back(favourites.getName(i) + L"|" + favourites.getLocationCode(i) + L"|"
+            + favourites.getForecastText(i) + L"|" + favourites.getLastUpdate(i) + L"|" + favourites.getCountryFile(i));
+    return rows;
+}
+
+} // namespace
+
+TEST(WeatherFavourites, LoadsTheFavouritesFile)
+{
+    struct Case
+    {
+        const char* what;
+        std::string file;
+        std::vector<std::wstring> rows;
+    };
+    const Case cases[] = {
+        {"one record per line, in name order", "2\nItaly;Rome;ITXX0067\nFrance;Paris;FRXX0076\n",
+            {L"Paris|FRXX0076||01/01/2000|France", L"Rome|ITXX0067||01/01/2000|Italy"}},
+        {"carriage returns", "1\r\nUnited Kingdom;London;UKXX0085\r\n",
+            {L"London|UKXX0085||01/01/2000|United Kingdom"}},
+        {"a carriage return inside the code drops its last character", "1\nX;A;AB\rCD\n", {L"A|AB\rC||01/01/2000|X"}},
+        {"the same city twice is kept twice", "2\nX;Rome;1\nY;Rome;2\n",
+            {L"Rome|1||01/01/2000|X", L"Rome|2||01/01/2000|Y"}},
+        {"missing fields are empty", "2\nFrance;Paris\nSpain\n",
+            {L"|||01/01/2000|Spain", L"Paris|||01/01/2000|France"}},
+        {"a count larger than the lines gives empty records", "3\nX;A;1\n",
+            {L"|||01/01/2000|", L"|||01/01/2000|", L"A|1||01/01/2000|X"}},
+        {"a count of 0 writes nothing", "0\nX;A;1\n", {}},
+        {"a negative count writes nothing", "-1\nX;A;1\n", {}},
+        {"the code keeps further semicolons", "1\nX;A;1;2\n", {L"A|1;2||01/01/2000|X"}},
+        {"bytes above 127 are Latin-1", "1\nDeutschland;K\xF6ln;GMXX0018\n",
+            {L"K\u00F6ln|GMXX0018||01/01/2000|Deutschland"}},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        Device device(c.file);
+        auto favourites = device.favourites();
+        favourites.loadFavouritesOnce();
+        EXPECT_EQ(contents(favourites), c.rows);
+        EXPECT_TRUE(device.messages.messages.empty());
+    }
+}
+
+TEST(WeatherFavourites, AHugeCountStopsAtWhatADatabaseCanCount)
+{
+    Device device("2147483647\nX;A;1\n");
+    auto favourites = device.favourites();
+    favourites.loadFavouritesOnce();
+    EXPECT_EQ(favourites.count(), 65535);
+}
+
+TEST(WeatherFavourites, IsFilledOncePerDevice)
+{
+    Device device;
+    auto favourites = device.favourites();
+    favourites.loadFavouritesOnce();
+    EXPECT_EQ(favourites.count(), 0);
+    favourites.loadFavouritesOnce();
+    ASSERT_EQ(device.messages.messages.size(), 2u) << "told at every start until the file is there";
+    EXPECT_EQ(device.messages.messages[0].text, L"Initial Weather Favorite Cities File not found!");
+    EXPECT_EQ(device.messages.messages[0].caption, L"Wanderkit");
+
+    device.dir.write("cities.wet", "1\nItaly;Rome;ITXX0067\n");
+    favourites.loadFavouritesOnce();
+    EXPECT_EQ(favourites.count(), 1);
+    device.dir.write("cities.wet", "1\nFrance;Paris;FRXX0076\n");
+    auto later = device.favourites();
+    later.loadFavouritesOnce();
+    EXPECT_EQ(contents(later), (std::vector<std::wstring> {L"Rome|ITXX0067||01/01/2000|Italy"}));
+    EXPECT_EQ(device.messages.messages.size(), 2u);
+}
+
+TEST(WeatherFavourites, FindAddUpdateRemove)
+{
+    Device device("2\nItaly;Rome;ITXX0067\nFrance;Paris;FRXX0076\n");
+    auto favourites = device.favourites();
+    favourites.loadFavouritesOnce();
+
+    EXPECT_NE(favourites.findByName(L"Rome"), 0);
+    EXPECT_EQ(favourites.findByName(L"rome"), 0) << "names compare exactly";
+    EXPECT_NE(favourites.findByLocationCode(L"FRXX0076"), 0);
+    EXPECT_EQ(favourites.findByLocationCode(L"Paris"), 0);
+
+    // A new favourite has no forecast, whatever was passed; the same city can be added twice.
+    EXPECT_TRUE(favourites.addFavourite(L"Oslo", L"NOXX0029", L"sunny^", L"01/01/2000:Norway"));
+    EXPECT_TRUE(favourites.addFavourite(L"Oslo", L"NOXX0029", L"", L"01/01/2000:Norway"));
+    EXPECT_EQ(contents(favourites),
+        (std::vector<std::wstring> {L"Oslo|NOXX0029||01/01/2000|Norway", L"Oslo|NOXX0029||01/01/2000|Norway",
+            L"Paris|FRXX0076||01/01/2000|France", L"Rome|ITXX0067||01/01/2000|Italy"}));
+
+    // Updates rewrite all four properties of the record found by name or by location code.
+    EXPECT_TRUE(favourites.updateFavourite(L"Rome", L"ITXX9999", L"rain^", L"22/11/2026:Italy", 1));
+    EXPECT_EQ(contents(favourites)[3], L"Rome|ITXX9999|rain^|22/11/2026|Italy");
+    EXPECT_TRUE(favourites.updateFavourite(L"Lutetia", L"FRXX0076", L"fog^", L"23/11/2026:France", 0));
+    EXPECT_EQ(contents(favourites)[0], L"Lutetia|FRXX0076|fog^|23/11/2026|France");
+    EXPECT_FALSE(favourites.updateFavourite(L"Nowhere", L"X", L"", L"", 1));
+
+    EXPECT_TRUE(favourites.removeFavourite(0));
+    EXPECT_EQ(favourites.count(), 3);
+    EXPECT_FALSE(favourites.removeFavourite(3));
+}
+
+TEST(WeatherFavourites, OpensInEachSortOrder)
+{
+    Device device("3\nB;Zurich;2\nC;Athens;3\nA;Miami;1\n");
+    auto favourites = device.favourites();
+    favourites.loadFavouritesOnce();
+    favourites.updateFavourite(L"Miami", L"1", L"c", L"03/01/2000:A", 1);
+
+    struct Case
+    {
+        int sortIndex;
+        std::vector<std::wstring> names;
+    };
+    const Case cases[] = {
+        {-1, {L"Athens", L"Miami", L"Zurich"}},
+        {0, {L"Athens", L"Miami", L"Zurich"}},
+        {1, {L"Miami", L"Zurich", L"Athens"}},
+        {2, {L"Zurich", L"Athens", L"Miami"}}, // the empty forecasts in order of addition, then "c"
+        {3, {L"Zurich", L"Athens", L"Miami"}},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.sortIndex);
+        ASSERT_TRUE(favourites.openFavourites(c.sortIndex));
+        std::vector<std::wstring> names;
+        for (std::uint32_t i = 0; i < favourites.count(); ++i)
+            names.push_back(favourites.getName(i));
+        EXPECT_EQ(names, c.names);
+    }
+    EXPECT_FALSE(favourites.openFavourites(4));
+    EXPECT_EQ(favourites.count(), 0);
+    favourites.close();
+    EXPECT_EQ(favourites.getName(0), L"");
+}
