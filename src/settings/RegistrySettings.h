@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "settings/SettingsHive.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+// The registry accessor every screen owns: reads and writes values under HKEY_LOCAL_MACHINE and keeps
+// the status of its last read, so that the caller can apply its own default.
+class RegistrySettings
+{
+public:
+    static constexpr std::int32_t Read = 0;
+    static constexpr std::int32_t ValueMissing = -1; // the key exists, the value does not
+    static constexpr std::int32_t KeyMissing = -2;
+    // Value names are looked up through a buffer of this many characters: a longer name is never found.
+    static constexpr std::size_t MaxValueNameLength = 20;
+
+    explicit RegistrySettings(SettingsHive& hive);
+
+    // The stored text (stored without a terminator); empty on any miss.
+    std::wstring GetString(std::wstring_view subkey, std::wstring_view name);
+    // The first four stored bytes, little-endian; 0 on any miss.
+    std::uint32_t GetDWORD(std::wstring_view subkey, std::wstring_view name);
+    void SetString(std::wstring_view subkey, std::wstring_view name, std::wstring_view text);
+    void SetDWORD(std::wstring_view subkey, std::wstring_view name, std::uint32_t value);
+    void SetBinary(std::wstring_view subkey, std::wstring_view name, const std::uint8_t* bytes, std::size_t length);
+    // The status of the last read: 0 read, -1 value missing, -2 key missing.
+    std::int32_t Status() const { return m_status; }
+
+private:
+    // The value, enumerated as the handheld did; sets the status.
+    std::optional<RegistryValue> read(std::wstring_view subkey, std::wstring_view name);
+
+    SettingsHive& m_hive;
+    std::int32_t m_status = Read;
+};

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "store/SqliteConnection.h"
+
+#include <ctime>
+#include <filesystem>
+#include <functional>
+#include <memory>
+
+class MessageSink;
+
+// Opens a database of the state folder (registry.db, objectstore.db). A file that is not a readable
+// database of ours is moved aside under a dated name, the user is told, and a fresh file is started.
+class StateFile
+{
+public:
+    // Creates or checks the tables; false when the file's schema is not one we can use.
+    using Prepare = std::function<bool(SqliteConnection&)>;
+
+    // Nothing only when not even a fresh file can be opened (or the file stays locked by another process).
+    static std::unique_ptr<SqliteConnection> open(
+        const std::filesystem::path& file, MessageSink& messages, const Prepare& prepare);
+    // An in-memory database with the same tables.
+    static std::unique_ptr<SqliteConnection> openInMemory(const Prepare& prepare);
+
+    // Where a broken `file` goes: "<name>.broken-YYYYMMDD-HHMMSS" beside it, numbered when that exists.
+    static std::filesystem::path setAsideName(const std::filesystem::path& file, const std::tm& localTime);
+};

@@ -1,0 +1,166 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "store/WeatherFavourites.h"
+
+#include "device/MessageSink.h"
+#include "store/DeviceFile.h"
+#include "store/FirstStartLoad.h"
+#include "text/WideText.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+constexpr std::array<PropertyId, 4> SortIds = {WeatherFavourites::NameId, WeatherFavourites::LocationCodeId,
+    WeatherFavourites::ForecastId, WeatherFavourites::UpdateKeyId};
+
+std::array<Property, 4> favouriteProperties(
+    std::wstring_view name, std::wstring_view locationCode, std::wstring_view forecast, std::wstring_view updateKey)
+{
+    return {{{WeatherFavourites::NameId, std::wstring(name)},
+        {WeatherFavourites::LocationCodeId, std::wstring(locationCode)},
+        {WeatherFavourites::ForecastId, std::wstring(forecast)},
+        {WeatherFavourites::UpdateKeyId, std::wstring(updateKey)}}};
+}
+
+// Reads "\cities.wet" line by line, each byte widened as Latin-1; past the end every line is empty.
+class FavouritesFile
+{
+public:
+    explicit FavouritesFile(std::string_view bytes)
+        : m_bytes(bytes)
+    { }
+
+    std::wstring line()
+    {
+        if (m_next >= m_bytes.size())
+            return {};
+        const std::size_t end = std::min(m_bytes.find('\n', m_next), m_bytes.size());
+        std::wstring text = Latin1ToWide(m_bytes.substr(m_next, end - m_next));
+        m_next = end + 1;
+        return text;
+    }
+
+private:
+    std::string_view m_bytes;
+    std::size_t m_next = 0;
+};
+
+// "country file;city;location code": missing fields are empty; a location code holding a carriage
+// return loses its last character.
+std::array<Property, 4> favouriteFromLine(std::wstring_view line)
+{
+    const std::wstring_view countryFile = BeforeFirst(line, L';');
+    const std::wstring_view rest = AfterFirst(line, L';');
+    const std::wstring_view city = BeforeFirst(rest, L';');
+    std::wstring_view code = AfterFirst(rest, L';');
+    if (code.find(L'\r') != std::wstring_view::npos)
+        code.remove_suffix(1);
+    const std::wstring updateKey
+        = std::wstring(WeatherFavourites::InitialUpdateDate) + L":" + std::wstring(countryFile);
+    return favouriteProperties(city, code, {}, updateKey);
+}
+
+} // namespace
+
+WeatherFavourites::WeatherFavourites(ObjectStore& store, const DevicePaths& paths, MessageSink& messages)
+    : m_database(store)
+    , m_store(store)
+    , m_paths(paths)
+    , m_messages(messages)
+{ }
+
+bool WeatherFavourites::openFavourites(int sortIndex)
+{
+    m_database.Close();
+    if (sortIndex < 0)
+        return m_database.Open(DatabaseName);
+    if (sortIndex >= static_cast<int>(SortIds.size()))
+        return false;
+    return m_database.OpenSorted(DatabaseName, SortIds[static_cast<std::size_t>(sortIndex)]);
+}
+
+void WeatherFavourites::loadFavouritesOnce()
+{
+    const DatabaseShape shape {DatabaseName, DatabaseType, SortIds, 1};
+    const auto fill = [this](PropertyDatabase& database) { return fillFromFile(database); };
+    if (FirstStartLoad::run(m_store, m_database, shape, fill) == FirstStartLoad::Result::SourceMissing)
+        m_messages.showMessage(L"Initial Weather Favorite Cities File not found!", L"Wanderkit");
+}
+
+bool WeatherFavourites::fillFromFile(PropertyDatabase& database)
+{
+    const auto bytes = ReadDeviceFile(m_paths, DevicePaths::besideProgram(L"\\cities.wet"));
+    if (!bytes)
+        return false;
+    FavouritesFile file(*bytes);
+    const std::int32_t count = Wtol(file.line());
+    // One record per line, lines past the end of the file included, as far as a database can count.
+    const std::int64_t lines = std::min<std::int64_t>(count, PropertyDatabase::MaxRecords);
+    for (std::int64_t i = 0; i < lines; ++i)
+        database.Add(favouriteFromLine(file.line()), PropertyDatabase::NoKey);
+    return true;
+}
+
+std::wstring WeatherFavourites::getName(std::uint32_t position)
+{
+    return m_database.ReadAt(position, NameId);
+}
+
+std::wstring WeatherFavourites::getLocationCode(std::uint32_t position)
+{
+    return m_database.ReadAt(position, LocationCodeId);
+}
+
+std::wstring WeatherFavourites::getForecastText(std::uint32_t position)
+{
+    return m_database.ReadAt(position, ForecastId);
+}
+
+std::wstring WeatherFavourites::getLastUpdate(std::uint32_t position)
+{
+    return std::wstring(BeforeFirst(m_database.ReadAt(position, UpdateKeyId), L':'));
+}
+
+std::wstring WeatherFavourites::getCountryFile(std::uint32_t position)
+{
+    return std::wstring(AfterFirst(m_database.ReadAt(position, UpdateKeyId), L':'));
+}
+
+std::int64_t WeatherFavourites::findByName(std::wstring_view name)
+{
+    return m_database.SeekEqual({NameId, std::wstring(name)});
+}
+
+std::int64_t WeatherFavourites::findByLocationCode(std::wstring_view code)
+{
+    return m_database.SeekEqual({LocationCodeId, std::wstring(code)});
+}
+
+bool WeatherFavourites::addFavourite(
+    std::wstring_view name, std::wstring_view locationCode, std::wstring_view, std::wstring_view updateKey)
+{
+    return m_database.Add(favouriteProperties(name, locationCode, {}, updateKey), PropertyDatabase::NoKey);
+}
+
+bool WeatherFavourites::updateFavourite(std::wstring_view name, std::wstring_view locationCode,
+    std::wstring_view forecast, std::wstring_view updateKey, int byName)
+{
+    const std::int64_t found = byName == 1 ? findByName(name) : findByLocationCode(locationCode);
+    return found != 0 && m_database.UpdateCurrent(favouriteProperties(name, locationCode, forecast, updateKey));
+}
+
+bool WeatherFavourites::removeFavourite(std::uint32_t position)
+{
+    return m_database.DeleteAt(position);
+}
+
+std::uint16_t WeatherFavourites::count()
+{
+    return m_database.RecordCount();
+}
+
+void WeatherFavourites::close()
+{
+    m_database.Close();
+}
