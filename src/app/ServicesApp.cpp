@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/ServicesApp.h"
 
+#include "screens/clothing/ClothingScreen.h"
+#include "screens/dialing/DialingScreen.h"
 #include "ui/Commands.h"
 #include "ui/Icons.h"
 #include "ui/MessageBox.h"
@@ -14,6 +16,8 @@ namespace {
 
 constexpr int LauncherMenuBar = 107;
 constexpr int Columns = 4;
+constexpr std::size_t ClothingService = 5;
+constexpr std::size_t DialingService = 6;
 // String ids of the service labels, in selection order.
 constexpr std::array<int, ServicesApp::ServiceCount> LabelIds {40008, 40009, 40025, 40034, 40044, 40045, 40046, 40047};
 
@@ -26,6 +30,8 @@ ServicesApp::ServicesApp(ScreenEnvironment& environment, DeviceWindow& window)
     m_selector->setObjectName(QStringLiteral("serviceSpinner"));
     m_selector->setWrapping(true);
     watchSpinner(*m_selector);
+    m_screens[ClothingService] = std::make_unique<ClothingScreen>(environment, window);
+    m_screens[DialingService] = std::make_unique<DialingScreen>(environment, window);
 }
 
 ServicesApp::~ServicesApp() = default;

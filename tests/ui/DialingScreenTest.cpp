@@ -2,11 +2,19 @@
 #include "screens/dialing/DialingScreen.h"
 
 #include "ScreenTestBench.h"
+#include "app/ServicesApp.h"
 #include "reference/DialingCodes.h"
+#include "screens/clothing/ClothingScreen.h"
+#include "settings/SettingsTable.h"
+#include "ui/Commands.h"
 #include "ui/ReportList.h"
+#include "ui/SoftKeyBar.h"
 #include "ui/Spinner.h"
 
 #include <QTest>
+#include <QTimer>
+
+#include <memory>
 
 namespace {
 
@@ -52,6 +60,19 @@ QStringList row(const ReportList& list, int index)
 QList<int> columnWidths(const ReportList& list)
 {
     return {list.columnWidth(0), list.columnWidth(1), list.columnWidth(2)};
+}
+
+// Calls `drive` once `screen` is next shown, when someone else (the launcher) opens it.
+void whenShown(ScreenTestBench& bench, Screen& screen, const std::function<void()>& drive)
+{
+    auto connection = std::make_shared<QMetaObject::Connection>();
+    *connection = QObject::connect(
+        &bench.window, &DeviceWindow::screenShown, &screen, [&screen, connection, drive](Screen& shown) {
+            if (&shown != &screen)
+                return;
+            QObject::disconnect(*connection);
+            QTimer::singleShot(0, &screen, drive);
+        });
 }
 
 } // namespace
@@ -204,6 +225,48 @@ private slots:
             press(bench, Qt::Key_Up); // from the first row back to the chooser
             QCOMPARE(bench.window.focusWidget(), chooser(screen));
         });
+    }
+
+    void theLauncherOpensBothScreensAndGetsBackItsSelection()
+    {
+        for (const int service : {5, 6}) {
+            ScreenTestBench bench;
+            ServicesApp launcher(bench.environment, bench.window);
+            Screen* screen = launcher.serviceScreen(service);
+            QVERIFY(service == 5 ? qobject_cast<ClothingScreen*>(screen) != nullptr
+                                 : qobject_cast<DialingScreen*>(screen) != nullptr);
+            bool servicesEnabled = false;
+            bool exitEnded = false;
+            bench.run(launcher, [&] {
+                for (int i = 0; i < service; ++i)
+                    press(bench, Qt::Key_Right);
+                whenShown(bench, *screen, [&] {
+                    servicesEnabled = screen->softKeys()->isKeyEnabled(Commands::Services);
+                    press(bench, Qt::Key_F1);
+                    screen->endScreen(); // in case the key did nothing
+                });
+                press(bench, Qt::Key_Return); // returns once the screen has ended
+                QCOMPARE(bench.window.topScreen(), &launcher);
+                QCOMPARE(launcher.selection(), service);
+                QVERIFY(!launcher.softKeys()->isKeyEnabled(Commands::Services));
+
+                whenShown(bench, *screen, [&] {
+                    press(bench, Qt::Key_Down);
+                    press(bench, Qt::Key_Right);
+                    screen->softKeys()->chooseItem(Commands::Exit);
+                    exitEnded = bench.window.isExiting();
+                    bench.window.exitAll(); // in case the item did nothing
+                });
+                press(bench, Qt::Key_Return);
+            });
+            QVERIFY(servicesEnabled);
+            QVERIFY(exitEnded);
+            QVERIFY(!screen->isRunning() && !launcher.isRunning());
+            if (service == 5) { // the clothing screen saved the wearer chosen before "Exit"
+                RegistrySettings settings(*bench.settings);
+                QCOMPARE(ReadSetting(settings, Settings::ClothesWho), 1u);
+            }
+        }
     }
 };
 
