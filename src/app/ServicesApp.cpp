@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/ServicesApp.h"
 
+#include "screens/clothing/ClothingScreen.h"
+#include "screens/dialing/DialingScreen.h"
 #include "screens/worldclock/WorldClockScreen.h"
 #include "settings/SettingsTable.h"
 #include "ui/BusyCursor.h"
@@ -17,6 +19,9 @@ namespace {
 
 constexpr int LauncherMenuBar = 107;
 constexpr int Columns = 4;
+constexpr std::size_t WorldClocksService = 0;
+constexpr std::size_t ClothingService = 5;
+constexpr std::size_t DialingService = 6;
 // String ids of the service labels, in selection order.
 constexpr std::array<int, ServicesApp::ServiceCount> LabelIds {40008, 40009, 40025, 40034, 40044, 40045, 40046, 40047};
 
@@ -30,10 +35,12 @@ ServicesApp::ServicesApp(ScreenEnvironment& environment, DeviceWindow& window)
     , m_favourites(environment.objects, environment.paths, environment.messages)
     , m_currencies(environment.objects)
 {
-    m_screens[0] = std::make_unique<WorldClockScreen>(environment, window, m_cities, m_favourites);
+    m_screens[WorldClocksService] = std::make_unique<WorldClockScreen>(environment, window, m_cities, m_favourites);
     m_selector->setObjectName(QStringLiteral("serviceSpinner"));
     m_selector->setWrapping(true);
     watchSpinner(*m_selector);
+    m_screens[ClothingService] = std::make_unique<ClothingScreen>(environment, window);
+    m_screens[DialingService] = std::make_unique<DialingScreen>(environment, window);
 }
 
 ServicesApp::~ServicesApp() = default;

@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "screens/clothing/ClothingScreen.h"
+
+#include "settings/SettingsTable.h"
+#include "ui/Painting.h"
+#include "ui/Spinner.h"
+
+#include <QPainter>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int ClothingMenuBar = 112;
+constexpr int ScreenTitle = 40045; // "Clothing sizes"
+
+// Layout, b being the title band's height: the wearer and garment spinners one above the other at
+// (6, b+6) and (6, b+36), W-17 wide and 24 high; the table title at (5, b+70); the four rows from
+// (5, b+100), 28 pixels apart. The hidden shift spinner sits at (W-25, 10), 0 x 0.
+constexpr int Band = 25;
+constexpr int SpinnerHeight = 24;
+constexpr int WearerTop = Band + 6;
+constexpr int GarmentTop = Band + 36;
+constexpr int TableTitleTop = Band + 70;
+constexpr int FirstRowTop = Band + 100;
+constexpr int RowPitch = 28;
+constexpr int TextLeft = 5;
+
+QString fromWide(std::wstring_view text)
+{
+    return QString::fromWCharArray(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+// A stored list position, or 0 when it is not one of `count` positions.
+int positionOrFirst(std::uint32_t stored, std::size_t count)
+{
+    return stored < count ? static_cast<int>(stored) : 0;
+}
+
+void drawTextAt(QPainter& painter, const QFont& font, int left, int top, const QString& text)
+{
+    painter.setFont(font);
+    painter.drawText(left, top + QFontMetrics(font).ascent(), text);
+}
+
+} // namespace
+
+ClothingScreen::ClothingScreen(ScreenEnvironment& environment, DeviceWindow& window)
+    : Screen(environment, window, ClothingMenuBar, QStringLiteral("clothing"))
+    , m_settings(environment.settings)
+    , m_wearerSpinner(new Spinner(this))
+    , m_garmentSpinner(new Spinner(this))
+    , m_shiftSpinner(new Spinner(this))
+{
+    setBackgroundPicture(L"bconv.jpg");
+    // Up and Down cycle through the controls only, never stopping on the screen itself.
+    setFocusPolicy(Qt::NoFocus);
+    m_wearerSpinner->setObjectName(QStringLiteral("wearerSpinner"));
+    m_garmentSpinner->setObjectName(QStringLiteral("garmentSpinner"));
+    m_shiftSpinner->setObjectName(QStringLiteral("shiftSpinner"));
+    m_shiftSpinner->setItems({QStringLiteral("1"), QStringLiteral("2")});
+    setTabOrder(m_wearerSpinner, m_garmentSpinner);
+    setTabOrder(m_garmentSpinner, m_shiftSpinner);
+    watchSpinner(*m_shiftSpinner);
+    connect(m_wearerSpinner, &Spinner::currentChanged, this, [this] {
+        fillGarments(0);
+        showTable();
+    });
+    connect(m_garmentSpinner, &Spinner::currentChanged, this, &ClothingScreen::showTable);
+}
+
+ClothingScreen::~ClothingScreen() = default;
+
+QString ClothingScreen::tableTitle() const
+{
+    return m_table ? Painting::loadString(m_table->titleId) : QString();
+}
+
+QStringList ClothingScreen::shownRows() const
+{
+    QStringList rows;
+    if (m_table) {
+        for (const std::wstring_view row : m_table->rows)
+            rows << fromWide(ClothingSizes::Shifted(row, m_shift));
+    }
+    return rows;
+}
+
+void ClothingScreen::initialise()
+{
+    m_titleFont = Painting::makeFont(24, Painting::Bold);
+    m_labelFont = Painting::makeFont(21, Painting::Bold);
+    m_listFont = Painting::makeFont(21, Painting::Normal);
+    m_rowFont = Painting::makeFont(20, Painting::Bold);
+    m_wearerSpinner->setFont(m_listFont);
+    m_garmentSpinner->setFont(m_listFont);
+
+    // Each visit starts with the rows at their first character.
+    m_shift = 0;
+    m_shiftSpinner->setCurrentIndex(0);
+
+    QStringList wearers;
+    for (const int id : ClothingSizes::Wearers())
+        wearers << Painting::loadString(id);
+    m_wearerSpinner->setItems(wearers);
+    const int wearer = positionOrFirst(ReadSetting(m_settings, Settings::ClothesWho), ClothingSizes::Wearers().size());
+    m_wearerSpinner->setCurrentIndex(wearer);
+    const std::uint32_t garment = ReadSetting(m_settings, Settings::ClothesKind);
+    fillGarments(positionOrFirst(garment, ClothingSizes::Garments(wearer).size()));
+    showTable();
+    m_shiftSpinner->setFocus();
+}
+
+void ClothingScreen::fillGarments(int garment)
+{
+    QStringList garments;
+    for (const int id : ClothingSizes::Garments(m_wearerSpinner->currentIndex()))
+        garments << Painting::loadString(id);
+    m_garmentSpinner->setItems(garments);
+    m_garmentSpinner->setCurrentIndex(garment);
+}
+
+void ClothingScreen::showTable()
+{
+    m_table = ClothingSizes::Find(m_wearerSpinner->currentIndex(), m_garmentSpinner->currentIndex());
+    update();
+}
+
+void ClothingScreen::layout(int width, int)
+{
+    m_wearerSpinner->setGeometry(6, WearerTop, width - 17, SpinnerHeight);
+    m_garmentSpinner->setGeometry(6, GarmentTop, width - 17, SpinnerHeight);
+    m_shiftSpinner->hideAt(width - 25, 10);
+}
+
+void ClothingScreen::paint(QPainter& painter)
+{
+    Painting::drawBand(painter, QRect(0, 0, workWidth(), Band), Painting::ConverterBand,
+        Painting::loadString(ScreenTitle), m_titleFont);
+    painter.setPen(Painting::White);
+    drawTextAt(painter, m_labelFont, TextLeft, TableTitleTop, tableTitle());
+    const QStringList rows = shownRows();
+    for (int i = 0; i < rows.size(); ++i)
+        drawTextAt(painter, m_rowFont, TextLeft, FirstRowTop + i * RowPitch, rows.at(i));
+}
+
+void ClothingScreen::spinnerDelta(Spinner&, int delta)
+{
+    m_shift = std::clamp(m_shift + delta, 0, ClothingSizes::MaxShift);
+    update();
+}
+
+void ClothingScreen::destroyWork()
+{
+    WriteSetting(m_settings, Settings::ClothesWho, static_cast<std::uint32_t>(m_wearerSpinner->currentIndex()));
+    WriteSetting(m_settings, Settings::ClothesKind, static_cast<std::uint32_t>(m_garmentSpinner->currentIndex()));
+}

@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "screens/dialing/DialingScreen.h"
+
+#include "reference/DialingCodes.h"
+#include "ui/BusyCursor.h"
+#include "ui/Commands.h"
+#include "ui/Painting.h"
+#include "ui/ReportList.h"
+#include "ui/SoftKeyBar.h"
+#include "ui/Spinner.h"
+
+#include <QPainter>
+
+namespace {
+
+constexpr int DialingMenuBar = 107;
+constexpr int ScreenTitle = 40046; // "Dialing codes"
+constexpr int InternationalItem = 40082;
+constexpr int AreaCodesItem = 40078;
+constexpr int CityText = 40022;
+constexpr int CountryText = 40023;
+constexpr int CodeText = 40080;
+constexpr int GmtText = 40081;
+constexpr int RegionText = 40083;
+
+// The chooser at (6, b+6), W-17 wide and 24 high; both lists share (0, b+36) to the bottom right.
+constexpr int Band = 25;
+constexpr int ChooserTop = Band + 6;
+constexpr int ChooserHeight = 24;
+constexpr int ListTop = Band + 36;
+// The chooser's longest item, "International Dialing Codes", fits its box at this height.
+constexpr int ListFontHeight = 15;
+
+QString fromWide(std::wstring_view text)
+{
+    return QString::fromWCharArray(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+ReportList* makeList(QWidget* parent, const QString& name, std::vector<ReportList::Column> columns)
+{
+    auto* list = new ReportList(parent);
+    list->setObjectName(name);
+    list->setColumns(std::move(columns));
+    return list;
+}
+
+} // namespace
+
+DialingScreen::DialingScreen(ScreenEnvironment& environment, DeviceWindow& window)
+    : Screen(environment, window, DialingMenuBar, QStringLiteral("dialing"))
+    , m_chooser(new Spinner(this))
+    , m_international(makeList(this, QStringLiteral("internationalReportList"),
+          {{Painting::loadString(CountryText), 45}, {Painting::loadString(CodeText), 26},
+              {Painting::loadString(GmtText), 21, 1}}))
+    // The state and the code share what the city leaves, 92 % in all as above, room kept for the scroll bar.
+    , m_areaCodes(makeList(this, QStringLiteral("areaCodeReportList"),
+          {{Painting::loadString(CityText), 35}, {Painting::loadString(RegionText), 40},
+              {Painting::loadString(CodeText), 17}}))
+{
+    setBackgroundPicture(L"bconv.jpg");
+    // Up and Down cycle through the controls only, never stopping on the screen itself.
+    setFocusPolicy(Qt::NoFocus);
+    m_chooser->setObjectName(QStringLiteral("chooserSpinner"));
+    m_chooser->setItems({Painting::loadString(InternationalItem), Painting::loadString(AreaCodesItem)});
+    connect(m_chooser, &Spinner::currentChanged, this, &DialingScreen::showChosenList);
+}
+
+DialingScreen::~DialingScreen() = default;
+
+void DialingScreen::initialise()
+{
+    // Bar 107 greys "Services" for the launcher; here it must lead back to the launcher.
+    softKeys()->setKeyEnabled(Commands::Services, true);
+    m_titleFont = Painting::makeFont(24, Painting::Bold);
+    m_listFont = Painting::makeFont(ListFontHeight, Painting::Normal);
+    m_chooser->setFont(m_listFont);
+    m_international->setFont(m_listFont);
+    m_areaCodes->setFont(m_listFont);
+    m_chooser->setCurrentIndex(0);
+    showChosenList();
+    fillLists();
+    m_chooser->setFocus();
+}
+
+void DialingScreen::fillLists()
+{
+    const BusyCursor busy;
+    m_international->clearRows();
+    int row = 0;
+    for (const DialingCodes::Country& country : DialingCodes::International())
+        m_international->insertRow(
+            row++, {fromWide(country.country), fromWide(DialingCodes::ShownCode(country)), fromWide(country.gmt)});
+    m_areaCodes->clearRows();
+    row = 0;
+    for (const DialingCodes::AreaCode& area : DialingCodes::UsAreaCodes())
+        m_areaCodes->insertRow(row++, {fromWide(area.city), fromWide(area.state), fromWide(area.code)});
+}
+
+void DialingScreen::showChosenList()
+{
+    const bool international = m_chooser->currentIndex() == 0;
+    m_international->setVisible(international);
+    m_areaCodes->setVisible(!international);
+}
+
+void DialingScreen::layout(int width, int height)
+{
+    m_chooser->setGeometry(6, ChooserTop, width - 17, ChooserHeight);
+    const QRect lists(0, ListTop, width, height - ListTop);
+    m_international->setGeometry(lists);
+    m_areaCodes->setGeometry(lists);
+}
+
+void DialingScreen::paint(QPainter& painter)
+{
+    Painting::drawBand(painter, QRect(0, 0, workWidth(), Band), Painting::ConverterBand,
+        Painting::loadString(ScreenTitle), m_titleFont);
+    // A frame one pixel outside the chooser.
+    const QRect chooser = m_chooser->geometry();
+    painter.setPen(Qt::black);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(chooser.x() - 1, chooser.y() - 1, chooser.width() + 1, chooser.height() + 1);
+}
