@@ -35,10 +35,10 @@ ServicesApp::ServicesApp(ScreenEnvironment& environment, DeviceWindow& window)
     , m_favourites(environment.objects, environment.paths, environment.messages)
     , m_currencies(environment.objects)
 {
-    m_screens[WorldClocksService] = std::make_unique<WorldClockScreen>(environment, window, m_cities, m_favourites);
     m_selector->setObjectName(QStringLiteral("serviceSpinner"));
     m_selector->setWrapping(true);
     watchSpinner(*m_selector);
+    m_screens[WorldClocksService] = std::make_unique<WorldClockScreen>(environment, window, m_cities, m_favourites);
     m_screens[ClothingService] = std::make_unique<ClothingScreen>(environment, window);
     m_screens[DialingService] = std::make_unique<DialingScreen>(environment, window);
 }

@@ -80,6 +80,9 @@ int DeviceWindow::run(Screen& screen)
     screen.setParent(nullptr);
     delete softKeys;
     showTop();
+    // Once every run has unwound, the exit is complete.
+    if (m_runs.empty())
+        m_exiting = false;
     return result;
 }
 

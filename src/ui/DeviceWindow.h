@@ -29,6 +29,7 @@ public:
     int run(Screen& screen);
     // Ends every running screen, innermost first, each with its destroy work.
     void exitAll();
+    // True from exitAll() until the outermost run has ended.
     bool isExiting() const { return m_exiting; }
     Screen* topScreen() const;
     SoftKeyBar* topSoftKeys() const;

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ScreenTestBench.h"
 #include "app/ServicesApp.h"
+#include "settings/RegistrySettings.h"
+#include "store/CityCatalogue.h"
+#include "store/CurrencyStore.h"
 #include "ui/Commands.h"
 #include "ui/SoftKeyBar.h"
 
@@ -120,6 +123,62 @@ private slots:
             QCOMPARE(bench.boxes[0].text, QStringLiteral("e"));
             QCOMPARE(bench.boxes[0].caption, QString());
         });
+    }
+
+    void missingShippedFilesAreReportedAndTheLauncherStillStarts()
+    {
+        ScreenTestBench bench;
+        ServicesApp launcher(bench.environment, bench.window);
+        withLauncher(bench, launcher, [&] { QCOMPARE(bench.window.topScreen(), &launcher); });
+        std::vector<std::wstring> texts;
+        for (const auto& message : bench.messages.messages) {
+            texts.push_back(message.text);
+            QCOMPARE(message.caption, std::wstring(L"Wanderkit"));
+        }
+        QCOMPARE(texts, (std::vector<std::wstring> {L"Initial Cities File not found!",
+                            L"Initial Weather Favorite Cities File not found!", L"Initial Currencies File not found!"}));
+    }
+
+    void theStoresAreFilledOnceAndTheCurrencyFileIsReadAtEveryStart()
+    {
+        ScreenTestBench bench;
+        bench.root.write("cities.lst", "h\n2\nx;Paris;France;2.35;48.85;1;1;88;2;298;3\nx;Lima;Peru;-77;-12;-5;0;0;0;0;0\n");
+        bench.root.write("cities.wet", "1\nFrance;Paris;2988507\n");
+        bench.root.write("currs.lst", "2\nEUR_Euro_1.1#USD_US Dollar_1#");
+        {
+            ServicesApp launcher(bench.environment, bench.window);
+            withLauncher(bench, launcher, [] {});
+        }
+        QVERIFY(bench.messages.messages.empty());
+
+        // New files change nothing once the stores are filled, but a missing currency file is still reported.
+        bench.root.write("cities.lst", "h\n1\nx;Oslo;Norway;10.75;59.91;1;1;88;2;298;3\n");
+        std::filesystem::remove(bench.root.path() / "currs.lst");
+        ServicesApp launcher(bench.environment, bench.window);
+        withLauncher(bench, launcher, [] {});
+        QCOMPARE(bench.messages.messages.size(), std::size_t(1));
+        QCOMPARE(bench.messages.messages[0].text, std::wstring(L"Initial Currencies File not found!"));
+        CityCatalogue cities(*bench.objects, bench.paths, bench.messages);
+        cities.Load();
+        QCOMPARE(cities.Count(), 2);
+        QCOMPARE(cities.CityName(1), std::wstring(L"Paris"));
+        CurrencyStore currencies(*bench.objects);
+        currencies.Load();
+        QCOMPARE(currencies.RecordCount(), 2);
+    }
+
+    void leavingForgetsTheTypedAmounts()
+    {
+        ScreenTestBench bench;
+        RegistrySettings registry(*bench.settings);
+        registry.SetString(L"Wanderkit\\currencies", L"curval", L"12.5");
+        registry.SetString(L"Wanderkit\\measurs", L"convval", L"3");
+        ServicesApp launcher(bench.environment, bench.window);
+        withLauncher(bench, launcher, [] {});
+        QCOMPARE(registry.GetString(L"Wanderkit\\currencies", L"curval"), std::wstring());
+        QCOMPARE(registry.Status(), RegistrySettings::Read);
+        QCOMPARE(registry.GetString(L"Wanderkit\\measurs", L"convval"), std::wstring());
+        QCOMPARE(registry.Status(), RegistrySettings::Read);
     }
 
     void theServicesKeyIsGreyOnTheLauncher()
