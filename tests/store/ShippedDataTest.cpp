@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The shipped device root, read with the program's own readers.
+#include "RecordingMessageSink.h"
+#include "device/DevicePaths.h"
+#include "settings/MappingFile.h"
+#include "settings/RegistrySettings.h"
+#include "settings/SettingsHive.h"
+#include "store/CityCatalogue.h"
+#include "store/CountryCityList.h"
+#include "store/CurrencyStore.h"
+#include "store/InitialCurrencyList.h"
+#include "store/ObjectStore.h"
+#include "store/WeatherFavourites.h"
+#include "text/WideText.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <set>
+
+namespace {
+
+class ShippedData : public ::testing::Test
+{
+protected:
+    static std::string fileBytes(const char* name)
+    {
+        std::ifstream in(std::filesystem::path(WANDERKIT_SHIPPED_DEVICE_ROOT) / name, std::ios::binary);
+        return std::string(std::istreambuf_iterator<char>(in), {});
+    }
+
+    // The count on the second line of "\cities.lst", below its header line.
+    static std::int32_t cityFileCount()
+    {
+        const std::string bytes = fileBytes("cities.lst");
+        return Wtol(Latin1ToWide(bytes.substr(bytes.find('\n') + 1)));
+    }
+
+    DevicePaths paths {WANDERKIT_SHIPPED_DEVICE_ROOT};
+    RecordingMessageSink messages;
+    std::unique_ptr<ObjectStore> objects = ObjectStore::openInMemory();
+};
+
+} // namespace
+
+TEST_F(ShippedData, TheCatalogueHoldsEveryCityAndTheDefaultClocksLandOnRealCities)
+{
+    CityCatalogue cities(*objects, paths, messages);
+    cities.Load();
+    EXPECT_TRUE(messages.messages.empty());
+    EXPECT_EQ(cities.Count(), cityFileCount());
+    EXPECT_GE(cities.Count(), 1050);
+    EXPECT_LE(cities.Count(), 1150);
+    const std::pair<std::uint32_t, const wchar_t*> clocks[] = {
+        {565, L"London:United Kingdom"}, {684, L"New York:United States"}, {756, L"Paris:France"},
+        {988, L"Tokyo:Japan"}};
+    for (const auto& [position, name] : clocks)
+        EXPECT_EQ(cities.CityName(position) + L":" + cities.Country(position), name) << position;
+}
+
+TEST_F(ShippedData, TheCityFileIsSevenBitAscii)
+{
+    const std::string bytes = fileBytes("cities.lst");
+    ASSERT_FALSE(bytes.empty());
+    EXPECT_EQ(std::count_if(bytes.begin(), bytes.end(), [](char c) { return static_cast<unsigned char>(c) > 127; }), 0);
+}
+
+TEST_F(ShippedData, EveryCityIsInItsCountrysWeatherList)
+{
+    CityCatalogue cities(*objects, paths, messages);
+    cities.Load();
+    std::set<std::wstring> countries;
+    for (std::uint32_t i = 0; i < cities.Count(); ++i) {
+        const CityRecord city = cities.Record(i);
+        const CountryCityList list = CountryCityList::read(paths, city.country);
+        countries.insert(city.country);
+        ASSERT_FALSE(list.cities().empty()) << WideToUtf8(city.country);
+        // The code found by name must be the one on the city's own line.
+        const std::wstring ownLine = L"\n" + city.name + L";" + list.codeOf(city.name).value_or(L"?") + L"\n";
+        EXPECT_NE((L"\n" + list.text()).find(ownLine), std::wstring::npos) << WideToUtf8(city.name);
+    }
+    EXPECT_GE(countries.size(), 190u);
+}
+
+TEST_F(ShippedData, CurrenciesLandOnTheConverterDefaults)
+{
+    const InitialCurrencyList list = ReadInitialCurrencies(paths, messages);
+    EXPECT_EQ(list.count, 189);
+    EXPECT_EQ(list.entries.size(), 189u);
+    CurrencyStore store(*objects);
+    store.SetInitialList(list);
+    store.Load();
+    EXPECT_EQ(store.RecordCount(), 189);
+    const std::tuple<std::uint32_t, const wchar_t*, const wchar_t*> defaults[] = {
+        {61, L"EUR", L"Euro"}, {180, L"USD", L"US Dollar"}, {27, L"GBP", L"British Pound"}};
+    for (const auto& [position, code, name] : defaults) {
+        EXPECT_EQ(store.Code(position), code);
+        EXPECT_EQ(store.Name(position), name);
+    }
+    EXPECT_DOUBLE_EQ(Wcstod(store.RateText(180)), 1.0);
+    for (std::uint32_t i = 0; i < 189; ++i)
+        EXPECT_GT(Wcstod(store.RateText(i)), 0.0) << WideToUtf8(store.Name(i));
+}
+
+TEST_F(ShippedData, FavouritesAreCatalogueCitiesWithTheirCodes)
+{
+    CityCatalogue cities(*objects, paths, messages);
+    cities.Load();
+    WeatherFavourites favourites(*objects, paths, messages);
+    favourites.loadFavouritesOnce();
+    const std::string bytes = fileBytes("cities.wet");
+    EXPECT_EQ(favourites.count(), Wtol(Latin1ToWide(bytes)));
+    std::set<std::wstring> names;
+    for (std::uint32_t i = 0; i < favourites.count(); ++i) {
+        const std::wstring name = favourites.getName(i);
+        names.insert(name);
+        EXPECT_EQ(CountryCityList::read(paths, favourites.getCountryFile(i)).codeOf(name),
+            favourites.getLocationCode(i))
+            << WideToUtf8(name);
+    }
+    for (const wchar_t* city : {L"London", L"New York", L"Paris", L"Tokyo"})
+        EXPECT_TRUE(names.contains(city)) << WideToUtf8(city);
+}
+
+TEST_F(ShippedData, EveryForecastCodeFindsItsIcon)
+{
+    auto hive = SettingsHive::openInMemory();
+    RegistrySettings settings(*hive);
+    const std::wstring mapping = ReadMappingText(settings, paths);
+    ASSERT_FALSE(mapping.empty());
+    const auto iconFor = [&mapping](const std::wstring& code) {
+        // The first entry that contains the code anywhere names the icon.
+        std::size_t start = 0;
+        while (start < mapping.size()) {
+            const std::size_t end = mapping.find(L';', start);
+            const std::wstring entry = mapping.substr(start, end - start);
+            if (entry.find(code) != std::wstring::npos)
+                return std::wstring(BeforeFirst(entry, L'@'));
+            start = end + 1;
+        }
+        return std::wstring(L"na");
+    };
+    for (const int wmo : {0, 1, 2, 3, 45, 48, 51, 53, 55, 56, 57, 61, 63, 65, 66, 67, 71, 73, 75, 77, 80, 81, 82, 85,
+             86, 95, 96, 99}) {
+        const std::wstring code = FormatText(L"%02d", wmo);
+        const std::wstring icon = iconFor(code);
+        EXPECT_NE(icon, L"na") << wmo;
+        EXPECT_TRUE(std::filesystem::exists(paths.root() / "wiconset" / (WideToUtf8(icon) + ".bmp"))) << wmo;
+    }
+    EXPECT_TRUE(std::filesystem::exists(paths.root() / "wiconset" / "na.bmp"));
+}
