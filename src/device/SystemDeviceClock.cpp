@@ -47,6 +47,11 @@ SystemTime SystemDeviceClock::localTime() const
     const std::time_t seconds = static_cast<std::time_t>(ms / 1000);
     std::tm tm {};
     localtime_r(&seconds, &tm);
+    return fromTm(tm, static_cast<int>(ms % 1000));
+}
+
+SystemTime SystemDeviceClock::fromTm(const std::tm& tm, int milliseconds)
+{
     SystemTime t;
     t.year = static_cast<std::uint16_t>(tm.tm_year + 1900);
     t.month = static_cast<std::uint16_t>(tm.tm_mon + 1);
@@ -55,7 +60,7 @@ SystemTime SystemDeviceClock::localTime() const
     t.hour = static_cast<std::uint16_t>(tm.tm_hour);
     t.minute = static_cast<std::uint16_t>(tm.tm_min);
     t.second = static_cast<std::uint16_t>(tm.tm_sec);
-    t.milliseconds = static_cast<std::uint16_t>(ms % 1000);
+    t.milliseconds = static_cast<std::uint16_t>(milliseconds);
     return t;
 }
 

@@ -3,6 +3,7 @@
 
 #include "device/DeviceClock.h"
 
+#include <ctime>
 #include <optional>
 
 // The system's local time (zone chosen by TZ), optionally started at a given local time
@@ -19,6 +20,8 @@ public:
 
     // Parses "YYYY-MM-DD HH:MM:SS"; nothing for text that is not a valid date and time.
     static std::optional<SystemTime> parseLocalTime(const char* text);
+    // A broken-down C time as a SystemTime.
+    static SystemTime fromTm(const std::tm& tm, int milliseconds);
 
 private:
     long long m_shiftMs = 0; // added to the system clock, in milliseconds

@@ -19,7 +19,8 @@ Screen::Screen(ScreenEnvironment& environment, DeviceWindow& window, int menuBar
     , m_name(std::move(name))
 {
     setObjectName(m_name + QStringLiteral("Screen"));
-    setFocusPolicy(Qt::StrongFocus);
+    // The screen itself never takes the focus from its controls when Up/Down move between them.
+    setFocusPolicy(Qt::NoFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
     hide();
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "FakeDeviceClock.h"
 
+#include "device/SystemDeviceClock.h"
+
 #include <ctime>
 
 FakeDeviceClock::FakeDeviceClock()
@@ -22,16 +24,7 @@ SystemTime FakeDeviceClock::at(int year, int month, int day, int hour, int minut
     tm.tm_min = minute;
     tm.tm_sec = second;
     timegm(&tm);
-    SystemTime t;
-    t.year = static_cast<std::uint16_t>(tm.tm_year + 1900);
-    t.month = static_cast<std::uint16_t>(tm.tm_mon + 1);
-    t.day = static_cast<std::uint16_t>(tm.tm_mday);
-    t.dayOfWeek = static_cast<std::uint16_t>(tm.tm_wday);
-    t.hour = static_cast<std::uint16_t>(tm.tm_hour);
-    t.minute = static_cast<std::uint16_t>(tm.tm_min);
-    t.second = static_cast<std::uint16_t>(tm.tm_sec);
-    t.milliseconds = static_cast<std::uint16_t>(ms);
-    return t;
+    return SystemDeviceClock::fromTm(tm, ms);
 }
 
 void FakeDeviceClock::advanceSeconds(long long seconds)

@@ -53,8 +53,6 @@ ClothingScreen::ClothingScreen(ScreenEnvironment& environment, DeviceWindow& win
     , m_shiftSpinner(new Spinner(this))
 {
     setBackgroundPicture(L"bconv.jpg");
-    // Up and Down cycle through the controls only, never stopping on the screen itself.
-    setFocusPolicy(Qt::NoFocus);
     m_wearerSpinner->setObjectName(QStringLiteral("wearerSpinner"));
     m_garmentSpinner->setObjectName(QStringLiteral("garmentSpinner"));
     m_shiftSpinner->setObjectName(QStringLiteral("shiftSpinner"));

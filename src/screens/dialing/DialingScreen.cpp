@@ -58,8 +58,6 @@ DialingScreen::DialingScreen(ScreenEnvironment& environment, DeviceWindow& windo
               {Painting::loadString(CodeText), 17}}))
 {
     setBackgroundPicture(L"bconv.jpg");
-    // Up and Down cycle through the controls only, never stopping on the screen itself.
-    setFocusPolicy(Qt::NoFocus);
     m_chooser->setObjectName(QStringLiteral("chooserSpinner"));
     m_chooser->setItems({Painting::loadString(InternationalItem), Painting::loadString(AreaCodesItem)});
     connect(m_chooser, &Spinner::currentChanged, this, &DialingScreen::showChosenList);
