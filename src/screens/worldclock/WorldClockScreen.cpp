@@ -3,7 +3,6 @@
 
 #include "device/DeviceClock.h"
 #include "screens/select/SelectDialog.h"
-#include "screens/worldclock/ClockDial.h"
 #include "settings/SettingsTable.h"
 #include "store/CityCatalogue.h"
 #include "store/CountryCityList.h"
@@ -19,16 +18,13 @@
 #include "ui/Spinner.h"
 
 #include <QPainter>
-#include <QPainterPath>
 
 namespace {
 
 constexpr int WorldClockMenuBar = 101;
 constexpr int TickTimer = 1;
 constexpr int TitleHeight = 25;
-constexpr int WeatherIconSize = 18;
 const QColor TitleBand(0, 178, 235); // colour value 15446528
-const QColor DaylightMark(255, 200, 60);
 
 // The registry value of each slot: "clock", "clock1" ... "clock4".
 const std::array<const DwordSetting*, WorldClockScreen::SlotCount> SlotSettings {
@@ -46,15 +42,6 @@ SystemTime handTime(const std::wstring& text, const SystemTime& now)
     time.hour = static_cast<std::uint16_t>(Wtol(text.substr(0, 2)));
     time.minute = text.size() >= 5 ? static_cast<std::uint16_t>(Wtol(text.substr(3, 2))) : 0;
     return time;
-}
-
-void drawShadowedText(QPainter& painter, const QPoint& topLeft, const QString& text, const QColor& colour)
-{
-    const int baseline = topLeft.y() + painter.fontMetrics().ascent();
-    painter.setPen(QColor(0, 0, 0, 110));
-    painter.drawText(topLeft.x() + 1, baseline + 1, text);
-    painter.setPen(colour);
-    painter.drawText(topLeft.x(), baseline, text);
 }
 
 } // namespace
@@ -75,10 +62,8 @@ WorldClockScreen::WorldClockScreen(
 
 void WorldClockScreen::initialise()
 {
-    m_bigFont = Painting::makeFont(34, Painting::Bold);
-    m_font = Painting::makeFont(23, Painting::Bold);
-    m_nameFont = Painting::makeFont(18, Painting::Bold);
-    m_smallFont = Painting::makeFont(15, Painting::Bold);
+    m_fonts = {Painting::makeFont(34, Painting::Bold), Painting::makeFont(23, Painting::Bold),
+        Painting::makeFont(18, Painting::Bold), Painting::makeFont(15, Painting::Bold)};
     m_movedLeft = m_movedRight = false;
     readSettings();
     computeOffsets();
@@ -110,6 +95,7 @@ void WorldClockScreen::computeOffsets()
         const CityRecord city = m_cities.Record(m_cityOf[i]);
         zones[i] = zoneTexts(city);
         m_names[i] = QString::fromStdWString(city.name);
+        m_standardOffsets[i] = Wtol(city.timeZone);
         m_favourite[i] = !city.name.empty() && m_favourites.findByName(city.name) != 0;
     }
     const DeviceClock& clock = environment().clock;
@@ -153,110 +139,50 @@ bool WorldClockScreen::addFavourite(std::uint32_t cityIndex)
     return true;
 }
 
+ClockView WorldClockScreen::view(int slot) const
+{
+    const auto index = static_cast<std::size_t>(slot);
+    const std::wstring& time = m_texts[index].time;
+    const TwelveHourTime twelve = ToTwelveHour(time);
+    ClockView view;
+    view.name = m_names[index];
+    view.time = QString::fromStdWString(m_twelveHour ? twelve.time : time);
+    view.suffix = m_twelveHour ? QString::fromStdWString(twelve.suffix) : QString();
+    view.date = QString::fromStdWString(m_texts[index].date);
+    view.daylightNow = m_slots[index].observes && m_slots[index].offset != m_standardOffsets[index];
+    view.favourite = m_favourite[index];
+    view.hands = m_handTimes[index];
+    view.secondHand = slot == 0;
+    return view;
+}
+
 QString WorldClockScreen::shownTime(int slot) const
 {
-    const std::wstring& time = m_texts[static_cast<std::size_t>(slot)].time;
-    return QString::fromStdWString(m_twelveHour ? ToTwelveHour(time).time : time);
+    return view(slot).time;
 }
 
 QString WorldClockScreen::shownSuffix(int slot) const
 {
-    return m_twelveHour ? QString::fromStdWString(ToTwelveHour(m_texts[static_cast<std::size_t>(slot)].time).suffix)
-                        : QString();
+    return view(slot).suffix;
 }
 
 QString WorldClockScreen::shownDate(int slot) const
 {
-    return QString::fromStdWString(m_texts[static_cast<std::size_t>(slot)].date);
+    return view(slot).date;
 }
 
 QString WorldClockScreen::shownName(int slot) const
 {
-    const SlotLayout& cell = m_layout[static_cast<std::size_t>(slot)];
-    int right = cell.timeRightAligned ? timeLeft(slot) - 6 : cell.weather.left() - 3;
-    if (cell.datePlace != DatePlace::Below)
-        right = std::min(right, dateLeft(slot) - 6);
-    return Painting::shortenToFit(
-        QFontMetrics(*cell.nameFont), m_names[static_cast<std::size_t>(slot)], right - cell.name.x());
-}
-
-int WorldClockScreen::timeLeft(int slot) const
-{
-    const SlotLayout& cell = m_layout[static_cast<std::size_t>(slot)];
-    if (!cell.timeRightAligned)
-        return cell.time.x();
-    const QString suffix = shownSuffix(slot);
-    const int suffixWidth = suffix.isEmpty() ? 0 : QFontMetrics(m_smallFont).horizontalAdvance(suffix) + 3;
-    return cell.time.x() - QFontMetrics(*cell.timeFont).horizontalAdvance(shownTime(slot)) - suffixWidth;
+    return m_cells[static_cast<std::size_t>(slot)].fittedName(view(slot));
 }
 
 void WorldClockScreen::layout(int width, int height)
 {
     m_focusList->hideAt(width - 25, 10);
     m_titleBand = QRect(0, 0, width, TitleHeight);
-    layoutHome(width, height);
-    layoutCities(width, height);
-}
-
-// The home clock's panel under the title band: a large dial, the name, the time with seconds and the
-// date with the year. On a wide work area the panel is lower, with the date beside the name.
-void WorldClockScreen::layoutHome(int width, int height)
-{
-    const bool wide = width > height;
-    SlotLayout& home = m_layout[0];
-    const int dialSize = wide ? 56 : 68;
-    home.area = QRect(0, TitleHeight, width, dialSize + 12);
-    home.dial = QRect(6, TitleHeight + 6, dialSize, dialSize);
-    home.weather = QRect(width - WeatherIconSize - 6, TitleHeight + 6, WeatherIconSize, WeatherIconSize);
-    home.name = QPoint(home.dial.right() + 11, TitleHeight + 3);
-    home.nameFont = &m_font;
-    home.time = QPoint(home.name.x(), TitleHeight + (wide ? 22 : 26));
-    home.timeRightAligned = false;
-    home.timeFont = &m_bigFont;
-    home.date = wide ? QPoint(home.weather.left() - 6, TitleHeight + 8) : QPoint(home.name.x(), TitleHeight + 60);
-    home.datePlace = wide ? DatePlace::RightOfName : DatePlace::Below;
-}
-
-// One row per city under the home clock: dial, name and date on the left, the time on the right.
-// Rows too low for two lines carry the date on the name's line.
-void WorldClockScreen::layoutCities(int width, int height)
-{
-    const int top = m_layout[0].area.bottom() + 3;
-    const int rowHeight = (height - top) / 4;
-    const bool twoLines = rowHeight >= 36;
-    for (int k = 1; k < SlotCount; ++k) {
-        SlotLayout& row = m_layout[static_cast<std::size_t>(k)];
-        const int y = top + (k - 1) * rowHeight;
-        row.area = QRect(0, y, width, rowHeight);
-        const int dialSize = std::min(rowHeight - 4, 36);
-        row.dial = QRect(5, y + (rowHeight - dialSize) / 2, dialSize, dialSize);
-        row.weather = QRect(
-            width - WeatherIconSize - 5, y + (rowHeight - WeatherIconSize) / 2, WeatherIconSize, WeatherIconSize);
-        row.nameFont = &m_nameFont;
-        row.name
-            = QPoint(row.dial.right() + 8, twoLines ? y + 2 : y + (rowHeight - QFontMetrics(m_nameFont).height()) / 2);
-        row.timeFont = &m_font;
-        row.timeRightAligned = true;
-        row.time = QPoint(row.weather.left() - 7, y + (rowHeight - QFontMetrics(m_font).height()) / 2);
-        row.datePlace = twoLines ? DatePlace::Below : DatePlace::BeforeTime;
-        row.date = twoLines ? QPoint(row.name.x(), y + 22)
-                            : QPoint(0, y + (rowHeight - QFontMetrics(m_smallFont).height()) / 2);
-    }
-}
-
-int WorldClockScreen::dateLeft(int slot) const
-{
-    const SlotLayout& cell = m_layout[static_cast<std::size_t>(slot)];
-    const int width = QFontMetrics(m_smallFont).horizontalAdvance(shownDate(slot));
-    switch (cell.datePlace) {
-    case DatePlace::RightOfName:
-        return cell.date.x() - width;
-    case DatePlace::BeforeTime:
-        return timeLeft(slot) - 8 - width;
-    case DatePlace::Below:
-        break;
-    }
-    return cell.date.x();
+    m_cells = {ClockCell::home(TitleHeight, width, height, m_fonts)};
+    const auto rows = ClockCell::cityRows(m_cells[0].area().bottom() + 3, width, height, m_fonts);
+    m_cells.insert(m_cells.end(), rows.begin(), rows.end());
 }
 
 void WorldClockScreen::paint(QPainter& painter)
@@ -264,15 +190,16 @@ void WorldClockScreen::paint(QPainter& painter)
     if (dirtyRect().intersects(m_titleBand))
         paintTitle(painter);
     for (int k = 0; k < SlotCount; ++k) {
-        if (dirtyRect().intersects(m_layout[static_cast<std::size_t>(k)].area))
-            paintSlot(painter, k);
+        const ClockCell& cell = m_cells[static_cast<std::size_t>(k)];
+        if (dirtyRect().intersects(cell.area()))
+            cell.paint(painter, view(k));
     }
     paintFocus(painter);
 }
 
 void WorldClockScreen::paintTitle(QPainter& painter) const
 {
-    Painting::drawBand(painter, m_titleBand, TitleBand, Painting::loadString(40008), m_font);
+    Painting::drawBand(painter, m_titleBand, TitleBand, Painting::loadString(40008), m_fonts.normal);
     const int width = workWidth();
     if (m_movedLeft)
         Icons::draw(painter, Icons::LeftArrow, width - 60, 0, 24);
@@ -284,78 +211,13 @@ void WorldClockScreen::paintTitle(QPainter& painter) const
         Icons::draw(painter, Icons::RightArrow, width - 31, 5, 16);
 }
 
-void WorldClockScreen::paintSlot(QPainter& painter, int slot) const
-{
-    const auto index = static_cast<std::size_t>(slot);
-    const SlotLayout& cell = m_layout[index];
-    if (slot > 1 || (slot == 1 && cell.area.left() == 0)) {
-        painter.fillRect(
-            QRect(cell.area.left() + 4, cell.area.top() - 1, cell.area.width() - 8, 1), QColor(255, 255, 255, 40));
-    }
-    ClockDial::drawFace(painter, cell.dial);
-    ClockDial::drawHands(painter, cell.dial, m_handTimes[index], slot == 0);
-    paintWeatherIcon(painter, cell.weather, m_favourite[index]);
-
-    painter.setFont(*cell.nameFont);
-    drawShadowedText(painter, cell.name, shownName(slot), Painting::White);
-
-    // The time, then its AM/PM mark three pixels to its right, on the time's baseline.
-    painter.setFont(*cell.timeFont);
-    const QString time = shownTime(slot);
-    const int timeX = timeLeft(slot);
-    drawShadowedText(painter, QPoint(timeX, cell.time.y()), time, Painting::White);
-    painter.setFont(m_smallFont);
-    if (const QString suffix = shownSuffix(slot); !suffix.isEmpty()) {
-        const int suffixTop
-            = cell.time.y() + QFontMetrics(*cell.timeFont).ascent() - QFontMetrics(m_smallFont).ascent();
-        const int timeWidth = QFontMetrics(*cell.timeFont).horizontalAdvance(time);
-        drawShadowedText(painter, QPoint(timeX + timeWidth + 3, suffixTop), suffix, Painting::White);
-    }
-
-    const QString date = shownDate(slot);
-    const QPoint datePoint(dateLeft(slot), cell.date.y());
-    drawShadowedText(painter, datePoint, date, QColor(220, 232, 245));
-    // Cities whose daylight saving is running now carry a "DST" mark after their date, or on the dial
-    // when the date shares the name's line.
-    if (m_slots[index].observes && m_slots[index].offset != Wtol(m_cities.TimeZoneText(m_cityOf[index]))) {
-        if (cell.datePlace == DatePlace::Below) {
-            const int dateWidth = QFontMetrics(m_smallFont).horizontalAdvance(date);
-            drawShadowedText(painter, datePoint + QPoint(dateWidth + 8, 0), QStringLiteral("DST"), DaylightMark);
-        } else {
-            painter.setRenderHint(QPainter::Antialiasing);
-            painter.setPen(QColor(60, 40, 0));
-            painter.setBrush(DaylightMark);
-            painter.drawEllipse(QRectF(cell.dial.right() - 7, cell.dial.top(), 8, 8));
-        }
-    }
-}
-
-void WorldClockScreen::paintWeatherIcon(QPainter& painter, const QRect& box, bool favourite) const
-{
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    const double w = box.width();
-    const QPointF o = box.topLeft();
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(255, 206, 46, favourite ? 255 : 150));
-    painter.drawEllipse(o + QPointF(w * 0.62, w * 0.34), w * 0.24, w * 0.24);
-    QPainterPath cloud;
-    cloud.addEllipse(o + QPointF(w * 0.30, w * 0.62), w * 0.22, w * 0.20);
-    cloud.addEllipse(o + QPointF(w * 0.50, w * 0.52), w * 0.24, w * 0.24);
-    cloud.addEllipse(o + QPointF(w * 0.70, w * 0.66), w * 0.20, w * 0.17);
-    cloud.addRect(QRectF(o + QPointF(w * 0.30, w * 0.62), QSizeF(w * 0.40, w * 0.21)));
-    painter.setBrush(QColor(255, 255, 255, favourite ? 255 : 150));
-    painter.drawPath(cloud.simplified());
-    painter.restore();
-}
-
 void WorldClockScreen::paintFocus(QPainter& painter) const
 {
     const int entry = m_focusList->currentIndex();
     if (entry < 0)
         return;
-    const SlotLayout& cell = m_layout[static_cast<std::size_t>(entry / 2)];
-    const QRect target = (entry % 2 == 0 ? cell.dial : cell.weather).adjusted(-3, -3, 3, 3);
+    const ClockCell& cell = m_cells[static_cast<std::size_t>(entry / 2)];
+    const QRect target = (entry % 2 == 0 ? cell.dial() : cell.weather()).adjusted(-3, -3, 3, 3);
     Painting::drawRaisedEdge(
         painter, target.left(), target.top(), target.left() + target.width(), target.top() + target.height());
 }
@@ -380,7 +242,7 @@ void WorldClockScreen::refresh()
     for (int k = 0; k < SlotCount; ++k) {
         const auto index = static_cast<std::size_t>(k);
         if (k == 0 || m_texts[index].time != before[index].time || m_texts[index].date != before[index].date)
-            update(m_layout[index].area);
+            update(m_cells[index].area());
     }
     if (m_movedLeft || m_movedRight) {
         m_movedLeft = m_movedRight = false;

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "screens/worldclock/ClockCell.h"
 #include "settings/RegistrySettings.h"
 #include "time/ClockOffsets.h"
 #include "time/ClockSlotText.h"
 #include "ui/Screen.h"
 
-#include <QFont>
-
 #include <array>
+#include <vector>
 
 class CityCatalogue;
 class Spinner;
@@ -50,27 +50,6 @@ protected:
     void spinnerDelta(Spinner& spinner, int delta) override;
 
 private:
-    enum class DatePlace {
-        Below, // under the name
-        RightOfName, // right-aligned at `date` on the name's line
-        BeforeTime, // on the time's line, just before it
-    };
-
-    // Where one clock is drawn.
-    struct SlotLayout
-    {
-        QRect area;
-        QRect dial;
-        QRect weather;
-        QPoint name;
-        const QFont* nameFont = nullptr;
-        QPoint time; // top-left of the time text, or its top-right end when `timeRightAligned`
-        bool timeRightAligned = false;
-        const QFont* timeFont = nullptr;
-        QPoint date;
-        DatePlace datePlace = DatePlace::Below;
-    };
-
     void readSettings();
     void computeOffsets();
     void formatTexts();
@@ -79,21 +58,16 @@ private:
     void changeCity(int slot);
     void showWeather(int slot);
     void toggleTwelveHour();
-    void layoutHome(int width, int height);
-    void layoutCities(int width, int height);
+    ClockView view(int slot) const;
     void paintTitle(QPainter& painter) const;
-    void paintSlot(QPainter& painter, int slot) const;
     void paintFocus(QPainter& painter) const;
-    void paintWeatherIcon(QPainter& painter, const QRect& box, bool favourite) const;
-    // Where the time text of a slot begins, its mark included.
-    int timeLeft(int slot) const;
-    int dateLeft(int slot) const;
 
     CityCatalogue& m_cities;
     WeatherFavourites& m_favourites;
     RegistrySettings m_settings;
     std::array<std::uint32_t, SlotCount> m_cityOf {};
     std::array<QString, SlotCount> m_names;
+    std::array<ZoneOffset, SlotCount> m_standardOffsets {};
     std::array<bool, SlotCount> m_favourite {};
     std::array<ClockSlot, SlotCount> m_slots {};
     std::array<ClockSlotText, SlotCount> m_texts {};
@@ -104,10 +78,7 @@ private:
     Spinner* m_focusList;
     bool m_movedLeft = false;
     bool m_movedRight = false;
-    QFont m_bigFont;
-    QFont m_font;
-    QFont m_nameFont;
-    QFont m_smallFont;
+    ClockFonts m_fonts;
     QRect m_titleBand;
-    std::array<SlotLayout, SlotCount> m_layout;
+    std::vector<ClockCell> m_cells; // the home clock's panel, then the city rows
 };

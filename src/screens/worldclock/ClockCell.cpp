@@ -1,0 +1,176 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "screens/worldclock/ClockCell.h"
+
+#include "screens/worldclock/ClockDial.h"
+#include "ui/Painting.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+namespace {
+
+constexpr int WeatherIconSize = 18;
+const QColor DateColour(220, 232, 245);
+const QColor DaylightMark(255, 200, 60);
+
+int advance(const QFont& font, const QString& text)
+{
+    return QFontMetrics(font).horizontalAdvance(text);
+}
+
+// White text with a soft shadow, so it reads on the background picture; `topLeft` is the text's top.
+void drawShadowedText(
+    QPainter& painter, const QFont& font, const QPoint& topLeft, const QString& text, const QColor& colour)
+{
+    painter.setFont(font);
+    const int baseline = topLeft.y() + QFontMetrics(font).ascent();
+    painter.setPen(QColor(0, 0, 0, 110));
+    painter.drawText(topLeft.x() + 1, baseline + 1, text);
+    painter.setPen(colour);
+    painter.drawText(topLeft.x(), baseline, text);
+}
+
+} // namespace
+
+ClockCell::ClockCell(const ClockFonts& fonts)
+    : m_fonts(&fonts)
+{ }
+
+ClockCell ClockCell::home(int top, int width, int height, const ClockFonts& fonts)
+{
+    const bool wide = width > height;
+    const int dialSize = wide ? 56 : 68;
+    ClockCell home(fonts);
+    home.m_area = QRect(0, top, width, dialSize + 12);
+    home.m_dial = QRect(6, top + 6, dialSize, dialSize);
+    home.m_weather = QRect(width - WeatherIconSize - 6, top + 6, WeatherIconSize, WeatherIconSize);
+    home.m_name = QPoint(home.m_dial.right() + 11, top + 3);
+    home.m_nameFont = &fonts.normal;
+    home.m_time = QPoint(home.m_name.x(), top + (wide ? 22 : 26));
+    home.m_timeFont = &fonts.big;
+    home.m_datePlace = wide ? DatePlace::RightOfName : DatePlace::Below;
+    home.m_date = wide ? QPoint(home.m_weather.left() - 6, top + 8) : QPoint(home.m_name.x(), top + 60);
+    return home;
+}
+
+std::array<ClockCell, 4> ClockCell::cityRows(int top, int width, int height, const ClockFonts& fonts)
+{
+    const int rowHeight = (height - top) / 4;
+    const bool twoLines = rowHeight >= 36;
+    const auto centred
+        = [rowHeight](int y, const QFont& font) { return y + (rowHeight - QFontMetrics(font).height()) / 2; };
+    std::array<ClockCell, 4> rows {ClockCell(fonts), ClockCell(fonts), ClockCell(fonts), ClockCell(fonts)};
+    for (std::size_t k = 0; k < rows.size(); ++k) {
+        ClockCell& row = rows[k];
+        const int y = top + static_cast<int>(k) * rowHeight;
+        const int dialSize = std::min(rowHeight - 4, 36);
+        row.m_area = QRect(0, y, width, rowHeight);
+        row.m_dial = QRect(5, y + (rowHeight - dialSize) / 2, dialSize, dialSize);
+        row.m_weather = QRect(
+            width - WeatherIconSize - 5, y + (rowHeight - WeatherIconSize) / 2, WeatherIconSize, WeatherIconSize);
+        row.m_nameFont = &fonts.name;
+        row.m_name = QPoint(row.m_dial.right() + 8, twoLines ? y + 2 : centred(y, fonts.name));
+        row.m_timeFont = &fonts.normal;
+        row.m_timeRightAligned = true;
+        row.m_time = QPoint(row.m_weather.left() - 7, centred(y, fonts.normal));
+        row.m_datePlace = twoLines ? DatePlace::Below : DatePlace::BeforeTime;
+        row.m_date = twoLines ? QPoint(row.m_name.x(), y + 22) : QPoint(0, centred(y, fonts.small));
+        row.m_separatorAbove = true;
+    }
+    return rows;
+}
+
+int ClockCell::timeLeft(const ClockView& view) const
+{
+    if (!m_timeRightAligned)
+        return m_time.x();
+    const int suffixWidth = view.suffix.isEmpty() ? 0 : advance(m_fonts->small, view.suffix) + 3;
+    return m_time.x() - advance(*m_timeFont, view.time) - suffixWidth;
+}
+
+int ClockCell::dateLeft(const ClockView& view) const
+{
+    switch (m_datePlace) {
+    case DatePlace::RightOfName:
+        return m_date.x() - advance(m_fonts->small, view.date);
+    case DatePlace::BeforeTime:
+        return timeLeft(view) - 8 - advance(m_fonts->small, view.date);
+    case DatePlace::Below:
+        break;
+    }
+    return m_date.x();
+}
+
+QString ClockCell::fittedName(const ClockView& view) const
+{
+    int right = m_timeRightAligned ? timeLeft(view) - 6 : m_weather.left() - 3;
+    if (m_datePlace != DatePlace::Below)
+        right = std::min(right, dateLeft(view) - 6);
+    return Painting::shortenToFit(QFontMetrics(*m_nameFont), view.name, right - m_name.x());
+}
+
+void ClockCell::paint(QPainter& painter, const ClockView& view) const
+{
+    if (m_separatorAbove)
+        painter.fillRect(QRect(m_area.left() + 4, m_area.top() - 1, m_area.width() - 8, 1), QColor(255, 255, 255, 40));
+    ClockDial::drawFace(painter, m_dial);
+    ClockDial::drawHands(painter, m_dial, view.hands, view.secondHand);
+    paintWeatherIcon(painter, view.favourite);
+    drawShadowedText(painter, *m_nameFont, m_name, fittedName(view), Painting::White);
+    paintTime(painter, view);
+    paintDate(painter, view);
+}
+
+// The time, then its AM/PM mark three pixels to its right, on the time's baseline.
+void ClockCell::paintTime(QPainter& painter, const ClockView& view) const
+{
+    const int left = timeLeft(view);
+    drawShadowedText(painter, *m_timeFont, QPoint(left, m_time.y()), view.time, Painting::White);
+    if (view.suffix.isEmpty())
+        return;
+    const int top = m_time.y() + QFontMetrics(*m_timeFont).ascent() - QFontMetrics(m_fonts->small).ascent();
+    drawShadowedText(
+        painter, m_fonts->small, QPoint(left + advance(*m_timeFont, view.time) + 3, top), view.suffix, Painting::White);
+}
+
+// The date; a city whose daylight saving runs now carries a "DST" mark after it, or a dot on its dial
+// when the date shares a line with the time.
+void ClockCell::paintDate(QPainter& painter, const ClockView& view) const
+{
+    const QPoint date(dateLeft(view), m_date.y());
+    drawShadowedText(painter, m_fonts->small, date, view.date, DateColour);
+    if (!view.daylightNow)
+        return;
+    if (m_datePlace == DatePlace::Below) {
+        const QPoint mark = date + QPoint(advance(m_fonts->small, view.date) + 8, 0);
+        drawShadowedText(painter, m_fonts->small, mark, QStringLiteral("DST"), DaylightMark);
+        return;
+    }
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QColor(60, 40, 0));
+    painter.setBrush(DaylightMark);
+    painter.drawEllipse(QRectF(m_dial.right() - 7, m_dial.top(), 8, 8));
+    painter.restore();
+}
+
+// A small sun behind a cloud; faded while the city is not a weather favourite yet.
+void ClockCell::paintWeatherIcon(QPainter& painter, bool favourite) const
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    const double w = m_weather.width();
+    const QPointF o = m_weather.topLeft();
+    const int alpha = favourite ? 255 : 150;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(255, 206, 46, alpha));
+    painter.drawEllipse(o + QPointF(w * 0.62, w * 0.34), w * 0.24, w * 0.24);
+    QPainterPath cloud;
+    cloud.addEllipse(o + QPointF(w * 0.30, w * 0.62), w * 0.22, w * 0.20);
+    cloud.addEllipse(o + QPointF(w * 0.50, w * 0.52), w * 0.24, w * 0.24);
+    cloud.addEllipse(o + QPointF(w * 0.70, w * 0.66), w * 0.20, w * 0.17);
+    cloud.addRect(QRectF(o + QPointF(w * 0.30, w * 0.62), QSizeF(w * 0.40, w * 0.21)));
+    painter.setBrush(QColor(255, 255, 255, alpha));
+    painter.drawPath(cloud.simplified());
+    painter.restore();
+}
