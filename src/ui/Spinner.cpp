@@ -176,13 +176,18 @@ void Spinner::paintEvent(QPaintEvent*)
     painter.drawRect(buttons.adjusted(0, 0, -1, -1));
     const int mid = buttons.center().y();
     const qreal half = ButtonWidth / 2.0;
+    // Two small triangles pointing back and forth: left/right, or up/down for a vertical spinner.
+    const bool vertical = m_orientation == Orientation::Vertical;
     for (int side = 0; side < 2; ++side) {
-        const qreal cx = buttons.left() + half * side + half / 2;
+        const QPointF centre(buttons.left() + half * side + half / 2, mid);
         const qreal dir = side == 0 ? -1 : 1;
+        const auto at = [&](qreal along, qreal across) {
+            return centre + (vertical ? QPointF(across, along) : QPointF(along, across));
+        };
         QPainterPath arrow;
-        arrow.moveTo(cx + 3 * dir, mid);
-        arrow.lineTo(cx - 2 * dir, mid - 4);
-        arrow.lineTo(cx - 2 * dir, mid + 4);
+        arrow.moveTo(at(3 * dir, 0));
+        arrow.lineTo(at(-2 * dir, -4));
+        arrow.lineTo(at(-2 * dir, 4));
         arrow.closeSubpath();
         painter.fillPath(arrow, QColor(40, 60, 90));
     }
