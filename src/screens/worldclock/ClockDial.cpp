@@ -3,8 +3,10 @@
 
 #include "time/HandGeometry.h"
 
+#include <QPaintDevice>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPixmapCache>
 #include <QPolygon>
 #include <QRadialGradient>
 
@@ -38,9 +40,8 @@ QPolygon handPolygon(const QRect& box, double position, const HandShape& shape)
         point(position - 15, shape.width)});
 }
 
-} // namespace
-
-void ClockDial::drawFace(QPainter& painter, const QRect& box)
+// The face and its hour marks, drawn afresh.
+void paintFace(QPainter& painter, const QRect& box)
 {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
@@ -64,6 +65,25 @@ void ClockDial::drawFace(QPainter& painter, const QRect& box)
             centre + QPointF(std::cos(angle) * outer, std::sin(angle) * outer));
     }
     painter.restore();
+}
+
+} // namespace
+
+void ClockDial::drawFace(QPainter& painter, const QRect& box)
+{
+    // The face only changes with its size: it is drawn once and kept, since the clocks repaint every second.
+    const qreal ratio = painter.device() ? painter.device()->devicePixelRatioF() : 1.0;
+    const QString key = QStringLiteral("wanderkit-dial-%1x%2@%3").arg(box.width()).arg(box.height()).arg(ratio);
+    QPixmap face;
+    if (!QPixmapCache::find(key, &face)) {
+        face = QPixmap(box.size() * ratio);
+        face.setDevicePixelRatio(ratio);
+        face.fill(Qt::transparent);
+        QPainter facePainter(&face);
+        paintFace(facePainter, QRect(QPoint(0, 0), box.size()));
+        QPixmapCache::insert(key, face);
+    }
+    painter.drawPixmap(box.topLeft(), face);
 }
 
 void ClockDial::drawHands(QPainter& painter, const QRect& box, const SystemTime& time, bool withSeconds)

@@ -11,7 +11,7 @@ class QPainter;
 // (drawing a hand twice at the same place would erase it).
 namespace ClockDial {
 
-// The face and its marks, fitted into `box`.
+// The face and its marks, fitted into `box` (drawn from a kept picture of the face).
 void drawFace(QPainter& painter, const QRect& box);
 // The hands for `time`; the second hand only when `withSeconds` is set.
 void drawHands(QPainter& painter, const QRect& box, const SystemTime& time, bool withSeconds);
