@@ -2,25 +2,40 @@
 #include "app/SingleInstance.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
-#include <QLocalServer>
-#include <QLocalSocket>
+#include <QSocketNotifier>
 
+#include <cstring>
+#include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/un.h>
 #include <unistd.h>
 
 namespace {
 
-bool askRunningInstance(const QString& path)
+// The socket address of `path`; false when the path is too long for one.
+bool makeAddress(const QByteArray& path, sockaddr_un& address)
 {
-    QLocalSocket socket;
-    socket.connectToServer(path);
-    if (!socket.waitForConnected(1000))
+    std::memset(&address, 0, sizeof address);
+    address.sun_family = AF_UNIX;
+    if (static_cast<std::size_t>(path.size()) >= sizeof address.sun_path)
         return false;
-    socket.write("raise\n");
-    socket.waitForBytesWritten(1000);
-    socket.disconnectFromServer();
+    std::memcpy(address.sun_path, path.constData(), static_cast<std::size_t>(path.size()));
     return true;
+}
+
+// Asks an instance listening at `address` to come forward; false when none answers.
+bool askRunningInstance(const sockaddr_un& address)
+{
+    const int fd = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    if (fd < 0)
+        return false;
+    const bool answered = ::connect(fd, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
+    if (answered) [[maybe_unused]]
+        const auto written = ::write(fd, "raise\n", 6);
+    ::close(fd);
+    return answered;
 }
 
 } // namespace
@@ -28,6 +43,14 @@ bool askRunningInstance(const QString& path)
 SingleInstance::SingleInstance(QObject* parent)
     : QObject(parent)
 { }
+
+SingleInstance::~SingleInstance()
+{
+    if (m_listener >= 0) {
+        ::close(m_listener);
+        QFile::remove(socketPath());
+    }
+}
 
 QString SingleInstance::socketPath()
 {
@@ -42,20 +65,37 @@ QString SingleInstance::socketPath()
 
 bool SingleInstance::claim()
 {
-    const QString path = socketPath();
-    if (askRunningInstance(path))
+    const QByteArray path = QFile::encodeName(socketPath());
+    sockaddr_un address;
+    // Without a usable socket path there is no way to find another instance: run alone.
+    if (!makeAddress(path, address))
+        return true;
+    if (askRunningInstance(address))
         return false;
     // Nobody answers: a socket file left by a crashed instance is stale.
-    QLocalServer::removeServer(path);
-    m_server = new QLocalServer(this);
-    m_server->setSocketOptions(QLocalServer::UserAccessOption);
-    if (!m_server->listen(path))
-        return !askRunningInstance(path);
-    connect(m_server, &QLocalServer::newConnection, this, [this] {
-        while (QLocalSocket* peer = m_server->nextPendingConnection()) {
-            connect(peer, &QLocalSocket::disconnected, peer, &QObject::deleteLater);
-            emit raiseRequested();
-        }
-    });
+    ::unlink(path.constData());
+    m_listener = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
+    const mode_t mask = ::umask(0077);
+    const bool listening = m_listener >= 0
+        && ::bind(m_listener, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0
+        && ::listen(m_listener, 4) == 0;
+    ::umask(mask);
+    if (!listening) {
+        // Another instance took the socket in the meantime.
+        if (m_listener >= 0)
+            ::close(m_listener);
+        m_listener = -1;
+        return !askRunningInstance(address);
+    }
+    m_notifier = new QSocketNotifier(m_listener, QSocketNotifier::Read, this);
+    connect(m_notifier, &QSocketNotifier::activated, this, &SingleInstance::acceptPeer);
     return true;
+}
+
+void SingleInstance::acceptPeer()
+{
+    for (int peer; (peer = ::accept4(m_listener, nullptr, nullptr, SOCK_CLOEXEC)) >= 0;) {
+        ::close(peer);
+        emit raiseRequested();
+    }
 }

@@ -4,7 +4,7 @@
 #include <QObject>
 #include <QString>
 
-class QLocalServer;
+class QSocketNotifier;
 
 // One running Wanderkit per user: the first start listens on a local socket, a later start asks it
 // to come to the front and leaves.
@@ -16,6 +16,7 @@ public:
     static constexpr const char* SocketName = "{Wanderkit-91F5D741-4E63-4642-A05A-E4AC57871578}";
 
     explicit SingleInstance(QObject* parent = nullptr);
+    ~SingleInstance() override;
 
     // The socket's path: in $XDG_RUNTIME_DIR, else in a private folder of the user's under /tmp.
     static QString socketPath();
@@ -27,5 +28,8 @@ signals:
     void raiseRequested();
 
 private:
-    QLocalServer* m_server = nullptr;
+    void acceptPeer();
+
+    int m_listener = -1;
+    QSocketNotifier* m_notifier = nullptr;
 };

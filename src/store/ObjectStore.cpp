@@ -92,6 +92,17 @@ std::vector<StoredRecord> ObjectStore::records(std::int64_t databaseId)
     return records;
 }
 
+std::size_t ObjectStore::recordCount(std::int64_t databaseId)
+{
+    const Stamp now = stamp();
+    for (const auto& [key, cached] : m_indexes) {
+        if (std::get<0>(key) == databaseId && cached.index && cached.stamp == now)
+            return cached.index->size();
+    }
+    SqliteQuery count = m_connection->query("SELECT count(*) FROM records WHERE db = ?1");
+    return count.bind(1, databaseId).next() ? static_cast<std::size_t>(count.integer(0)) : 0;
+}
+
 std::shared_ptr<const RecordIndex> ObjectStore::traversal(
     std::int64_t databaseId, PropertyId sortId, bool caseInsensitive)
 {

@@ -46,6 +46,9 @@ public:
     // The records of database `databaseId` in the traversal order of property `sortId`, shared by every
     // accessor of this store and rebuilt when the stored data has changed.
     std::shared_ptr<const RecordIndex> traversal(std::int64_t databaseId, PropertyId sortId, bool caseInsensitive);
+    // How many records database `databaseId` holds: from a traversal already built, else counted, so that
+    // opening a store does not cost reading all of it.
+    std::size_t recordCount(std::int64_t databaseId);
 
 private:
     struct CachedIndex

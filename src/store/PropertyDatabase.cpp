@@ -114,13 +114,25 @@ bool PropertyDatabase::openWith(std::wstring_view name, std::optional<PropertyId
     m_sortOrders = std::move(orders);
     m_autoAdvance = true;
     m_atEnd = false;
-    SeekFirst();
+    m_current = 0;
+    // An empty database leaves the cursor on no record, as a seek to its first record would.
+    m_firstPending = m_store.recordCount(m_databaseId) > 0;
     return true;
+}
+
+// Puts the cursor on the first record if the database was just opened and nothing has moved it since.
+void PropertyDatabase::settleCursor()
+{
+    if (m_firstPending) {
+        m_firstPending = false;
+        SeekFirst();
+    }
 }
 
 void PropertyDatabase::Close()
 {
     m_open = false;
+    m_firstPending = false;
     m_databaseId = 0;
     m_current = 0;
     m_atEnd = false;
@@ -138,7 +150,7 @@ bool PropertyDatabase::refreshIndex()
 
 std::uint16_t PropertyDatabase::RecordCount()
 {
-    return refreshIndex() ? static_cast<std::uint16_t>(m_index->size()) : 0;
+    return m_open ? static_cast<std::uint16_t>(m_store.recordCount(m_databaseId)) : 0;
 }
 
 bool PropertyDatabase::SeekFirst()
@@ -155,6 +167,7 @@ bool PropertyDatabase::SeekLast()
 
 PropertyDatabase::RecordId PropertyDatabase::SeekTo(std::uint32_t position, bool fromEnd)
 {
+    m_firstPending = false;
     m_current = 0;
     if (!refreshIndex() || position >= m_index->size())
         return 0;
@@ -166,6 +179,7 @@ PropertyDatabase::RecordId PropertyDatabase::SeekTo(std::uint32_t position, bool
 
 bool PropertyDatabase::Next()
 {
+    settleCursor();
     const bool moved = m_current != 0 && refreshIndex() && step();
     m_atEnd = !moved;
     return moved;
@@ -187,6 +201,7 @@ bool PropertyDatabase::step()
 
 PropertyDatabase::RecordId PropertyDatabase::SeekEqual(const Property& value)
 {
+    m_firstPending = false;
     m_current = 0;
     if (!m_open)
         return 0;
@@ -221,6 +236,7 @@ PropertyDatabase::RecordId PropertyDatabase::SeekEqual(const Property& value)
 const StoredRecord* PropertyDatabase::readRecord(std::uint32_t position)
 {
     m_atEnd = false;
+    m_firstPending = false;
     m_current = 0;
     if (!refreshIndex() || position >= m_index->size())
         return nullptr;
@@ -347,6 +363,7 @@ bool PropertyDatabase::UpdateAt(std::uint32_t position, std::span<const Property
 
 bool PropertyDatabase::UpdateCurrent(std::span<const Property> properties)
 {
+    settleCursor();
     if (!m_open || m_current == 0)
         return false;
     SqliteConnection& connection = m_store.connection();

@@ -84,6 +84,7 @@ private:
     // Opens with the traversal of `sortId`'s order, or of the first order when there is none.
     bool openWith(std::wstring_view name, std::optional<PropertyId> sortId);
     bool refreshIndex();
+    void settleCursor();
     bool step();
     const StoredRecord* readRecord(std::uint32_t position);
     std::wstring lookupText(PropertyId id, std::wstring_view text) const;
@@ -100,6 +101,7 @@ private:
     bool m_autoAdvance = false; // set by every open: a read or a write moves on to the next record
     bool m_atEnd = false;
     RecordId m_current = 0; // the record under the cursor, 0 for none
+    bool m_firstPending = false; // just opened: the cursor is on the first record, found when first needed
 
     std::shared_ptr<const RecordIndex> m_index; // the traversal as of the last operation
     std::uint64_t m_touchedIn = 0; // the transaction that last set the modification time

@@ -2,9 +2,12 @@
 #include "ui/Icons.h"
 
 #include <QHash>
-#include <QIcon>
 #include <QPaintDevice>
 #include <QPainter>
+#include <QPixmap>
+
+#include <algorithm>
+#include <array>
 
 // The icons live in a resource of this static library, which must be registered by hand.
 static void registerIconResource()
@@ -14,17 +17,21 @@ static void registerIconResource()
 
 namespace {
 
-const QIcon& icon(int id)
+constexpr std::array DrawnSizes {16, 24, 32};
+
+// The drawing made for `pixels`, or the nearest larger one (the largest for anything bigger);
+// each drawing is read from the resources once, when first needed.
+const QPixmap& drawing(int id, int pixels)
 {
-    static QHash<int, QIcon> icons;
-    auto it = icons.find(id);
-    if (it == icons.end()) {
-        if (icons.isEmpty())
+    static QHash<int, QPixmap> drawings;
+    const auto fits = std::ranges::find_if(DrawnSizes, [pixels](int drawn) { return drawn >= pixels; });
+    const int drawn = fits == DrawnSizes.end() ? DrawnSizes.back() : *fits;
+    const int key = id * 100 + drawn;
+    auto it = drawings.find(key);
+    if (it == drawings.end()) {
+        if (drawings.isEmpty())
             registerIconResource();
-        QIcon loaded;
-        for (const int drawn : {16, 24, 32})
-            loaded.addFile(QStringLiteral(":/icons/%1-%2.png").arg(id).arg(drawn), QSize(drawn, drawn));
-        it = icons.insert(id, loaded);
+        it = drawings.insert(key, QPixmap(QStringLiteral(":/icons/%1-%2.png").arg(id).arg(drawn)));
     }
     return *it;
 }
@@ -34,6 +41,9 @@ const QIcon& icon(int id)
 void Icons::draw(QPainter& painter, int id, int x, int y, int size)
 {
     const qreal ratio = painter.device() ? painter.device()->devicePixelRatioF() : 1.0;
-    const QPixmap pixmap = icon(id).pixmap(QSize(size, size), ratio);
+    const QPixmap& pixmap = drawing(id, qRound(size * ratio));
+    painter.save();
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawPixmap(QRect(x, y, size, size), pixmap);
+    painter.restore();
 }

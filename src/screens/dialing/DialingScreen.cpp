@@ -49,13 +49,6 @@ ReportList* makeList(QWidget* parent, const QString& name, std::vector<ReportLis
 DialingScreen::DialingScreen(ScreenEnvironment& environment, DeviceWindow& window)
     : Screen(environment, window, DialingMenuBar, QStringLiteral("dialing"))
     , m_chooser(new Spinner(this))
-    , m_international(makeList(this, QStringLiteral("internationalReportList"),
-          {{Painting::loadString(CountryText), 45}, {Painting::loadString(CodeText), 26},
-              {Painting::loadString(GmtText), 21, 1}}))
-    // The state and the code share what the city leaves, 92 % in all as above, room kept for the scroll bar.
-    , m_areaCodes(makeList(this, QStringLiteral("areaCodeReportList"),
-          {{Painting::loadString(CityText), 35}, {Painting::loadString(RegionText), 40},
-              {Painting::loadString(CodeText), 17}}))
 {
     setBackgroundPicture(L"bconv.jpg");
     m_chooser->setObjectName(QStringLiteral("chooserSpinner"));
@@ -65,8 +58,22 @@ DialingScreen::DialingScreen(ScreenEnvironment& environment, DeviceWindow& windo
 
 DialingScreen::~DialingScreen() = default;
 
+// The lists are made on the first opening, so that the program's start does not pay for them.
+void DialingScreen::createLists()
+{
+    m_international = makeList(this, QStringLiteral("internationalReportList"),
+        {{Painting::loadString(CountryText), 45}, {Painting::loadString(CodeText), 26},
+            {Painting::loadString(GmtText), 21, 1}});
+    // The state and the code share what the city leaves, 92 % in all as above, room kept for the scroll bar.
+    m_areaCodes = makeList(this, QStringLiteral("areaCodeReportList"),
+        {{Painting::loadString(CityText), 35}, {Painting::loadString(RegionText), 40},
+            {Painting::loadString(CodeText), 17}});
+}
+
 void DialingScreen::initialise()
 {
+    if (!m_international)
+        createLists();
     // Bar 107 greys "Services" for the launcher; here it must lead back to the launcher.
     softKeys()->setKeyEnabled(Commands::Services, true);
     m_titleFont = Painting::makeFont(24, Painting::Bold);

@@ -24,12 +24,13 @@ protected:
     void paint(QPainter& painter) override;
 
 private:
+    void createLists();
     void fillLists();
     void showChosenList();
 
     Spinner* m_chooser;
-    ReportList* m_international;
-    ReportList* m_areaCodes;
+    ReportList* m_international = nullptr;
+    ReportList* m_areaCodes = nullptr;
     QFont m_titleFont;
     QFont m_listFont;
 };
