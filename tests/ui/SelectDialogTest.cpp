@@ -40,29 +40,27 @@ private slots:
         {
             SystemTime now;
             int city;
-            QStringList lines;
+            const char* status;
+            const char* period;
+            const char* zone;
         };
-        const QList<Case> cases {
-            {FakeDeviceClock::at(2026, 7, 13, 12, 0, 0), 10,
-                {QStringLiteral("City: C0010"), QStringLiteral("Country: Land"), QStringLiteral("Long/Lat: 2.35/48.85"),
-                    QStringLiteral("Daylight Saving: Never observing"), QStringLiteral("DST start/end: -"),
-                    QStringLiteral("Time zone (GMT): 5h30")}},
-            {FakeDeviceClock::at(2026, 7, 13, 12, 0, 0), 684,
-                {QStringLiteral("City: C0684"), QStringLiteral("Country: Land"), QStringLiteral("Long/Lat: 2.35/48.85"),
-                    QStringLiteral("Daylight Saving: Observing Now"),
-                    QStringLiteral("DST start/end: 8/3/2026-1/11/2026"),
-                    QStringLiteral("Time zone (GMT): -5h + 1h (DST)")}},
-            {FakeDeviceClock::at(2026, 1, 13, 12, 0, 0), 684,
-                {QStringLiteral("City: C0684"), QStringLiteral("Country: Land"), QStringLiteral("Long/Lat: 2.35/48.85"),
-                    QStringLiteral("Daylight Saving: Not observing now"),
-                    QStringLiteral("DST start/end: 8/3/2026-1/11/2026"), QStringLiteral("Time zone (GMT): -5h")}},
+        const SystemTime july = FakeDeviceClock::at(2026, 7, 13, 12, 0, 0);
+        const Case cases[] = {
+            {july, 10, "Never observing", "-", "5h30"},
+            {july, 684, "Observing Now", "8/3/2026-1/11/2026", "-5h + 1h (DST)"},
+            {FakeDeviceClock::at(2026, 1, 13, 12, 0, 0), 684, "Not observing now", "8/3/2026-1/11/2026", "-5h"},
         };
         for (const Case& c : cases) {
             ScreenTestBench bench;
             CityFixture::write(bench.root, {{10, "530;0;0;0;0;0"}, {684, "-5;1;67;2;305;2"}});
             CityCatalogue(*bench.objects, bench.paths, bench.messages).Load();
             bench.clock.set(c.now);
-            QCOMPARE(panelOf(bench, c.city), c.lines);
+            QCOMPARE(panelOf(bench, c.city),
+                (QStringList {QStringLiteral("City: C%1").arg(c.city, 4, 10, QLatin1Char('0')),
+                    QStringLiteral("Country: Land"), QStringLiteral("Long/Lat: 2.35/48.85"),
+                    QStringLiteral("Daylight Saving: ") + QLatin1String(c.status),
+                    QStringLiteral("DST start/end: ") + QLatin1String(c.period),
+                    QStringLiteral("Time zone (GMT): ") + QLatin1String(c.zone)}));
         }
     }
 
@@ -73,10 +71,10 @@ private slots:
         SelectDialog dialog(bench.environment, bench.window);
         dialog.setSelection(998);
         bench.run(dialog, [&] {
-            QTest::keyClick(bench.window.focusWidget(), Qt::Key_Down);
-            QTest::keyClick(bench.window.focusWidget(), Qt::Key_Down); // the last city: no wrapping
+            bench.press(Qt::Key_Down);
+            bench.press(Qt::Key_Down); // the last city: no wrapping
             QCOMPARE(dialog.panelLines().first(), QStringLiteral("City: C0999"));
-            QTest::keyClick(bench.window.focusWidget(), Qt::Key_Up);
+            bench.press(Qt::Key_Up);
             bench.window.topSoftKeys()->pressLeft(); // "Done"
         });
         QCOMPARE(dialog.selection(), 998);
@@ -104,7 +102,7 @@ private slots:
             const auto* list = dialog.findChild<Spinner*>(QStringLiteral("choiceSpinner"));
             QCOMPARE(list->items(), (QStringList {QStringLiteral("EUR - Euro"), QStringLiteral("USD - US Dollar")}));
             QVERIFY(dialog.panelLines().isEmpty());
-            QTest::keyClick(bench.window.focusWidget(), Qt::Key_Down);
+            bench.press(Qt::Key_Down);
             QCOMPARE(dialog.selection(), 1);
             dialog.sendCommand(Commands::Done);
         });

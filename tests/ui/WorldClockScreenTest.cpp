@@ -104,69 +104,59 @@ private slots:
         });
     }
 
-    void twelveHourDisplayRewritesTheHour()
+    void twelveHourDisplayFollowsItsSettingAndMenuItem()
     {
         struct Case
         {
             int hour;
-            const char* time;
+            const char* twelve;
             const char* suffix;
+            const char* full;
         };
-        const Case cases[]
-            = {{0, "12:15:00", "AM"}, {9, "09:15:00", "AM"}, {12, "12:15:00", "PM"}, {23, "11:15:00", "PM"}};
+        const Case cases[] = {{0, "12:15:00", "AM", "00:15:00"}, {12, "12:15:00", "PM", "12:15:00"}};
         for (const Case& c : cases) {
             WorldClockBench t;
             t.registry.SetDWORD(L"Wanderkit", L"twelvehour", 1);
             t.bench.clock.set(FakeDeviceClock::at(2026, 1, 5, c.hour, 15, 0));
             t.run([&] {
-                QVERIFY(t.screen.twelveHour());
-                QCOMPARE(t.screen.shownTime(0), QString::fromLatin1(c.time));
+                QCOMPARE(t.screen.shownTime(0), QString::fromLatin1(c.twelve));
                 QCOMPARE(t.screen.shownSuffix(0), QString::fromLatin1(c.suffix));
                 QVERIFY(t.screen.softKeys()->isItemChecked(Commands::TwelveHourClocks));
+                // The menu item turns it off and on, and stores the choice.
+                t.screen.softKeys()->chooseItem(Commands::TwelveHourClocks);
+                QCOMPARE(t.screen.shownTime(0), QString::fromLatin1(c.full));
+                QVERIFY(!t.screen.softKeys()->isItemChecked(Commands::TwelveHourClocks));
+                QCOMPARE(t.registry.GetDWORD(L"Wanderkit", L"twelvehour"), 0u);
+                t.screen.softKeys()->chooseItem(Commands::TwelveHourClocks);
+                QCOMPARE(t.screen.shownTime(0), QString::fromLatin1(c.twelve));
+                QCOMPARE(t.registry.GetDWORD(L"Wanderkit", L"twelvehour"), 1u);
             });
         }
-    }
-
-    void theMenuItemTogglesTwelveHourDisplayAndStoresIt()
-    {
-        WorldClockBench t;
-        t.bench.clock.set(FakeDeviceClock::at(2026, 1, 5, 13, 15, 0));
-        t.run([&] {
-            QVERIFY(!t.screen.softKeys()->isItemChecked(Commands::TwelveHourClocks));
-            t.screen.softKeys()->chooseItem(Commands::TwelveHourClocks);
-            QVERIFY(t.screen.twelveHour());
-            QCOMPARE(t.screen.shownTime(0), QStringLiteral("01:15:00"));
-            QVERIFY(t.screen.softKeys()->isItemChecked(Commands::TwelveHourClocks));
-            QCOMPARE(t.registry.GetDWORD(L"Wanderkit", L"twelvehour"), 1u);
-            t.screen.softKeys()->chooseItem(Commands::TwelveHourClocks);
-            QCOMPARE(t.screen.shownTime(0), QStringLiteral("13:15:00"));
-            QCOMPARE(t.registry.GetDWORD(L"Wanderkit", L"twelvehour"), 0u);
-        });
     }
 
     void theActionKeyOnAClockFaceChangesItsCity()
     {
         WorldClockBench t;
         t.run([&] {
-            QTest::keyClick(t.bench.window.focusWidget(), Qt::Key_Right);
-            QTest::keyClick(t.bench.window.focusWidget(), Qt::Key_Right); // "c1"
+            t.bench.press(Qt::Key_Right);
+            t.bench.press(Qt::Key_Right); // "c1"
             QObject context;
             connect(&t.bench.window, &DeviceWindow::screenShown, &context, [&](Screen& dialog) {
                 QTimer::singleShot(0, &context, [&] {
                     QCOMPARE(static_cast<SelectDialog&>(dialog).selection(), 684);
-                    QTest::keyClick(t.bench.window.focusWidget(), Qt::Key_Down);
-                    QTest::keyClick(t.bench.window.focusWidget(), Qt::Key_Down);
+                    t.bench.press(Qt::Key_Down);
+                    t.bench.press(Qt::Key_Down);
                     dialog.sendCommand(Commands::Done);
                 });
             });
-            QTest::keyClick(t.bench.window.focusWidget(), Qt::Key_Return);
+            t.bench.press(Qt::Key_Return);
             QCOMPARE(t.screen.slotCity(1), 686u);
             QCOMPARE(t.registry.GetDWORD(ClockKey, L"clock1"), 686u);
             QCOMPARE(t.screen.shownName(1), QStringLiteral("C0686"));
         });
     }
 
-    void theHomeCityBecomesAWeatherFavourite()
+    void theHomeCityAndAnIconsCityBecomeWeatherFavourites()
     {
         WorldClockBench t;
         QCOMPARE(t.favourites.count(), 0);
@@ -179,22 +169,16 @@ private slots:
             // "wetp" was missing: it takes the home city's catalogue index.
             QCOMPARE(t.registry.GetDWORD(L"Wanderkit\\weather", L"wetp"), 0u);
             QCOMPARE(t.registry.Status(), RegistrySettings::Read);
-        });
-    }
 
-    void theActionKeyOnAWeatherIconAddsTheCity()
-    {
-        WorldClockBench t;
-        t.run([&] {
             for (int i = 0; i < 3; ++i)
-                QTest::keyClick(t.bench.window.focusWidget(), Qt::Key_Right); // "w1"
-            QTest::keyClick(t.bench.window.focusWidget(), Qt::Key_Return);
+                t.bench.press(Qt::Key_Right); // "w1"
+            t.bench.press(Qt::Key_Return);
             QCOMPARE(t.favourites.count(), 2);
             QVERIFY(t.favourites.findByName(L"C0684") != 0);
             QCOMPARE(t.bench.boxes.size(), std::size_t(1));
             QCOMPARE(t.bench.boxes[0].text, QStringLiteral("This city has been added to the Favorites List."));
             // A favourite already: nothing more is added.
-            QTest::keyClick(t.bench.window.focusWidget(), Qt::Key_Return);
+            t.bench.press(Qt::Key_Return);
             QCOMPARE(t.favourites.count(), 2);
         });
     }
