@@ -1,20 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "store/CurrencyStore.h"
 
-#include "device/DevicePaths.h"
-#include "support/RecordingMessageSink.h"
-#include "support/TempDir.h"
+#include "support/TestDevice.h"
 
 #include <gtest/gtest.h>
 
 namespace {
-
-InitialCurrencyList readFile(const std::string& bytes, RecordingMessageSink& messages)
-{
-    TempDir dir;
-    dir.write("currs.lst", bytes);
-    return ReadInitialCurrencies(DevicePaths(dir.path()), messages);
-}
 
 InitialCurrencyList listOf(std::vector<CurrencyEntry> entries)
 {
@@ -64,27 +55,26 @@ TEST(InitialCurrencyList, ReadsTheCurrencyFile)
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
-        RecordingMessageSink messages;
-        const InitialCurrencyList list = readFile(c.file, messages);
+        TestDevice device;
+        device.dir.write("currs.lst", c.file);
+        const InitialCurrencyList list = ReadInitialCurrencies(device.paths, device.messages);
         EXPECT_TRUE(list.fromFile);
         EXPECT_EQ(list.count, c.count);
         EXPECT_EQ(list.entries, c.entries);
         EXPECT_EQ(list.size(), c.size);
-        EXPECT_TRUE(messages.messages.empty());
+        EXPECT_TRUE(device.messages.messages.empty());
     }
 }
 
 TEST(InitialCurrencyList, MissingFileKeepsThePresetCount)
 {
-    TempDir dir;
-    RecordingMessageSink messages;
-    const InitialCurrencyList list = ReadInitialCurrencies(DevicePaths(dir.path()), messages);
+    TestDevice device;
+    const InitialCurrencyList list = ReadInitialCurrencies(device.paths, device.messages);
     EXPECT_FALSE(list.fromFile);
     EXPECT_EQ(list.count, 189);
     EXPECT_EQ(list.size(), 0);
-    ASSERT_EQ(messages.messages.size(), 1u);
-    EXPECT_EQ(messages.messages[0].text, L"Initial Currencies File not found!");
-    EXPECT_EQ(messages.messages[0].caption, L"Wanderkit");
+    EXPECT_EQ(device.messages.messages,
+        (std::vector<RecordingMessageSink::Message> {{L"Initial Currencies File not found!", L"Wanderkit"}}));
 }
 
 TEST(CurrencyStore, FirstLoadCopiesTheListInNameOrder)

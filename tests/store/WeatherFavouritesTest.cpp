@@ -1,25 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "store/WeatherFavourites.h"
 
-#include "device/DevicePaths.h"
-#include "support/RecordingMessageSink.h"
-#include "support/TempDir.h"
+#include "support/TestDevice.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-struct Device
+struct Device : TestDevice
 {
     Device() = default;
     explicit Device(const std::string& favouritesFile) { dir.write("cities.wet", favouritesFile); }
 
     WeatherFavourites favourites() { return WeatherFavourites(*store, paths, messages); }
-
-    TempDir dir;
-    DevicePaths paths {dir.path()};
-    RecordingMessageSink messages;
-    std::unique_ptr<ObjectStore> store = ObjectStore::openInMemory();
 };
 
 // "name|code|forecast|last update|country file" for every favourite, in store order.
@@ -85,9 +78,9 @@ TEST(WeatherFavourites, IsFilledOncePerDevice)
     favourites.loadFavouritesOnce();
     EXPECT_EQ(favourites.count(), 0);
     favourites.loadFavouritesOnce();
-    ASSERT_EQ(device.messages.messages.size(), 2u) << "told at every start until the file is there";
-    EXPECT_EQ(device.messages.messages[0].text, L"Initial Weather Favorite Cities File not found!");
-    EXPECT_EQ(device.messages.messages[0].caption, L"Wanderkit");
+    const RecordingMessageSink::Message notFound {L"Initial Weather Favorite Cities File not found!", L"Wanderkit"};
+    const std::vector<RecordingMessageSink::Message> told {notFound, notFound}; // at every start until it is there
+    EXPECT_EQ(device.messages.messages, told);
 
     device.dir.write("cities.wet", "1\nItaly;Rome;ITXX0067\n");
     favourites.loadFavouritesOnce();
@@ -96,7 +89,7 @@ TEST(WeatherFavourites, IsFilledOncePerDevice)
     auto later = device.favourites();
     later.loadFavouritesOnce();
     EXPECT_EQ(contents(later), (std::vector<std::wstring> {L"Rome|ITXX0067||01/01/2000|Italy"}));
-    EXPECT_EQ(device.messages.messages.size(), 2u);
+    EXPECT_EQ(device.messages.messages, told);
 }
 
 TEST(WeatherFavourites, FindAddUpdateRemove)
