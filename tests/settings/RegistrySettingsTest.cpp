@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settings/RegistrySettings.h"
 
-#include "support/RecordingMessageSink.h"
-#include "support/TempDir.h"
 #include "text/WideText.h"
 
 #include <gtest/gtest.h>
@@ -95,27 +93,4 @@ TEST(RegistrySettings, StoredForms)
     // A value keeps its name's case and its latest type.
     h.settings.SetString(L"WANDERKIT", L"twelvehour", L"1");
     EXPECT_EQ(h.hive->value(L"Wanderkit", L"twelvehour")->type, RegistryType::String);
-}
-
-TEST(RegistrySettings, SettingsSurviveARestart)
-{
-    TempDir dir;
-    RecordingMessageSink messages;
-    {
-        auto hive = SettingsHive::open(dir.path() / "registry.db", messages);
-        RegistrySettings settings(*hive);
-        settings.SetDWORD(L"Wanderkit\\currencies", L"curp", 61);
-        settings.SetString(L"Wanderkit\\currencies", L"curval", L"12.5");
-    }
-    auto hive = SettingsHive::open(dir.path() / "registry.db", messages);
-    RegistrySettings settings(*hive);
-    EXPECT_EQ(settings.GetDWORD(L"Wanderkit\\currencies", L"curp"), 61u);
-    EXPECT_EQ(settings.GetString(L"Wanderkit\\currencies", L"curval"), L"12.5");
-
-    // Another accessor on another connection (the command line, say) reads the same values.
-    auto other = SettingsHive::open(dir.path() / "registry.db", messages);
-    RegistrySettings reader(*other);
-    settings.SetDWORD(L"Wanderkit\\currencies", L"curp", 62);
-    EXPECT_EQ(reader.GetDWORD(L"Wanderkit\\currencies", L"curp"), 62u);
-    EXPECT_TRUE(messages.messages.empty());
 }
