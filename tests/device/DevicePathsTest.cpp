@@ -30,12 +30,3 @@ TEST(DevicePaths, MapsHandheldPathsIntoTheRoot)
             EXPECT_EQ(host, std::filesystem::path(c.host)) << std::string(c.device.begin(), c.device.end());
     }
 }
-
-TEST(DevicePaths, ProgramPathRules)
-{
-    // The program is "\Wanderkit.exe": its folder is empty, so every rule lands in the root.
-    EXPECT_EQ(DevicePaths::programFolder(), L"");
-    EXPECT_EQ(DevicePaths::besideProgram(L"\\cities.lst"), L"\\cities.lst");
-    EXPECT_EQ(DevicePaths::joinedName(L"bconv.jpg"), L"bconv.jpg");
-    EXPECT_EQ(DevicePaths::programPathToFirstBackslash(), L"");
-}

@@ -37,16 +37,13 @@ TEST(SettingsTable, DefaultsAndWriteBack)
         {"clock1, fresh device: default, written", Settings::Clock1, Before::FreshDevice, 684, 684},
         {"clock2, value deleted: default, not written", Settings::Clock2, Before::KeyOnly, 756, std::nullopt},
         {"clock3 present", Settings::Clock3, Before::Stored, 5, 5},
-        {"clock4, fresh device", Settings::Clock4, Before::FreshDevice, 988, 988},
         {"home clock, fresh device", Settings::HomeClock, Before::FreshDevice, 0, 0},
         {"curp, fresh: written", Settings::Currency1, Before::FreshDevice, 61, 61},
         {"curp2, value missing: written", Settings::Currency2, Before::KeyOnly, 180, 180},
-        {"curp3, fresh", Settings::Currency3, Before::FreshDevice, 27, 27},
         {"syncltz, value missing: written", Settings::SyncLocalZone, Before::KeyOnly, 1, 1},
         {"showcs: default, never written", Settings::ShowCities, Before::FreshDevice, 1, std::nullopt},
         {"twelvehour", Settings::TwelveHour, Before::FreshDevice, 0, std::nullopt},
         {"wetp", Settings::WeatherPosition, Before::KeyOnly, 0, std::nullopt},
-        {"mapclock present", Settings::MapClock, Before::Stored, 5, 5},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
