@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace {
 
 // Each test gets a device root with the fixture catalogue and an empty state folder.
@@ -47,11 +49,7 @@ TEST_F(CityCommands, CitiesListsTheMatchingCatalogueEntries)
 
 TEST_F(CityCommands, TimeShowsWhatAWorldClockShows)
 {
-    struct Case
-    {
-        std::vector<std::string> args;
-        std::string out;
-    };
+    using Case = std::tuple<std::vector<std::string>, std::string>;
     const Case cases[] = {
         // Device time is the home city's (+2 in July): GMT 07:05.
         {{"684"}, "684\tC0684\t03:05\t13/7 Done\t-4\t1\t8/3/2026\t1/11/2026\n"},
@@ -60,10 +58,10 @@ TEST_F(CityCommands, TimeShowsWhatAWorldClockShows)
         // A home on GMT moves the device offset: New York is then four hours behind device time.
         {{"684", "--home", "C0001"}, "684\tC0684\t05:05\t13/7 Done\t-4\t1\t8/3/2026\t1/11/2026\n"},
     };
-    for (const Case& c : cases) {
-        const CommandResult result = run("time", c.args);
+    for (const auto& [args, out] : cases) {
+        const CommandResult result = run("time", args);
         EXPECT_EQ(result.code, 0) << result.err;
-        EXPECT_EQ(result.out, c.out);
+        EXPECT_EQ(result.out, out);
     }
 }
 

@@ -4,15 +4,12 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <tuple>
 
 // The rows are checked in the reference tests: here, what is matched and how a row is printed.
 TEST(DialCommand, PrintsMatchingRowsTabSeparated)
 {
-    struct Case
-    {
-        std::vector<std::string> args;
-        std::string out;
-    };
+    using Case = std::tuple<std::vector<std::string>, std::string>;
     const Case cases[] = {
         {{"KOREA"}, "South Korea\t+82\t+9\nNorth Korea\t+850\t+9\n"},
         {{"--us", "weymouth"}, "Weymouth\tMassachusetts(MA)\t+781\n"},
@@ -20,10 +17,10 @@ TEST(DialCommand, PrintsMatchingRowsTabSeparated)
         // Several words are one text.
         {{"--us", "salt", "lake"}, "Salt Lake City\tUtah(UT)\t+801\n"},
     };
-    for (const Case& c : cases) {
-        const CommandResult r = CommandResult::of("dial", c.args);
-        EXPECT_EQ(r.code, 0) << c.out;
-        EXPECT_EQ(r.out, c.out);
+    for (const auto& [args, out] : cases) {
+        const CommandResult r = CommandResult::of("dial", args);
+        EXPECT_EQ(r.code, 0) << out;
+        EXPECT_EQ(r.out, out);
         EXPECT_EQ(r.err, "");
     }
 }

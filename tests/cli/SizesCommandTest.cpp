@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <tuple>
 
 namespace {
 
@@ -24,11 +25,8 @@ std::string Drawn(int wearer, int garment)
 
 TEST(SizesCommand, PrintsEveryMatchingTableAsDrawn)
 {
-    struct Case
-    {
-        std::vector<std::string> args;
-        std::vector<std::pair<int, int>> tables; // wearer, garment
-    };
+    // The arguments, and the wearer and garment of each table printed.
+    using Case = std::tuple<std::vector<std::string>, std::vector<std::pair<int, int>>>;
     const Case cases[] = {
         {{"men", "SHOES"}, {{0, 1}}},
         {{"Children"}, {{2, 0}, {2, 1}, {2, 2}}},
@@ -36,12 +34,12 @@ TEST(SizesCommand, PrintsEveryMatchingTableAsDrawn)
         // A garment of several words may also come as separate words.
         {{"MEN", "shirts", "and", "sweaters"}, {{0, 0}}},
     };
-    for (const Case& c : cases) {
+    for (const auto& [args, tables] : cases) {
         std::string expected;
-        for (const auto& [wearer, garment] : c.tables)
+        for (const auto& [wearer, garment] : tables)
             expected += (expected.empty() ? "" : "\n") + Drawn(wearer, garment);
-        const CommandResult r = CommandResult::of("sizes", c.args);
-        EXPECT_EQ(r.code, 0) << c.args.front();
+        const CommandResult r = CommandResult::of("sizes", args);
+        EXPECT_EQ(r.code, 0) << args.front();
         EXPECT_EQ(r.out, expected);
         EXPECT_EQ(r.err, "");
     }
@@ -55,11 +53,8 @@ TEST(SizesCommand, PrintsEveryMatchingTableAsDrawn)
 
 TEST(SizesCommand, RejectsUnknownNamesAndOptions)
 {
-    struct Case
-    {
-        std::vector<std::string> args;
-        std::string error; // part of the message
-    };
+    // The arguments, and part of the message.
+    using Case = std::tuple<std::vector<std::string>, std::string>;
     const Case cases[] = {
         {{"kids"}, "unknown wearer \"kids\"; choose one of: Men, Women, Children"},
         {{"men", "bras"}, "unknown garment \"bras\"; choose one of: Shirts and Sweaters, Shoes, Suits, Trousers"},
@@ -67,10 +62,10 @@ TEST(SizesCommand, RejectsUnknownNamesAndOptions)
         {{"--wide"}, "unknown option --wide"},
         {{"men", "-x"}, "unknown option -x"},
     };
-    for (const Case& c : cases) {
-        const CommandResult r = CommandResult::of("sizes", c.args);
-        EXPECT_EQ(r.code, 2) << c.error;
-        EXPECT_EQ(r.out, "") << c.error;
-        EXPECT_NE(r.err.find(c.error), std::string::npos) << r.err;
+    for (const auto& [args, error] : cases) {
+        const CommandResult r = CommandResult::of("sizes", args);
+        EXPECT_EQ(r.code, 2) << error;
+        EXPECT_EQ(r.out, "") << error;
+        EXPECT_NE(r.err.find(error), std::string::npos) << r.err;
     }
 }

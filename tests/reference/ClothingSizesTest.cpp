@@ -20,13 +20,7 @@ std::vector<std::wstring_view> Texts(std::span<const int> ids)
     return texts;
 }
 
-struct Case
-{
-    int wearer;
-    int garment;
-    std::wstring_view title;
-    std::array<std::wstring_view, 4> rows;
-};
+using Case = std::tuple<int, int, std::wstring_view, std::array<std::wstring_view, 4>>;
 
 // Every table as printed, to the character.
 const Case Tables[] = {
@@ -103,12 +97,12 @@ TEST(ClothingSizes, HoldsEveryTableAsPrinted)
         tables += ClothingSizes::Garments(wearer).size();
     EXPECT_EQ(tables, std::size(Tables));
 
-    for (const Case& c : Tables) {
-        SCOPED_TRACE(testing::Message() << "wearer " << c.wearer << ", garment " << c.garment);
-        const ClothingSizes::Table* table = ClothingSizes::Find(c.wearer, c.garment);
+    for (const auto& [wearer, garment, title, rows] : Tables) {
+        SCOPED_TRACE(testing::Message() << "wearer " << wearer << ", garment " << garment);
+        const ClothingSizes::Table* table = ClothingSizes::Find(wearer, garment);
         ASSERT_NE(table, nullptr);
-        EXPECT_EQ(StringTable::Load(table->titleId), c.title);
-        EXPECT_EQ(table->rows, c.rows);
+        EXPECT_EQ(StringTable::Load(table->titleId), title);
+        EXPECT_EQ(table->rows, rows);
     }
 }
 

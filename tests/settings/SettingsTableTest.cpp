@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <optional>
+#include <tuple>
 
 namespace {
 
@@ -25,14 +26,7 @@ std::unique_ptr<SettingsHive> hiveWith(Before before, std::wstring_view subkey, 
 
 TEST(SettingsTable, DefaultsAndWriteBack)
 {
-    struct Case
-    {
-        const char* what;
-        const DwordSetting& setting;
-        Before before;
-        std::uint32_t read;
-        std::optional<std::uint32_t> storedAfter;
-    };
+    using Case = std::tuple<const char*, const DwordSetting&, Before, std::uint32_t, std::optional<std::uint32_t>>;
     const Case cases[] = {
         {"clock1, fresh device: default, written", Settings::Clock1, Before::FreshDevice, 684, 684},
         {"clock2, value deleted: default, not written", Settings::Clock2, Before::KeyOnly, 756, std::nullopt},
@@ -45,15 +39,15 @@ TEST(SettingsTable, DefaultsAndWriteBack)
         {"twelvehour", Settings::TwelveHour, Before::FreshDevice, 0, std::nullopt},
         {"wetp", Settings::WeatherPosition, Before::KeyOnly, 0, std::nullopt},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
-        auto hive = hiveWith(c.before, c.setting.subkey, c.setting.name);
+    for (const auto& [what, setting, before, read, storedAfter] : cases) {
+        SCOPED_TRACE(what);
+        auto hive = hiveWith(before, setting.subkey, setting.name);
         RegistrySettings settings(*hive);
-        EXPECT_EQ(ReadSetting(settings, c.setting), c.read);
-        const auto stored = hive->value(c.setting.subkey, c.setting.name);
-        EXPECT_EQ(stored.has_value(), c.storedAfter.has_value());
-        if (stored && c.storedAfter) {
-            EXPECT_EQ(RegistrySettings(*hive).GetDWORD(c.setting.subkey, c.setting.name), *c.storedAfter);
+        EXPECT_EQ(ReadSetting(settings, setting), read);
+        const auto stored = hive->value(setting.subkey, setting.name);
+        EXPECT_EQ(stored.has_value(), storedAfter.has_value());
+        if (stored && storedAfter) {
+            EXPECT_EQ(RegistrySettings(*hive).GetDWORD(setting.subkey, setting.name), *storedAfter);
         }
     }
 }

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace {
 
 // A device root holding `citiesFile` as "\cities.lst".
@@ -34,12 +36,8 @@ TEST(CityCatalogue, LoadsTheCitiesFile)
     const std::string paris = "2;Paris;France;2.3;48.8;1;a;b;c;d;e\n";
     const std::string texas = "3;Paris;Texas;-95.5;33.6;-6;a;b;c;d;e\n";
     const std::string secondRome = "4;Rome;Italy;0;0;0;a;b;c;d;e\n";
-    struct Case
-    {
-        const char* what;
-        std::string afterHeader;
-        std::vector<std::wstring> cities; // "city|country|coordinate 1" in catalogue order
-    };
+    // The cities as "city|country|coordinate 1" in catalogue order.
+    using Case = std::tuple<const char*, std::string, std::vector<std::wstring>>;
     const Case cases[] = {
         {"sorted by city and country", "3\n" + rome + paris + texas,
             {L"Paris|France|2.3", L"Paris|Texas|-95.5", L"Rome|Italy|12.5"}},
@@ -57,12 +55,12 @@ TEST(CityCatalogue, LoadsTheCitiesFile)
         {"a negative count", "-4\n" + rome, {}},
         {"bytes above 127 are Latin-1", "1\n1;Z\xFCrich;Schweiz;1;1;1;a;b;c;d;e\n", {L"Z\u00FCrich|Schweiz|1"}},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
-        Device device(Header + c.afterHeader);
+    for (const auto& [what, afterHeader, cities] : cases) {
+        SCOPED_TRACE(what);
+        Device device(Header + afterHeader);
         auto catalogue = device.catalogue();
         catalogue.Load();
-        EXPECT_EQ(citiesCountriesAndCoordinates(catalogue), c.cities);
+        EXPECT_EQ(citiesCountriesAndCoordinates(catalogue), cities);
         EXPECT_TRUE(device.messages.messages.empty());
     }
 }

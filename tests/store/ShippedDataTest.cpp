@@ -53,9 +53,8 @@ TEST_F(ShippedData, TheCatalogueHoldsEveryCityAndTheDefaultClocksLandOnRealCitie
     EXPECT_EQ(cities.Count(), cityFileCount());
     EXPECT_GE(cities.Count(), 1050);
     EXPECT_LE(cities.Count(), 1150);
-    const std::pair<std::uint32_t, const wchar_t*> clocks[] = {
-        {565, L"London:United Kingdom"}, {684, L"New York:United States"}, {756, L"Paris:France"},
-        {988, L"Tokyo:Japan"}};
+    const std::pair<std::uint32_t, const wchar_t*> clocks[] = {{565, L"London:United Kingdom"},
+        {684, L"New York:United States"}, {756, L"Paris:France"}, {988, L"Tokyo:Japan"}};
     for (const auto& [position, name] : clocks)
         EXPECT_EQ(cities.CityName(position) + L":" + cities.Country(position), name) << position;
 }
@@ -93,8 +92,8 @@ TEST_F(ShippedData, CurrenciesLandOnTheConverterDefaults)
     store.SetInitialList(list);
     store.Load();
     EXPECT_EQ(store.RecordCount(), 189);
-    const std::tuple<std::uint32_t, const wchar_t*, const wchar_t*> defaults[] = {
-        {61, L"EUR", L"Euro"}, {180, L"USD", L"US Dollar"}, {27, L"GBP", L"British Pound"}};
+    const std::tuple<std::uint32_t, const wchar_t*, const wchar_t*> defaults[]
+        = {{61, L"EUR", L"Euro"}, {180, L"USD", L"US Dollar"}, {27, L"GBP", L"British Pound"}};
     for (const auto& [position, code, name] : defaults) {
         EXPECT_EQ(store.Code(position), code);
         EXPECT_EQ(store.Name(position), name);
@@ -116,8 +115,8 @@ TEST_F(ShippedData, FavouritesAreCatalogueCitiesWithTheirCodes)
     for (std::uint32_t i = 0; i < favourites.count(); ++i) {
         const std::wstring name = favourites.getName(i);
         names.insert(name);
-        EXPECT_EQ(CountryCityList::read(paths, favourites.getCountryFile(i)).codeOf(name),
-            favourites.getLocationCode(i))
+        EXPECT_EQ(
+            CountryCityList::read(paths, favourites.getCountryFile(i)).codeOf(name), favourites.getLocationCode(i))
             << WideToUtf8(name);
     }
     for (const wchar_t* city : {L"London", L"New York", L"Paris", L"Tokyo"})
@@ -142,8 +141,8 @@ TEST_F(ShippedData, EveryForecastCodeFindsItsIcon)
         }
         return std::wstring(L"na");
     };
-    for (const int wmo : {0, 1, 2, 3, 45, 48, 51, 53, 55, 56, 57, 61, 63, 65, 66, 67, 71, 73, 75, 77, 80, 81, 82, 85,
-             86, 95, 96, 99}) {
+    for (const int wmo :
+        {0, 1, 2, 3, 45, 48, 51, 53, 55, 56, 57, 61, 63, 65, 66, 67, 71, 73, 75, 77, 80, 81, 82, 85, 86, 95, 96, 99}) {
         const std::wstring code = FormatText(L"%02d", wmo);
         const std::wstring icon = iconFor(code);
         EXPECT_NE(icon, L"na") << wmo;

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace {
 
 struct Device : TestDevice
@@ -29,12 +31,7 @@ std::vector<std::wstring> contents(WeatherFavourites& favourites)
 
 TEST(WeatherFavourites, LoadsTheFavouritesFile)
 {
-    struct Case
-    {
-        const char* what;
-        std::string file;
-        std::vector<std::wstring> rows;
-    };
+    using Case = std::tuple<const char*, std::string, std::vector<std::wstring>>;
     const Case cases[] = {
         {"one record per line, in name order", "2\nItaly;Rome;ITXX0067\nFrance;Paris;FRXX0076\n",
             {L"Paris|FRXX0076||01/01/2000|France", L"Rome|ITXX0067||01/01/2000|Italy"}},
@@ -53,12 +50,12 @@ TEST(WeatherFavourites, LoadsTheFavouritesFile)
         {"bytes above 127 are Latin-1", "1\nDeutschland;K\xF6ln;GMXX0018\n",
             {L"K\u00F6ln|GMXX0018||01/01/2000|Deutschland"}},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
-        Device device(c.file);
+    for (const auto& [what, file, rows] : cases) {
+        SCOPED_TRACE(what);
+        Device device(file);
         auto favourites = device.favourites();
         favourites.loadFavouritesOnce();
-        EXPECT_EQ(contents(favourites), c.rows);
+        EXPECT_EQ(contents(favourites), rows);
         EXPECT_TRUE(device.messages.messages.empty());
     }
 }
@@ -129,11 +126,7 @@ TEST(WeatherFavourites, OpensInEachSortOrder)
     favourites.loadFavouritesOnce();
     favourites.updateFavourite(L"Miami", L"1", L"c", L"03/01/2000:A", 1);
 
-    struct Case
-    {
-        int sortIndex;
-        std::vector<std::wstring> names;
-    };
+    using Case = std::tuple<int, std::vector<std::wstring>>;
     const Case cases[] = {
         {-1, {L"Athens", L"Miami", L"Zurich"}},
         {0, {L"Athens", L"Miami", L"Zurich"}},
@@ -141,13 +134,13 @@ TEST(WeatherFavourites, OpensInEachSortOrder)
         {2, {L"Zurich", L"Athens", L"Miami"}}, // the empty forecasts in order of addition, then "c"
         {3, {L"Zurich", L"Athens", L"Miami"}},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.sortIndex);
-        ASSERT_TRUE(favourites.openFavourites(c.sortIndex));
+    for (const auto& [sortIndex, expected] : cases) {
+        SCOPED_TRACE(sortIndex);
+        ASSERT_TRUE(favourites.openFavourites(sortIndex));
         std::vector<std::wstring> names;
         for (std::uint32_t i = 0; i < favourites.count(); ++i)
             names.push_back(favourites.getName(i));
-        EXPECT_EQ(names, c.names);
+        EXPECT_EQ(names, expected);
     }
     EXPECT_FALSE(favourites.openFavourites(4));
     EXPECT_EQ(favourites.count(), 0);

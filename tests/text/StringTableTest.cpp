@@ -3,13 +3,11 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 TEST(StringTable, HoldsTheProgramTexts)
 {
-    struct Case
-    {
-        int id;
-        std::wstring_view text;
-    };
+    using Case = std::tuple<int, std::wstring_view>;
     const Case cases[] = {
         {40003, L"Menu"},
         {40039, L"Sorry, Weather Forecast is not available for this City."},
@@ -19,6 +17,6 @@ TEST(StringTable, HoldsTheProgramTexts)
         {39999, L""},
         {40084, L""},
     };
-    for (const Case& c : cases)
-        EXPECT_EQ(StringTable::Load(c.id), c.text) << c.id;
+    for (const auto& [id, text] : cases)
+        EXPECT_EQ(StringTable::Load(id), text) << id;
 }

@@ -12,6 +12,7 @@
 #include <QTest>
 
 #include <optional>
+#include <tuple>
 
 namespace {
 
@@ -109,13 +110,7 @@ private slots:
 
     void storedChoicesAreReadWithTheirDefaults()
     {
-        struct Case
-        {
-            std::optional<std::uint32_t> who;
-            std::optional<std::uint32_t> cloth;
-            int wearer;
-            int garment;
-        };
+        using Case = std::tuple<std::optional<std::uint32_t>, std::optional<std::uint32_t>, int, int>;
         const Case cases[] = {
             {std::nullopt, std::nullopt, 0, 0}, // a fresh device
             {1, std::nullopt, 1, 0},
@@ -125,21 +120,21 @@ private slots:
             {3, 1, 0, 1}, // no fourth wearer
             {70000, 70000, 0, 0},
         };
-        for (const Case& c : cases) {
+        for (const auto& [who, cloth, wearer, garment] : cases) {
             ScreenTestBench bench;
             ClothingScreen screen(bench.environment, bench.window);
-            store(bench, c.who, c.cloth);
+            store(bench, who, cloth);
             bench.visit(screen, [&] {
-                QCOMPARE(spinner(screen, "wearerSpinner")->currentIndex(), c.wearer);
-                QCOMPARE(spinner(screen, "garmentSpinner")->currentIndex(), c.garment);
-                QCOMPARE(screen.tableTitle(), table(c.wearer, c.garment).first);
+                QCOMPARE(spinner(screen, "wearerSpinner")->currentIndex(), wearer);
+                QCOMPARE(spinner(screen, "garmentSpinner")->currentIndex(), garment);
+                QCOMPARE(screen.tableTitle(), table(wearer, garment).first);
                 // Reading writes no default back.
-                QCOMPARE(stored(bench, Settings::ClothesWho), c.who.value_or(NotStored));
-                QCOMPARE(stored(bench, Settings::ClothesKind), c.cloth.value_or(NotStored));
+                QCOMPARE(stored(bench, Settings::ClothesWho), who.value_or(NotStored));
+                QCOMPARE(stored(bench, Settings::ClothesKind), cloth.value_or(NotStored));
             });
             // Leaving writes what was shown.
-            QCOMPARE(stored(bench, Settings::ClothesWho), static_cast<std::uint32_t>(c.wearer));
-            QCOMPARE(stored(bench, Settings::ClothesKind), static_cast<std::uint32_t>(c.garment));
+            QCOMPARE(stored(bench, Settings::ClothesWho), static_cast<std::uint32_t>(wearer));
+            QCOMPARE(stored(bench, Settings::ClothesKind), static_cast<std::uint32_t>(garment));
         }
     }
 

@@ -8,6 +8,8 @@
 
 #include <QTest>
 
+#include <tuple>
+
 namespace {
 
 ReportList* international(DialingScreen& screen)
@@ -96,12 +98,7 @@ private slots:
 
     void layoutAndColumnWidthsFollowTheWorkArea()
     {
-        struct Case
-        {
-            QSize area;
-            QList<int> countryWidths;
-            QList<int> cityWidths;
-        };
+        using Case = std::tuple<QSize, QList<int>, QList<int>>;
         const Case cases[] = {
             {{240, 268}, {108, 62, 49}, {84, 96, 40}},
             {{268, 240}, {120, 69, 55}, {93, 107, 45}},
@@ -110,15 +107,15 @@ private slots:
         ScreenTestBench bench;
         DialingScreen screen(bench.environment, bench.window);
         bench.visit(screen, [&] {
-            for (const Case& c : cases) {
-                bench.window.setWorkArea(c.area);
-                const QRect lists(0, 61, c.area.width(), c.area.height() - 61);
-                QCOMPARE(chooser(screen)->geometry(), QRect(6, 31, c.area.width() - 17, 24));
+            for (const auto& [area, countryWidths, cityWidths] : cases) {
+                bench.window.setWorkArea(area);
+                const QRect lists(0, 61, area.width(), area.height() - 61);
+                QCOMPARE(chooser(screen)->geometry(), QRect(6, 31, area.width() - 17, 24));
                 QCOMPARE(international(screen)->geometry(), lists);
                 QCOMPARE(areaCodes(screen)->geometry(), lists);
-                QCOMPARE(columnWidths(*international(screen)), c.countryWidths);
+                QCOMPARE(columnWidths(*international(screen)), countryWidths);
                 bench.press(Qt::Key_Right); // the area codes are sized when they are shown
-                QCOMPARE(columnWidths(*areaCodes(screen)), c.cityWidths);
+                QCOMPARE(columnWidths(*areaCodes(screen)), cityWidths);
                 bench.press(Qt::Key_Left);
             }
         });

@@ -11,6 +11,8 @@
 #include <QPainter>
 #include <QTest>
 
+#include <tuple>
+
 namespace {
 
 // A screen that records which hooks ran, for checking the framework's order and counts.
@@ -126,14 +128,8 @@ private slots:
 
     void everyMenuBarHasItsKeysAndPopups()
     {
-        struct Case
-        {
-            int id;
-            const char* left;
-            bool leftEnabled;
-            const char* right;
-            const char* items; // separated by "|", a separator empty
-        };
+        // The popup's items are separated by "|", a separator is empty.
+        using Case = std::tuple<int, const char*, bool, const char*, const char*>;
         const Case cases[] = {
             {101, "Services", true, "Menu", "Twelve Hours Clocks||Exit"},
             {106, "Done", true, "", ""},
@@ -141,19 +137,19 @@ private slots:
             {111, "Done", true, "Add", ""},
             {112, "Services", true, "Menu", "Undo|Clear||Exit"},
         };
-        for (const Case& c : cases) {
-            const MenuBarSpec* spec = MenuBars::find(c.id);
-            QVERIFY2(spec, qPrintable(QString::number(c.id)));
+        for (const auto& [id, left, leftEnabled, right, popup] : cases) {
+            const MenuBarSpec* spec = MenuBars::find(id);
+            QVERIFY2(spec, qPrintable(QString::number(id)));
             SoftKeyBar bar(*spec);
-            QCOMPARE(bar.keyText(0), QString::fromUtf8(c.left));
-            QCOMPARE(bar.keyText(1), QString::fromUtf8(c.right));
-            QCOMPARE(bar.isKeyEnabled(spec->left.command), c.leftEnabled);
+            QCOMPARE(bar.keyText(0), QString::fromUtf8(left));
+            QCOMPARE(bar.keyText(1), QString::fromUtf8(right));
+            QCOMPARE(bar.isKeyEnabled(spec->left.command), leftEnabled);
             QStringList items;
             if (QMenu* menu = bar.popup()) {
                 for (QAction* action : menu->actions())
                     items << (action->isSeparator() ? QString() : action->text());
             }
-            const QString expected = QString::fromUtf8(c.items);
+            const QString expected = QString::fromUtf8(popup);
             QCOMPARE(items, expected.isEmpty() ? QStringList() : expected.split(QLatin1Char('|')));
         }
         QVERIFY(!MenuBars::find(100));

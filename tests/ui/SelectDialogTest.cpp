@@ -12,6 +12,8 @@
 
 #include <QTest>
 
+#include <tuple>
+
 namespace {
 
 // Runs a city dialog starting at `selection` and returns its panel lines as shown.
@@ -36,31 +38,24 @@ class SelectDialogTest : public QObject
 private slots:
     void theCityPanelDescribesTheHighlightedCity()
     {
-        struct Case
-        {
-            SystemTime now;
-            int city;
-            const char* status;
-            const char* period;
-            const char* zone;
-        };
+        using Case = std::tuple<SystemTime, int, const char*, const char*, const char*>;
         const SystemTime july = FakeDeviceClock::at(2026, 7, 13, 12, 0, 0);
         const Case cases[] = {
             {july, 10, "Never observing", "-", "5h30"},
             {july, 684, "Observing Now", "8/3/2026-1/11/2026", "-5h + 1h (DST)"},
             {FakeDeviceClock::at(2026, 1, 13, 12, 0, 0), 684, "Not observing now", "8/3/2026-1/11/2026", "-5h"},
         };
-        for (const Case& c : cases) {
+        for (const auto& [now, city, status, period, zone] : cases) {
             ScreenTestBench bench;
             CityFixture::write(bench.root, {{10, "530;0;0;0;0;0"}, {684, "-5;1;67;2;305;2"}});
             CityCatalogue(*bench.objects, bench.paths, bench.messages).Load();
-            bench.clock.set(c.now);
-            QCOMPARE(panelOf(bench, c.city),
-                (QStringList {QStringLiteral("City: C%1").arg(c.city, 4, 10, QLatin1Char('0')),
+            bench.clock.set(now);
+            QCOMPARE(panelOf(bench, city),
+                (QStringList {QStringLiteral("City: C%1").arg(city, 4, 10, QLatin1Char('0')),
                     QStringLiteral("Country: Land"), QStringLiteral("Long/Lat: 2.35/48.85"),
-                    QStringLiteral("Daylight Saving: ") + QLatin1String(c.status),
-                    QStringLiteral("DST start/end: ") + QLatin1String(c.period),
-                    QStringLiteral("Time zone (GMT): ") + QLatin1String(c.zone)}));
+                    QStringLiteral("Daylight Saving: ") + QLatin1String(status),
+                    QStringLiteral("DST start/end: ") + QLatin1String(period),
+                    QStringLiteral("Time zone (GMT): ") + QLatin1String(zone)}));
         }
     }
 

@@ -13,6 +13,8 @@
 #include <QTest>
 #include <QTimer>
 
+#include <tuple>
+
 namespace {
 
 const wchar_t* const ClockKey = L"Wanderkit\\wrldclk";
@@ -106,29 +108,23 @@ private slots:
 
     void twelveHourDisplayFollowsItsSettingAndMenuItem()
     {
-        struct Case
-        {
-            int hour;
-            const char* twelve;
-            const char* suffix;
-            const char* full;
-        };
+        using Case = std::tuple<int, const char*, const char*, const char*>;
         const Case cases[] = {{0, "12:15:00", "AM", "00:15:00"}, {12, "12:15:00", "PM", "12:15:00"}};
-        for (const Case& c : cases) {
+        for (const auto& [hour, twelve, suffix, full] : cases) {
             WorldClockBench t;
             t.registry.SetDWORD(L"Wanderkit", L"twelvehour", 1);
-            t.bench.clock.set(FakeDeviceClock::at(2026, 1, 5, c.hour, 15, 0));
+            t.bench.clock.set(FakeDeviceClock::at(2026, 1, 5, hour, 15, 0));
             t.run([&] {
-                QCOMPARE(t.screen.shownTime(0), QString::fromLatin1(c.twelve));
-                QCOMPARE(t.screen.shownSuffix(0), QString::fromLatin1(c.suffix));
+                QCOMPARE(t.screen.shownTime(0), QString::fromLatin1(twelve));
+                QCOMPARE(t.screen.shownSuffix(0), QString::fromLatin1(suffix));
                 QVERIFY(t.screen.softKeys()->isItemChecked(Commands::TwelveHourClocks));
                 // The menu item turns it off and on, and stores the choice.
                 t.screen.softKeys()->chooseItem(Commands::TwelveHourClocks);
-                QCOMPARE(t.screen.shownTime(0), QString::fromLatin1(c.full));
+                QCOMPARE(t.screen.shownTime(0), QString::fromLatin1(full));
                 QVERIFY(!t.screen.softKeys()->isItemChecked(Commands::TwelveHourClocks));
                 QCOMPARE(t.registry.GetDWORD(L"Wanderkit", L"twelvehour"), 0u);
                 t.screen.softKeys()->chooseItem(Commands::TwelveHourClocks);
-                QCOMPARE(t.screen.shownTime(0), QString::fromLatin1(c.twelve));
+                QCOMPARE(t.screen.shownTime(0), QString::fromLatin1(twelve));
                 QCOMPARE(t.registry.GetDWORD(L"Wanderkit", L"twelvehour"), 1u);
             });
         }
