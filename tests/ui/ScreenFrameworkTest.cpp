@@ -2,13 +2,10 @@
 #include "ScreenTestBench.h"
 #include "ui/Commands.h"
 #include "ui/MenuBars.h"
-#include "ui/Painting.h"
 #include "ui/Screen.h"
 #include "ui/SoftKeyBar.h"
-#include "ui/Spinner.h"
 
 #include <QMenu>
-#include <QPainter>
 #include <QTest>
 
 #include <tuple>
@@ -219,29 +216,6 @@ private slots:
         const int ticks = screen.ticks;
         QTest::qWait(50);
         QCOMPARE(screen.ticks, ticks);
-    }
-
-    void spinnersStepReportAndWrap()
-    {
-        Spinner spinner;
-        QList<int> deltas;
-        QList<int> changes;
-        connect(&spinner, &Spinner::deltaRequested, this, [&](int d) { deltas << d; });
-        connect(&spinner, &Spinner::currentChanged, this, [&](int i) { changes << i; });
-        spinner.setItems({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
-        spinner.setCurrentIndex(0);
-        spinner.step(-1); // no wrapping: stays on the first item, the delta is still reported
-        QCOMPARE(spinner.currentIndex(), 0);
-        spinner.setWrapping(true);
-        spinner.step(-1);
-        QCOMPARE(spinner.currentIndex(), 2);
-        spinner.step(1);
-        QCOMPARE(spinner.currentIndex(), 0);
-        QCOMPARE(deltas, (QList<int> {-1, -1, 1}));
-        QCOMPARE(changes, (QList<int> {2, 0}));
-        spinner.setCurrentIndex(7); // beyond the end: nothing selected
-        QCOMPARE(spinner.currentIndex(), -1);
-        QCOMPARE(spinner.currentText(), QString());
     }
 };
 
