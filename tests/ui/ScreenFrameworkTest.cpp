@@ -157,49 +157,34 @@ private slots:
         ScreenTestBench bench;
         ProbeScreen outer(bench.environment, bench.window, 107, QStringLiteral("outer"));
         ProbeScreen inner(bench.environment, bench.window, 106, QStringLiteral("inner"));
-        bench.run(outer, [&] {
-            bench.run(inner, [&] {
+        bench.visit(outer, [&] {
+            bench.visit(inner, [&] {
                 QTest::keyClick(&inner, Qt::Key_R, Qt::ControlModifier);
                 QCOMPARE(bench.window.workArea(), QSize(268, 240));
                 QCOMPARE(bench.window.size(), QSize(268, 240 + SoftKeyBar::BarHeight));
-                inner.endScreen();
             });
-            outer.endScreen();
         });
         QCOMPARE(inner.layouts.last(), QSize(268, 240));
         QCOMPARE(outer.layouts.last(), QSize(268, 240));
     }
 
-    void gradientBandsAndAMissingPicture()
+    void theGradientShowsWithoutAPictureAndAPictureIsFoundByItsJoinedName()
     {
         ScreenTestBench bench;
         ProbeScreen screen(bench.environment, bench.window, 112, QStringLiteral("probe"));
-        screen.setBackgroundPicture(L"bconv.jpg"); // not in the device root
+        screen.setBackgroundPicture(L"back.jpg"); // not in the device root yet
         QImage image;
-        bench.run(screen, [&] {
-            image = bench.render();
-            screen.endScreen();
-        });
+        bench.visit(screen, [&] { image = bench.render(); });
         QCOMPARE(image.pixelColor(0, 267), QColor(85, 121, 151));
         QCOMPARE(image.pixelColor(239, 0), QColor(114, 150, 180));
         // Band i starts at H * (30 - i) / 30: band 2 begins at row 250, band 1 at row 259.
         QCOMPARE(image.pixelColor(100, 250), QColor(86, 122, 152));
         QCOMPARE(image.pixelColor(100, 259), QColor(85, 121, 151));
-    }
 
-    void aBackgroundPictureIsFoundByItsJoinedName()
-    {
-        ScreenTestBench bench;
         QImage red(240, 268, QImage::Format_RGB32);
         red.fill(QColor(200, 0, 0));
         QVERIFY(red.save(QString::fromStdString((bench.root.path() / "back.jpg").string()), "JPG", 100));
-        ProbeScreen screen(bench.environment, bench.window, 101, QStringLiteral("probe"));
-        screen.setBackgroundPicture(L"back.jpg");
-        QImage image;
-        bench.run(screen, [&] {
-            image = bench.render();
-            screen.endScreen();
-        });
+        bench.visit(screen, [&] { image = bench.render(); });
         const QColor centre = image.pixelColor(120, 134);
         QVERIFY2(centre.red() > 180 && centre.green() < 30, qPrintable(centre.name()));
     }
@@ -208,10 +193,9 @@ private slots:
     {
         ScreenTestBench bench;
         ProbeScreen screen(bench.environment, bench.window, 101, QStringLiteral("probe"));
-        bench.run(screen, [&] {
+        bench.visit(screen, [&] {
             screen.startScreenTimer(1, 10);
             QTRY_VERIFY(screen.ticks >= 2);
-            screen.endScreen();
         });
         const int ticks = screen.ticks;
         QTest::qWait(50);
