@@ -1,45 +1,33 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CityFixture.h"
+#include "CommandResult.h"
 #include "TempDir.h"
-#include "cli/CommandRunner.h"
 #include "device/SystemDeviceClock.h"
 
 #include <gtest/gtest.h>
 
-#include <sstream>
+#include <tuple>
 
 namespace {
-
-struct Result
-{
-    int code;
-    std::string out;
-    std::string err;
-};
 
 // Each test gets a device root with the fixture catalogue and an empty state folder.
 class CityCommands : public ::testing::Test
 {
 protected:
+    // C0000 (home) on +1 with a European rule; C0684 on -5 with a North American one; C0010 on +5:30.
     void SetUp() override
     {
-        // C0000 (home) on +1 with a European rule; C0684 on -5 with a North American one; two cities
-        // that share the name "Twin".
         CityFixture::write(device, {{0, "1;1;88;2;298;3"}, {684, "-5;1;67;2;305;2"}, {10, "530;0;0;0;0;0"}});
     }
 
-    Result run(
+    CommandResult run(
         const std::string& command, const std::vector<std::string>& args, const char* now = "2026-07-13 09:05:00")
     {
         StartOptions options;
-        options.command = command;
-        options.commandArgs = args;
         options.stateDir = state.path();
         options.deviceRoot = device.path();
         options.now = SystemDeviceClock::parseLocalTime(now);
-        std::ostringstream out, err;
-        const int code = RunCommand(options, out, err);
-        return {code, out.str(), err.str()};
+        return CommandResult::of(command, args, options);
     }
 
     TempDir device;
@@ -50,10 +38,10 @@ protected:
 
 TEST_F(CityCommands, CitiesListsTheMatchingCatalogueEntries)
 {
-    const Result all = run("cities", {});
+    const CommandResult all = run("cities", {});
     EXPECT_EQ(all.code, 0);
     EXPECT_EQ(std::count(all.out.begin(), all.out.end(), '\n'), 1000);
-    const Result some = run("cities", {"c068"});
+    const CommandResult some = run("cities", {"c068"});
     EXPECT_EQ(some.out.substr(0, some.out.find('\n')), "680\tC0680\tLand\t2.35\t48.85\t0\t0:0:0:0:0");
     EXPECT_NE(some.out.find("684\tC0684\tLand\t2.35\t48.85\t-5\t1:67:2:305:2\n"), std::string::npos);
     EXPECT_EQ(run("cities", {"nowhere"}).out, "");
@@ -61,11 +49,7 @@ TEST_F(CityCommands, CitiesListsTheMatchingCatalogueEntries)
 
 TEST_F(CityCommands, TimeShowsWhatAWorldClockShows)
 {
-    struct Case
-    {
-        std::vector<std::string> args;
-        std::string out;
-    };
+    using Case = std::tuple<std::vector<std::string>, std::string>;
     const Case cases[] = {
         // Device time is the home city's (+2 in July): GMT 07:05.
         {{"684"}, "684\tC0684\t03:05\t13/7 Done\t-4\t1\t8/3/2026\t1/11/2026\n"},
@@ -74,16 +58,16 @@ TEST_F(CityCommands, TimeShowsWhatAWorldClockShows)
         // A home on GMT moves the device offset: New York is then four hours behind device time.
         {{"684", "--home", "C0001"}, "684\tC0684\t05:05\t13/7 Done\t-4\t1\t8/3/2026\t1/11/2026\n"},
     };
-    for (const Case& c : cases) {
-        const Result result = run("time", c.args);
+    for (const auto& [args, out] : cases) {
+        const CommandResult result = run("time", args);
         EXPECT_EQ(result.code, 0) << result.err;
-        EXPECT_EQ(result.out, c.out);
+        EXPECT_EQ(result.out, out);
     }
 }
 
 TEST_F(CityCommands, CityPrintsTheInformationPanel)
 {
-    const Result result = run("city", {"C0684"}, "2026-01-13 12:00:00");
+    const CommandResult result = run("city", {"C0684"}, "2026-01-13 12:00:00");
     EXPECT_EQ(result.code, 0);
     EXPECT_EQ(result.out,
         "City: C0684\nCountry: Land\nLong/Lat: 2.35/48.85\nDaylight Saving: Not observing now\n"
@@ -92,7 +76,7 @@ TEST_F(CityCommands, CityPrintsTheInformationPanel)
 
 TEST_F(CityCommands, UnknownAndAmbiguousCitiesAreUsageErrors)
 {
-    const Result unknown = run("city", {"C068"});
+    const CommandResult unknown = run("city", {"C068"});
     EXPECT_EQ(unknown.code, 2);
     EXPECT_NE(unknown.err.find("nearest names are: C0680"), std::string::npos) << unknown.err;
     EXPECT_EQ(run("time", {"4000"}).code, 2);
@@ -104,14 +88,11 @@ TEST_F(CityCommands, UnknownAndAmbiguousCitiesAreUsageErrors)
     TempDir twins;
     twins.write("cities.lst", "h\n2\nx;Twin;Alpha;0;0;0;0;0;0;0;0\nx;Twin;Beta;0;0;0;0;0;0;0;0\n");
     StartOptions options;
-    options.command = "city";
-    options.commandArgs = {"twin"};
     options.stateDir = twins.path() / "state";
     options.deviceRoot = twins.path();
-    std::ostringstream out, err;
-    EXPECT_EQ(RunCommand(options, out, err), 2);
-    EXPECT_NE(err.str().find("0 Twin:Alpha"), std::string::npos) << err.str();
-    EXPECT_NE(err.str().find("1 Twin:Beta"), std::string::npos);
-    options.commandArgs = {"Twin:Beta"};
-    EXPECT_EQ(RunCommand(options, out, err), 0);
+    const CommandResult ambiguous = CommandResult::of("city", {"twin"}, options);
+    EXPECT_EQ(ambiguous.code, 2);
+    EXPECT_NE(ambiguous.err.find("0 Twin:Alpha"), std::string::npos) << ambiguous.err;
+    EXPECT_NE(ambiguous.err.find("1 Twin:Beta"), std::string::npos);
+    EXPECT_EQ(CommandResult::of("city", {"Twin:Beta"}, options).code, 0);
 }

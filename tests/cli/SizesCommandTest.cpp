@@ -1,95 +1,60 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "cli/CommandRunner.h"
+#include "CommandResult.h"
+#include "reference/ClothingSizes.h"
+#include "text/StringTable.h"
+#include "text/WideText.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <sstream>
-#include <string>
-#include <vector>
+#include <tuple>
 
 namespace {
 
-struct Result
+// A table as it is drawn: its title, then its four rows (their texts are checked in the reference tests).
+std::string Drawn(int wearer, int garment)
 {
-    int code;
-    std::string out;
-    std::string err;
-};
-
-Result RunSizes(const std::vector<std::string>& args)
-{
-    StartOptions options;
-    options.command = "sizes";
-    options.commandArgs = args;
-    std::ostringstream out, err;
-    const int code = RunCommand(options, out, err);
-    return {code, out.str(), err.str()};
-}
-
-// The title lines of the printed tables: the first line and each line after an empty one.
-std::vector<std::string> Titles(const std::string& out)
-{
-    std::vector<std::string> titles;
-    std::istringstream in(out);
-    bool next = true;
-    for (std::string line; std::getline(in, line);) {
-        if (next)
-            titles.push_back(line);
-        next = line.empty();
-    }
-    return titles;
+    const ClothingSizes::Table* table = ClothingSizes::Find(wearer, garment);
+    std::string text = WideToUtf8(StringTable::Load(table->titleId)) + "\n";
+    for (const std::wstring_view row : table->rows)
+        text += WideToUtf8(row) + "\n";
+    return text;
 }
 
 } // namespace
 
-TEST(SizesCommand, PrintsOneTableAsDrawn)
+TEST(SizesCommand, PrintsEveryMatchingTableAsDrawn)
 {
-    const Result r = RunSizes({"men", "SHOES"});
-    EXPECT_EQ(r.code, 0);
-    EXPECT_EQ(r.out,
-        "Men's Shoes\n"
-        "USA        5     6      7      8      9    10   11   12\n"
-        "Europe  37   38   39.5  41    42   43  44.5 46\n"
-        "UK         4      5     6       7      8     9     10   11\n"
-        "Japan                24.5 25.5 26.5 27.5 28   29\n");
-    EXPECT_EQ(r.err, "");
-}
-
-TEST(SizesCommand, PrintsEveryMatchingTable)
-{
-    using Lines = std::vector<std::string>;
-    struct Case
-    {
-        Lines args;
-        Lines titles;
-    };
+    // The arguments, and the wearer and garment of each table printed.
+    using Case = std::tuple<std::vector<std::string>, std::vector<std::pair<int, int>>>;
     const Case cases[] = {
-        {{"Children"}, {"Children's Clothing", "Children's Shoes", "Children's Trousers"}},
-        {{"women", "Shirts and Sweaters"}, {"W's Blouses/Sweaters"}},
+        {{"men", "SHOES"}, {{0, 1}}},
+        {{"Children"}, {{2, 0}, {2, 1}, {2, 2}}},
+        {{"women", "Shirts and Sweaters"}, {{1, 2}}},
         // A garment of several words may also come as separate words.
-        {{"MEN", "shirts", "and", "sweaters"}, {"Men's Shirts"}},
+        {{"MEN", "shirts", "and", "sweaters"}, {{0, 0}}},
     };
-    for (const Case& c : cases) {
-        const Result r = RunSizes(c.args);
-        EXPECT_EQ(r.code, 0) << c.args.front();
-        EXPECT_EQ(Titles(r.out), c.titles) << c.args.front();
+    for (const auto& [args, tables] : cases) {
+        std::string expected;
+        for (const auto& [wearer, garment] : tables)
+            expected += (expected.empty() ? "" : "\n") + Drawn(wearer, garment);
+        const CommandResult r = CommandResult::of("sizes", args);
+        EXPECT_EQ(r.code, 0) << args.front();
+        EXPECT_EQ(r.out, expected);
+        EXPECT_EQ(r.err, "");
     }
 
-    const Result all = RunSizes({});
+    const CommandResult all = CommandResult::of("sizes", {});
     EXPECT_EQ(all.code, 0);
-    EXPECT_EQ(Titles(all.out).size(), 12u);
+    EXPECT_TRUE(all.out.starts_with(Drawn(0, 0) + "\n"));
     // Title, four rows and the separating empty line per table, no separator after the last.
     EXPECT_EQ(std::ranges::count(all.out, '\n'), 12 * 6 - 1);
 }
 
 TEST(SizesCommand, RejectsUnknownNamesAndOptions)
 {
-    struct Case
-    {
-        std::vector<std::string> args;
-        std::string error; // part of the message
-    };
+    // The arguments, and part of the message.
+    using Case = std::tuple<std::vector<std::string>, std::string>;
     const Case cases[] = {
         {{"kids"}, "unknown wearer \"kids\"; choose one of: Men, Women, Children"},
         {{"men", "bras"}, "unknown garment \"bras\"; choose one of: Shirts and Sweaters, Shoes, Suits, Trousers"},
@@ -97,10 +62,10 @@ TEST(SizesCommand, RejectsUnknownNamesAndOptions)
         {{"--wide"}, "unknown option --wide"},
         {{"men", "-x"}, "unknown option -x"},
     };
-    for (const Case& c : cases) {
-        const Result r = RunSizes(c.args);
-        EXPECT_EQ(r.code, 2) << c.error;
-        EXPECT_EQ(r.out, "") << c.error;
-        EXPECT_NE(r.err.find(c.error), std::string::npos) << r.err;
+    for (const auto& [args, error] : cases) {
+        const CommandResult r = CommandResult::of("sizes", args);
+        EXPECT_EQ(r.code, 2) << error;
+        EXPECT_EQ(r.out, "") << error;
+        EXPECT_NE(r.err.find(error), std::string::npos) << r.err;
     }
 }

@@ -3,14 +3,13 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 TEST(DevicePaths, MapsHandheldPathsIntoTheRoot)
 {
     const DevicePaths paths("/root/device");
-    struct Case
-    {
-        std::wstring_view device;
-        const char* host; // nullptr: refused
-    };
+    // The host path, or nullptr where the path is refused.
+    using Case = std::tuple<std::wstring_view, const char*>;
     const Case cases[] = {
         {L"\\cities.lst", "/root/device/cities.lst"},
         {L"\\weatcs\\United Kingdom", "/root/device/weatcs/United Kingdom"},
@@ -22,20 +21,11 @@ TEST(DevicePaths, MapsHandheldPathsIntoTheRoot)
         {L"\\.\\cities.lst", nullptr},
         {L"\\a/b", nullptr},
     };
-    for (const Case& c : cases) {
-        const auto host = paths.hostPath(c.device);
-        if (c.host == nullptr)
-            EXPECT_FALSE(host.has_value()) << std::string(c.device.begin(), c.device.end());
+    for (const auto& [device, host] : cases) {
+        const auto mapped = paths.hostPath(device);
+        if (host == nullptr)
+            EXPECT_FALSE(mapped.has_value()) << std::string(device.begin(), device.end());
         else
-            EXPECT_EQ(host, std::filesystem::path(c.host)) << std::string(c.device.begin(), c.device.end());
+            EXPECT_EQ(mapped, std::filesystem::path(host)) << std::string(device.begin(), device.end());
     }
-}
-
-TEST(DevicePaths, ProgramPathRules)
-{
-    // The program is "\Wanderkit.exe": its folder is empty, so every rule lands in the root.
-    EXPECT_EQ(DevicePaths::programFolder(), L"");
-    EXPECT_EQ(DevicePaths::besideProgram(L"\\cities.lst"), L"\\cities.lst");
-    EXPECT_EQ(DevicePaths::joinedName(L"bconv.jpg"), L"bconv.jpg");
-    EXPECT_EQ(DevicePaths::programPathToFirstBackslash(), L"");
 }

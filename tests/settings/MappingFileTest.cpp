@@ -6,14 +6,11 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 TEST(MappingFile, ReadsWordsUpToTheEndMarker)
 {
-    struct Case
-    {
-        const char* what;
-        std::string file;
-        std::wstring mapping;
-    };
+    using Case = std::tuple<const char*, std::string, std::wstring>;
     const Case cases[] = {
         {"words up to the word with '>'", "01=sun 02=cloud\n03=rain >end 04=snow\n", L"01=sun;02=cloud;03=rain;"},
         {"'>' inside a word ends it too", "a b>c d", L"a;"},
@@ -23,13 +20,13 @@ TEST(MappingFile, ReadsWordsUpToTheEndMarker)
         {"'>' first", "> a", L""},
         {"bytes above 127 are Latin-1", "\xE9t\xE9 >", L"\u00E9t\u00E9;"},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
+    for (const auto& [what, file, mapping] : cases) {
+        SCOPED_TRACE(what);
         TempDir dir;
-        dir.write("mapping.cfg", c.file);
+        dir.write("mapping.cfg", file);
         auto hive = SettingsHive::openInMemory();
         RegistrySettings settings(*hive);
-        EXPECT_EQ(ReadMappingText(settings, DevicePaths(dir.path())), c.mapping);
+        EXPECT_EQ(ReadMappingText(settings, DevicePaths(dir.path())), mapping);
     }
 }
 

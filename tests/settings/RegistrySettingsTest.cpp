@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settings/RegistrySettings.h"
 
-#include "support/RecordingMessageSink.h"
-#include "support/TempDir.h"
 #include "text/WideText.h"
 
 #include <gtest/gtest.h>
+
+#include <tuple>
 
 namespace {
 
@@ -25,13 +25,7 @@ TEST(RegistrySettings, StatusOfEachRead)
     h.settings.SetDWORD(L"Wanderkit\\measurs", L"twenty_characters_xx", 20);
     h.settings.SetDWORD(L"Wanderkit\\measurs", L"twenty_one_characters", 21);
 
-    struct Case
-    {
-        const wchar_t* subkey;
-        const wchar_t* name;
-        std::int32_t status;
-        std::uint32_t value;
-    };
+    using Case = std::tuple<const wchar_t*, const wchar_t*, std::int32_t, std::uint32_t>;
     const Case cases[] = {
         {L"Wanderkit\\wrldclk", L"clock1", 0, 684}, {L"WANDERKIT\\WrldClk", L"clock1", 0, 684}, // key paths ignore case
         {L"Wanderkit\\wrldclk", L"Clock1", -1, 0}, // value names do not
@@ -42,24 +36,19 @@ TEST(RegistrySettings, StatusOfEachRead)
         {L"Wanderkit\\measurs", L"twenty_one_characters", -1, 0}, // longer than 20: never found
         {L"", L"clock1", -1, 0}, // the root key always exists
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(testing::Message() << WideToUtf8(c.subkey) << " " << WideToUtf8(c.name));
-        EXPECT_EQ(h.settings.GetDWORD(c.subkey, c.name), c.value);
-        EXPECT_EQ(h.settings.Status(), c.status);
-        h.settings.GetString(c.subkey, c.name);
-        EXPECT_EQ(h.settings.Status(), c.status) << "GetString reports the same status";
+    for (const auto& [subkey, name, status, value] : cases) {
+        SCOPED_TRACE(testing::Message() << WideToUtf8(subkey) << " " << WideToUtf8(name));
+        EXPECT_EQ(h.settings.GetDWORD(subkey, name), value);
+        EXPECT_EQ(h.settings.Status(), status);
+        h.settings.GetString(subkey, name);
+        EXPECT_EQ(h.settings.Status(), status) << "GetString reports the same status";
     }
 }
 
 TEST(RegistrySettings, StoredForms)
 {
     Hive h;
-    struct Case
-    {
-        const char* what;
-        std::wstring text;
-        std::vector<std::uint8_t> bytes;
-    };
+    using Case = std::tuple<const char*, std::wstring, std::vector<std::uint8_t>>;
     const Case strings[] = {
         {"two bytes a character, no terminator", L"\\wiconset\\",
             {'\\', 0, 'w', 0, 'i', 0, 'c', 0, 'o', 0, 'n', 0, 's', 0, 'e', 0, 't', 0, '\\', 0}},
@@ -67,14 +56,14 @@ TEST(RegistrySettings, StoredForms)
         {"Latin-1 and beyond", L"\u00E9\u20AC", {0xE9, 0x00, 0xAC, 0x20}},
         {"outside the basic plane: a surrogate pair", L"\U0001F30D", {0x3C, 0xD8, 0x0D, 0xDF}},
     };
-    for (const Case& c : strings) {
-        SCOPED_TRACE(c.what);
-        h.settings.SetString(L"Wanderkit\\weather", L"icondir", c.text);
+    for (const auto& [what, text, bytes] : strings) {
+        SCOPED_TRACE(what);
+        h.settings.SetString(L"Wanderkit\\weather", L"icondir", text);
         const auto stored = h.hive->value(L"Wanderkit\\weather", L"icondir");
         ASSERT_TRUE(stored);
         EXPECT_EQ(stored->type, RegistryType::String);
-        EXPECT_EQ(stored->data, c.bytes);
-        EXPECT_EQ(h.settings.GetString(L"Wanderkit\\weather", L"icondir"), c.text);
+        EXPECT_EQ(stored->data, bytes);
+        EXPECT_EQ(h.settings.GetString(L"Wanderkit\\weather", L"icondir"), text);
     }
 
     h.settings.SetDWORD(L"Wanderkit", L"twelvehour", 0x01020304);
@@ -95,27 +84,4 @@ TEST(RegistrySettings, StoredForms)
     // A value keeps its name's case and its latest type.
     h.settings.SetString(L"WANDERKIT", L"twelvehour", L"1");
     EXPECT_EQ(h.hive->value(L"Wanderkit", L"twelvehour")->type, RegistryType::String);
-}
-
-TEST(RegistrySettings, SettingsSurviveARestart)
-{
-    TempDir dir;
-    RecordingMessageSink messages;
-    {
-        auto hive = SettingsHive::open(dir.path() / "registry.db", messages);
-        RegistrySettings settings(*hive);
-        settings.SetDWORD(L"Wanderkit\\currencies", L"curp", 61);
-        settings.SetString(L"Wanderkit\\currencies", L"curval", L"12.5");
-    }
-    auto hive = SettingsHive::open(dir.path() / "registry.db", messages);
-    RegistrySettings settings(*hive);
-    EXPECT_EQ(settings.GetDWORD(L"Wanderkit\\currencies", L"curp"), 61u);
-    EXPECT_EQ(settings.GetString(L"Wanderkit\\currencies", L"curval"), L"12.5");
-
-    // Another accessor on another connection (the command line, say) reads the same values.
-    auto other = SettingsHive::open(dir.path() / "registry.db", messages);
-    RegistrySettings reader(*other);
-    settings.SetDWORD(L"Wanderkit\\currencies", L"curp", 62);
-    EXPECT_EQ(reader.GetDWORD(L"Wanderkit\\currencies", L"curp"), 62u);
-    EXPECT_TRUE(messages.messages.empty());
 }

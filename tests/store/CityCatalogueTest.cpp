@@ -1,28 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "store/CityCatalogue.h"
 
-#include "support/RecordingMessageSink.h"
-#include "support/TempDir.h"
+#include "support/TestDevice.h"
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace {
 
-// A device root holding `citiesFile` as "\cities.lst", and an object store in memory.
-struct Device
+// A device root holding `citiesFile` as "\cities.lst".
+struct Device : TestDevice
 {
-    explicit Device(const std::string& citiesFile)
-        : paths(dir.path())
-    {
-        dir.write("cities.lst", citiesFile);
-    }
+    explicit Device(const std::string& citiesFile) { dir.write("cities.lst", citiesFile); }
 
     CityCatalogue catalogue() { return CityCatalogue(*store, paths, messages); }
-
-    TempDir dir;
-    DevicePaths paths;
-    RecordingMessageSink messages;
-    std::unique_ptr<ObjectStore> store = ObjectStore::openInMemory();
 };
 
 std::vector<std::wstring> citiesCountriesAndCoordinates(CityCatalogue& catalogue)
@@ -44,12 +36,8 @@ TEST(CityCatalogue, LoadsTheCitiesFile)
     const std::string paris = "2;Paris;France;2.3;48.8;1;a;b;c;d;e\n";
     const std::string texas = "3;Paris;Texas;-95.5;33.6;-6;a;b;c;d;e\n";
     const std::string secondRome = "4;Rome;Italy;0;0;0;a;b;c;d;e\n";
-    struct Case
-    {
-        const char* what;
-        std::string afterHeader;
-        std::vector<std::wstring> cities; // "city|country|coordinate 1" in catalogue order
-    };
+    // The cities as "city|country|coordinate 1" in catalogue order.
+    using Case = std::tuple<const char*, std::string, std::vector<std::wstring>>;
     const Case cases[] = {
         {"sorted by city and country", "3\n" + rome + paris + texas,
             {L"Paris|France|2.3", L"Paris|Texas|-95.5", L"Rome|Italy|12.5"}},
@@ -67,12 +55,12 @@ TEST(CityCatalogue, LoadsTheCitiesFile)
         {"a negative count", "-4\n" + rome, {}},
         {"bytes above 127 are Latin-1", "1\n1;Z\xFCrich;Schweiz;1;1;1;a;b;c;d;e\n", {L"Z\u00FCrich|Schweiz|1"}},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
-        Device device(Header + c.afterHeader);
+    for (const auto& [what, afterHeader, cities] : cases) {
+        SCOPED_TRACE(what);
+        Device device(Header + afterHeader);
         auto catalogue = device.catalogue();
         catalogue.Load();
-        EXPECT_EQ(citiesCountriesAndCoordinates(catalogue), c.cities);
+        EXPECT_EQ(citiesCountriesAndCoordinates(catalogue), cities);
         EXPECT_TRUE(device.messages.messages.empty());
     }
 }
@@ -90,12 +78,9 @@ TEST(CityCatalogue, BuildsEachPropertyFromItsFields)
     const CityRecord adelaide = catalogue.Record(0);
     EXPECT_EQ(adelaide,
         (CityRecord {L"Adelaide", L"Australia", L"138.6", L"-34.9", L"930", L"1:0:10:2:4:0:4:3:60:x:rest;of;line\r"}));
-    EXPECT_EQ(catalogue.CityName(0), adelaide.name);
-    EXPECT_EQ(catalogue.Country(0), adelaide.country);
-    EXPECT_EQ(catalogue.Coordinate1(0), adelaide.coordinate1);
-    EXPECT_EQ(catalogue.Coordinate2(0), adelaide.coordinate2);
-    EXPECT_EQ(catalogue.TimeZoneText(0), adelaide.timeZone);
-    EXPECT_EQ(catalogue.DaylightRuleText(0), adelaide.daylightRule);
+    EXPECT_EQ((CityRecord {catalogue.CityName(0), catalogue.Country(0), catalogue.Coordinate1(0),
+                  catalogue.Coordinate2(0), catalogue.TimeZoneText(0), catalogue.DaylightRuleText(0)}),
+        adelaide);
 
     // Empty fields are skipped by the reader: Lima's rule fields run on into the end of the file.
     EXPECT_EQ(catalogue.TimeZoneText(1), L"-5");
@@ -106,33 +91,28 @@ TEST(CityCatalogue, BuildsEachPropertyFromItsFields)
 
 TEST(CityCatalogue, IsFilledOncePerDevice)
 {
-    TempDir dir;
-    const DevicePaths paths(dir.path());
-    RecordingMessageSink messages;
-    auto store = ObjectStore::openInMemory();
-
     // No file: the message, and an empty catalogue that a later start fills.
-    CityCatalogue first(*store, paths, messages);
+    TestDevice device;
+    CityCatalogue first(*device.store, device.paths, device.messages);
     first.Load();
-    ASSERT_EQ(messages.messages.size(), 1u);
-    EXPECT_EQ(messages.messages[0].text, L"Initial Cities File not found!");
-    EXPECT_EQ(messages.messages[0].caption, L"Wanderkit");
+    const std::vector<RecordingMessageSink::Message> notFound {{L"Initial Cities File not found!", L"Wanderkit"}};
+    EXPECT_EQ(device.messages.messages, notFound);
     EXPECT_EQ(first.Count(), 0);
 
-    dir.write("cities.lst", Header + "1\n1;Rome;Italy;1;1;1;a;b;c;d;e\n");
-    CityCatalogue second(*store, paths, messages);
+    device.dir.write("cities.lst", Header + "1\n1;Rome;Italy;1;1;1;a;b;c;d;e\n");
+    CityCatalogue second(*device.store, device.paths, device.messages);
     second.Load();
     EXPECT_EQ(second.Count(), 1);
     EXPECT_EQ(first.Count(), 1) << "another catalogue object sees the filled database";
 
     // Filled is permanent: a changed or missing file is not read again.
-    dir.write("cities.lst", Header + "1\n1;Oslo;Norway;1;1;1;a;b;c;d;e\n");
-    CityCatalogue third(*store, paths, messages);
+    device.dir.write("cities.lst", Header + "1\n1;Oslo;Norway;1;1;1;a;b;c;d;e\n");
+    CityCatalogue third(*device.store, device.paths, device.messages);
     third.Load();
     EXPECT_EQ(third.CityName(0), L"Rome");
-    std::filesystem::remove(dir.path() / "cities.lst");
-    CityCatalogue fourth(*store, paths, messages);
+    std::filesystem::remove(device.dir.path() / "cities.lst");
+    CityCatalogue fourth(*device.store, device.paths, device.messages);
     fourth.Load();
     EXPECT_EQ(fourth.Count(), 1);
-    EXPECT_EQ(messages.messages.size(), 1u);
+    EXPECT_EQ(device.messages.messages, notFound);
 }

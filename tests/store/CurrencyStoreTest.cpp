@@ -1,20 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "store/CurrencyStore.h"
 
-#include "device/DevicePaths.h"
-#include "support/RecordingMessageSink.h"
-#include "support/TempDir.h"
+#include "support/TestDevice.h"
 
 #include <gtest/gtest.h>
 
-namespace {
+#include <tuple>
 
-InitialCurrencyList readFile(const std::string& bytes, RecordingMessageSink& messages)
-{
-    TempDir dir;
-    dir.write("currs.lst", bytes);
-    return ReadInitialCurrencies(DevicePaths(dir.path()), messages);
-}
+namespace {
 
 InitialCurrencyList listOf(std::vector<CurrencyEntry> entries)
 {
@@ -37,14 +30,7 @@ std::vector<std::wstring> codes(CurrencyStore& store)
 
 TEST(InitialCurrencyList, ReadsTheCurrencyFile)
 {
-    struct Case
-    {
-        const char* what;
-        std::string file;
-        std::int32_t count;
-        std::vector<CurrencyEntry> entries;
-        std::int32_t size;
-    };
+    using Case = std::tuple<const char*, std::string, std::int32_t, std::vector<CurrencyEntry>, std::int32_t>;
     const Case cases[] = {
         {"records end to end", "2\r\nUSD_US Dollar_1.0#EUR_Euro_0.92#", 2,
             {{L"USD", L"US Dollar", L"1.0"}, {L"EUR", L"Euro", L"0.92"}}, 2},
@@ -62,29 +48,28 @@ TEST(InitialCurrencyList, ReadsTheCurrencyFile)
             "slensk kr\xF3na_0.007#",
             1, {{L"ISK", L"\u00CDslensk kr\u00F3na", L"0.007"}}, 1},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
-        RecordingMessageSink messages;
-        const InitialCurrencyList list = readFile(c.file, messages);
+    for (const auto& [what, file, count, entries, size] : cases) {
+        SCOPED_TRACE(what);
+        TestDevice device;
+        device.dir.write("currs.lst", file);
+        const InitialCurrencyList list = ReadInitialCurrencies(device.paths, device.messages);
         EXPECT_TRUE(list.fromFile);
-        EXPECT_EQ(list.count, c.count);
-        EXPECT_EQ(list.entries, c.entries);
-        EXPECT_EQ(list.size(), c.size);
-        EXPECT_TRUE(messages.messages.empty());
+        EXPECT_EQ(list.count, count);
+        EXPECT_EQ(list.entries, entries);
+        EXPECT_EQ(list.size(), size);
+        EXPECT_TRUE(device.messages.messages.empty());
     }
 }
 
 TEST(InitialCurrencyList, MissingFileKeepsThePresetCount)
 {
-    TempDir dir;
-    RecordingMessageSink messages;
-    const InitialCurrencyList list = ReadInitialCurrencies(DevicePaths(dir.path()), messages);
+    TestDevice device;
+    const InitialCurrencyList list = ReadInitialCurrencies(device.paths, device.messages);
     EXPECT_FALSE(list.fromFile);
     EXPECT_EQ(list.count, 189);
     EXPECT_EQ(list.size(), 0);
-    ASSERT_EQ(messages.messages.size(), 1u);
-    EXPECT_EQ(messages.messages[0].text, L"Initial Currencies File not found!");
-    EXPECT_EQ(messages.messages[0].caption, L"Wanderkit");
+    EXPECT_EQ(device.messages.messages,
+        (std::vector<RecordingMessageSink::Message> {{L"Initial Currencies File not found!", L"Wanderkit"}}));
 }
 
 TEST(CurrencyStore, FirstLoadCopiesTheListInNameOrder)
@@ -114,13 +99,7 @@ TEST(CurrencyStore, FirstLoadCopiesTheListInNameOrder)
 
 TEST(CurrencyStore, EmptyAndShortLists)
 {
-    struct Case
-    {
-        const char* what;
-        InitialCurrencyList list;
-        std::int32_t count;
-        std::vector<std::wstring> codes;
-    };
+    using Case = std::tuple<const char*, InitialCurrencyList, std::int32_t, std::vector<std::wstring>>;
     InitialCurrencyList missingFile; // count 189, no entries
     InitialCurrencyList shortFile = listOf({{L"USD", L"Dollar", L"1"}});
     shortFile.count = 2147483647;
@@ -129,13 +108,13 @@ TEST(CurrencyStore, EmptyAndShortLists)
         {"count past the end: one empty currency", shortFile, 2147483647, {L"", L"USD"}},
         {"count 0", listOf({}), 0, {}},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
+    for (const auto& [what, list, count, expected] : cases) {
+        SCOPED_TRACE(what);
         auto objects = ObjectStore::openInMemory();
         CurrencyStore store(*objects);
-        store.SetInitialList(c.list);
-        EXPECT_EQ(store.Load(), c.count);
-        EXPECT_EQ(codes(store), c.codes);
+        store.SetInitialList(list);
+        EXPECT_EQ(store.Load(), count);
+        EXPECT_EQ(codes(store), expected);
     }
 
     // An empty store is filled at the next load that has currencies.
@@ -169,13 +148,7 @@ TEST(CurrencyStore, UpdatesAndDeletes)
 
 TEST(CurrencyStore, LastUpdateDate)
 {
-    struct Case
-    {
-        const char* what;
-        std::uint64_t fileTime;
-        int currentYear;
-        std::optional<SystemTime> date;
-    };
+    using Case = std::tuple<const char*, std::uint64_t, int, std::optional<SystemTime>>;
     const Case cases[] = {
         {"zero is never", 0, 2026, std::nullopt},
         {"1 January 1601", 1, 2026, std::nullopt},
@@ -187,8 +160,8 @@ TEST(CurrencyStore, LastUpdateDate)
         {"the current year counts", 133536879302500000ULL, 2024, SystemTime {2024, 2, 4, 29, 13, 45, 30, 250}},
         {"beyond FILETIME's range", 0x8000000000000000ULL, 30000, std::nullopt},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
-        EXPECT_EQ(CurrencyStore::LastUpdateDate(c.fileTime, c.currentYear), c.date);
+    for (const auto& [what, fileTime, currentYear, date] : cases) {
+        SCOPED_TRACE(what);
+        EXPECT_EQ(CurrencyStore::LastUpdateDate(fileTime, currentYear), date);
     }
 }

@@ -3,17 +3,13 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
 #include <vector>
 
 TEST(DelimitedFieldReader, ReadsFieldsAsTheDataFilesNeedThem)
 {
-    struct Case
-    {
-        const char* what;
-        std::string bytes;
-        std::string delimiters; // one read per character
-        std::vector<std::wstring> fields;
-    };
+    // One read per delimiter character.
+    using Case = std::tuple<const char*, std::string, std::string, std::vector<std::wstring>>;
     const Case cases[] = {
         {"fields up to each delimiter", "2\nUSD_Dollar_1.0#", "\n__#", {L"2", L"USD", L"Dollar", L"1.0"}},
         {"a delimiter met first is skipped", ";;a;b", ";;", {L"a", L"b"}},
@@ -24,13 +20,13 @@ TEST(DelimitedFieldReader, ReadsFieldsAsTheDataFilesNeedThem)
         {"bytes above 127 are Latin-1", "Z\xFCrich\xB0;\xFF", ";;", {L"Z\u00FCrich\u00B0", L"\u00FF"}},
         {"a null byte is a character", std::string("a\0b;", 4), ";", {std::wstring(L"a\0b", 3)}},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
-        DelimitedFieldReader reader(c.bytes);
+    for (const auto& [what, bytes, delimiters, expected] : cases) {
+        SCOPED_TRACE(what);
+        DelimitedFieldReader reader(bytes);
         std::vector<std::wstring> fields;
-        for (const char delimiter : c.delimiters)
+        for (const char delimiter : delimiters)
             fields.push_back(reader.read(delimiter));
-        EXPECT_EQ(fields, c.fields);
+        EXPECT_EQ(fields, expected);
     }
 }
 

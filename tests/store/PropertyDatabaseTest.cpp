@@ -8,6 +8,7 @@
 
 #include <array>
 #include <thread>
+#include <tuple>
 
 namespace {
 
@@ -41,13 +42,8 @@ std::vector<std::wstring> column(PropertyDatabase& database, PropertyId id)
 
 TEST(PropertyDatabase, TraversesInTheFirstSortOrder)
 {
-    struct Case
-    {
-        const char* what;
-        int sortMode;
-        std::vector<std::array<std::wstring, 2>> added; // key, other
-        std::vector<std::wstring> expectedOthers; // in traversal order
-    };
+    // Records added as (key, other), and their "other" texts in traversal order.
+    using Case = std::tuple<const char*, int, std::vector<std::array<std::wstring, 2>>, std::vector<std::wstring>>;
     const Case cases[] = {
         {"character codes, capitals first", 1, {{L"b", L"1"}, {L"B", L"2"}, {L"a", L"3"}, {L"A", L"4"}},
             {L"4", L"2", L"3", L"1"}},
@@ -61,13 +57,13 @@ TEST(PropertyDatabase, TraversesInTheFirstSortOrder)
             {L"3", L"2", L"1"}},
         {"empty keys first", 1, {{L"a", L"1"}, {L"", L"2"}}, {L"2", L"1"}},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
+    for (const auto& [what, sortMode, added, expectedOthers] : cases) {
+        SCOPED_TRACE(what);
         auto store = ObjectStore::openInMemory();
-        auto database = created(*store, c.sortMode);
-        for (const auto& [key, other] : c.added)
+        auto database = created(*store, sortMode);
+        for (const auto& [key, other] : added)
             EXPECT_TRUE(database.Add(record(key, other), PropertyDatabase::NoKey));
-        EXPECT_EQ(column(database, Other), c.expectedOthers);
+        EXPECT_EQ(column(database, Other), expectedOthers);
     }
 }
 
@@ -93,14 +89,7 @@ TEST(PropertyDatabase, OpensInAnotherSortOrder)
 
 TEST(PropertyDatabase, FirstRecordWithAKeyWins)
 {
-    struct Case
-    {
-        const char* what;
-        int sortMode;
-        int keyIndex;
-        std::array<std::wstring, 2> second;
-        bool written;
-    };
+    using Case = std::tuple<const char*, int, int, std::array<std::wstring, 2>, bool>;
     const Case cases[] = {
         {"same key", 1, 0, {L"Euro", L"other"}, false},
         {"key differing in case, case-sensitive order", 1, 0, {L"euro", L"x"}, true},
@@ -108,13 +97,13 @@ TEST(PropertyDatabase, FirstRecordWithAKeyWins)
         {"key on the second property", 1, 1, {L"Dollar", L"1.5"}, false},
         {"no key: duplicates are written", 1, PropertyDatabase::NoKey, {L"Euro", L"1.5"}, true},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
+    for (const auto& [what, sortMode, keyIndex, second, written] : cases) {
+        SCOPED_TRACE(what);
         auto store = ObjectStore::openInMemory();
-        auto database = created(*store, c.sortMode);
-        ASSERT_TRUE(database.Add(record(L"Euro", L"1.5"), c.keyIndex));
-        EXPECT_EQ(database.Add(record(c.second[0], c.second[1]), c.keyIndex), c.written);
-        EXPECT_EQ(database.RecordCount(), c.written ? 2 : 1);
+        auto database = created(*store, sortMode);
+        ASSERT_TRUE(database.Add(record(L"Euro", L"1.5"), keyIndex));
+        EXPECT_EQ(database.Add(record(second[0], second[1]), keyIndex), written);
+        EXPECT_EQ(database.RecordCount(), written ? 2 : 1);
         EXPECT_EQ(database.ReadAt(0, Other), L"1.5") << "the first record is left as it was";
     }
 }

@@ -2,9 +2,6 @@
 // The shipped device root, read with the program's own readers.
 #include "RecordingMessageSink.h"
 #include "device/DevicePaths.h"
-#include "settings/MappingFile.h"
-#include "settings/RegistrySettings.h"
-#include "settings/SettingsHive.h"
 #include "store/CityCatalogue.h"
 #include "store/CountryCityList.h"
 #include "store/CurrencyStore.h"
@@ -53,18 +50,10 @@ TEST_F(ShippedData, TheCatalogueHoldsEveryCityAndTheDefaultClocksLandOnRealCitie
     EXPECT_EQ(cities.Count(), cityFileCount());
     EXPECT_GE(cities.Count(), 1050);
     EXPECT_LE(cities.Count(), 1150);
-    const std::pair<std::uint32_t, const wchar_t*> clocks[] = {
-        {565, L"London:United Kingdom"}, {684, L"New York:United States"}, {756, L"Paris:France"},
-        {988, L"Tokyo:Japan"}};
+    const std::pair<std::uint32_t, const wchar_t*> clocks[] = {{565, L"London:United Kingdom"},
+        {684, L"New York:United States"}, {756, L"Paris:France"}, {988, L"Tokyo:Japan"}};
     for (const auto& [position, name] : clocks)
         EXPECT_EQ(cities.CityName(position) + L":" + cities.Country(position), name) << position;
-}
-
-TEST_F(ShippedData, TheCityFileIsSevenBitAscii)
-{
-    const std::string bytes = fileBytes("cities.lst");
-    ASSERT_FALSE(bytes.empty());
-    EXPECT_EQ(std::count_if(bytes.begin(), bytes.end(), [](char c) { return static_cast<unsigned char>(c) > 127; }), 0);
 }
 
 TEST_F(ShippedData, EveryCityIsInItsCountrysWeatherList)
@@ -93,8 +82,8 @@ TEST_F(ShippedData, CurrenciesLandOnTheConverterDefaults)
     store.SetInitialList(list);
     store.Load();
     EXPECT_EQ(store.RecordCount(), 189);
-    const std::tuple<std::uint32_t, const wchar_t*, const wchar_t*> defaults[] = {
-        {61, L"EUR", L"Euro"}, {180, L"USD", L"US Dollar"}, {27, L"GBP", L"British Pound"}};
+    const std::tuple<std::uint32_t, const wchar_t*, const wchar_t*> defaults[]
+        = {{61, L"EUR", L"Euro"}, {180, L"USD", L"US Dollar"}, {27, L"GBP", L"British Pound"}};
     for (const auto& [position, code, name] : defaults) {
         EXPECT_EQ(store.Code(position), code);
         EXPECT_EQ(store.Name(position), name);
@@ -116,38 +105,10 @@ TEST_F(ShippedData, FavouritesAreCatalogueCitiesWithTheirCodes)
     for (std::uint32_t i = 0; i < favourites.count(); ++i) {
         const std::wstring name = favourites.getName(i);
         names.insert(name);
-        EXPECT_EQ(CountryCityList::read(paths, favourites.getCountryFile(i)).codeOf(name),
-            favourites.getLocationCode(i))
+        EXPECT_EQ(
+            CountryCityList::read(paths, favourites.getCountryFile(i)).codeOf(name), favourites.getLocationCode(i))
             << WideToUtf8(name);
     }
     for (const wchar_t* city : {L"London", L"New York", L"Paris", L"Tokyo"})
         EXPECT_TRUE(names.contains(city)) << WideToUtf8(city);
-}
-
-TEST_F(ShippedData, EveryForecastCodeFindsItsIcon)
-{
-    auto hive = SettingsHive::openInMemory();
-    RegistrySettings settings(*hive);
-    const std::wstring mapping = ReadMappingText(settings, paths);
-    ASSERT_FALSE(mapping.empty());
-    const auto iconFor = [&mapping](const std::wstring& code) {
-        // The first entry that contains the code anywhere names the icon.
-        std::size_t start = 0;
-        while (start < mapping.size()) {
-            const std::size_t end = mapping.find(L';', start);
-            const std::wstring entry = mapping.substr(start, end - start);
-            if (entry.find(code) != std::wstring::npos)
-                return std::wstring(BeforeFirst(entry, L'@'));
-            start = end + 1;
-        }
-        return std::wstring(L"na");
-    };
-    for (const int wmo : {0, 1, 2, 3, 45, 48, 51, 53, 55, 56, 57, 61, 63, 65, 66, 67, 71, 73, 75, 77, 80, 81, 82, 85,
-             86, 95, 96, 99}) {
-        const std::wstring code = FormatText(L"%02d", wmo);
-        const std::wstring icon = iconFor(code);
-        EXPECT_NE(icon, L"na") << wmo;
-        EXPECT_TRUE(std::filesystem::exists(paths.root() / "wiconset" / (WideToUtf8(icon) + ".bmp"))) << wmo;
-    }
-    EXPECT_TRUE(std::filesystem::exists(paths.root() / "wiconset" / "na.bmp"));
 }

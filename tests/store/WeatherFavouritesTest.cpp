@@ -1,25 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "store/WeatherFavourites.h"
 
-#include "device/DevicePaths.h"
-#include "support/RecordingMessageSink.h"
-#include "support/TempDir.h"
+#include "support/TestDevice.h"
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace {
 
-struct Device
+struct Device : TestDevice
 {
     Device() = default;
     explicit Device(const std::string& favouritesFile) { dir.write("cities.wet", favouritesFile); }
 
     WeatherFavourites favourites() { return WeatherFavourites(*store, paths, messages); }
-
-    TempDir dir;
-    DevicePaths paths {dir.path()};
-    RecordingMessageSink messages;
-    std::unique_ptr<ObjectStore> store = ObjectStore::openInMemory();
 };
 
 // "name|code|forecast|last update|country file" for every favourite, in store order.
@@ -36,12 +31,7 @@ std::vector<std::wstring> contents(WeatherFavourites& favourites)
 
 TEST(WeatherFavourites, LoadsTheFavouritesFile)
 {
-    struct Case
-    {
-        const char* what;
-        std::string file;
-        std::vector<std::wstring> rows;
-    };
+    using Case = std::tuple<const char*, std::string, std::vector<std::wstring>>;
     const Case cases[] = {
         {"one record per line, in name order", "2\nItaly;Rome;ITXX0067\nFrance;Paris;FRXX0076\n",
             {L"Paris|FRXX0076||01/01/2000|France", L"Rome|ITXX0067||01/01/2000|Italy"}},
@@ -60,12 +50,12 @@ TEST(WeatherFavourites, LoadsTheFavouritesFile)
         {"bytes above 127 are Latin-1", "1\nDeutschland;K\xF6ln;GMXX0018\n",
             {L"K\u00F6ln|GMXX0018||01/01/2000|Deutschland"}},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
-        Device device(c.file);
+    for (const auto& [what, file, rows] : cases) {
+        SCOPED_TRACE(what);
+        Device device(file);
         auto favourites = device.favourites();
         favourites.loadFavouritesOnce();
-        EXPECT_EQ(contents(favourites), c.rows);
+        EXPECT_EQ(contents(favourites), rows);
         EXPECT_TRUE(device.messages.messages.empty());
     }
 }
@@ -78,25 +68,22 @@ TEST(WeatherFavourites, AHugeCountStopsAtWhatADatabaseCanCount)
     EXPECT_EQ(favourites.count(), 65535);
 }
 
-TEST(WeatherFavourites, IsFilledOncePerDevice)
+TEST(WeatherFavourites, AMissingFileIsReportedAtEveryStartUntilItIsThere)
 {
     Device device;
     auto favourites = device.favourites();
     favourites.loadFavouritesOnce();
     EXPECT_EQ(favourites.count(), 0);
     favourites.loadFavouritesOnce();
-    ASSERT_EQ(device.messages.messages.size(), 2u) << "told at every start until the file is there";
-    EXPECT_EQ(device.messages.messages[0].text, L"Initial Weather Favorite Cities File not found!");
-    EXPECT_EQ(device.messages.messages[0].caption, L"Wanderkit");
+    const RecordingMessageSink::Message notFound {L"Initial Weather Favorite Cities File not found!", L"Wanderkit"};
+    const std::vector<RecordingMessageSink::Message> told {notFound, notFound}; // at every start until it is there
+    EXPECT_EQ(device.messages.messages, told);
 
+    // Once the file is there it fills the store; a filled store is never loaded again (see the catalogue).
     device.dir.write("cities.wet", "1\nItaly;Rome;ITXX0067\n");
     favourites.loadFavouritesOnce();
     EXPECT_EQ(favourites.count(), 1);
-    device.dir.write("cities.wet", "1\nFrance;Paris;FRXX0076\n");
-    auto later = device.favourites();
-    later.loadFavouritesOnce();
-    EXPECT_EQ(contents(later), (std::vector<std::wstring> {L"Rome|ITXX0067||01/01/2000|Italy"}));
-    EXPECT_EQ(device.messages.messages.size(), 2u);
+    EXPECT_EQ(device.messages.messages, told);
 }
 
 TEST(WeatherFavourites, FindAddUpdateRemove)
@@ -136,11 +123,7 @@ TEST(WeatherFavourites, OpensInEachSortOrder)
     favourites.loadFavouritesOnce();
     favourites.updateFavourite(L"Miami", L"1", L"c", L"03/01/2000:A", 1);
 
-    struct Case
-    {
-        int sortIndex;
-        std::vector<std::wstring> names;
-    };
+    using Case = std::tuple<int, std::vector<std::wstring>>;
     const Case cases[] = {
         {-1, {L"Athens", L"Miami", L"Zurich"}},
         {0, {L"Athens", L"Miami", L"Zurich"}},
@@ -148,13 +131,13 @@ TEST(WeatherFavourites, OpensInEachSortOrder)
         {2, {L"Zurich", L"Athens", L"Miami"}}, // the empty forecasts in order of addition, then "c"
         {3, {L"Zurich", L"Athens", L"Miami"}},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.sortIndex);
-        ASSERT_TRUE(favourites.openFavourites(c.sortIndex));
+    for (const auto& [sortIndex, expected] : cases) {
+        SCOPED_TRACE(sortIndex);
+        ASSERT_TRUE(favourites.openFavourites(sortIndex));
         std::vector<std::wstring> names;
         for (std::uint32_t i = 0; i < favourites.count(); ++i)
             names.push_back(favourites.getName(i));
-        EXPECT_EQ(names, c.names);
+        EXPECT_EQ(names, expected);
     }
     EXPECT_FALSE(favourites.openFavourites(4));
     EXPECT_EQ(favourites.count(), 0);

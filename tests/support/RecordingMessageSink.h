@@ -14,6 +14,7 @@ public:
     {
         std::wstring text;
         std::wstring caption;
+        bool operator==(const Message&) const = default;
     };
 
     void showMessage(std::wstring_view text, std::wstring_view caption) override

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ScreenTestBench.h"
 #include "app/ServicesApp.h"
-#include "settings/RegistrySettings.h"
+#include "screens/clothing/ClothingScreen.h"
+#include "screens/dialing/DialingScreen.h"
+#include "settings/SettingsTable.h"
 #include "store/CityCatalogue.h"
 #include "store/CurrencyStore.h"
 #include "ui/Commands.h"
@@ -23,36 +25,29 @@ private:
         });
     }
 
-    static void press(ScreenTestBench& bench, Qt::Key key) { QTest::keyClick(bench.window.focusWidget(), key); }
-
 private slots:
-    void selectionWrapsBothWays()
+    void selectionWrapsAndTodoListOpensNothing()
     {
         ScreenTestBench bench;
         ServicesApp launcher(bench.environment, bench.window);
         withLauncher(bench, launcher, [&] {
             QCOMPARE(launcher.selection(), 0);
             for (int i = 1; i <= 7; ++i)
-                press(bench, Qt::Key_Right);
+                bench.press(Qt::Key_Right);
             QCOMPARE(launcher.selection(), 7);
-            press(bench, Qt::Key_Right);
+            bench.press(Qt::Key_Right);
             QCOMPARE(launcher.selection(), 0);
-            press(bench, Qt::Key_Left);
+            bench.press(Qt::Key_Left);
             QCOMPARE(launcher.selection(), 7);
-        });
-    }
-
-    void todoListOpensNothingAndSaysNothing()
-    {
-        ScreenTestBench bench;
-        ServicesApp launcher(bench.environment, bench.window);
-        withLauncher(bench, launcher, [&] {
-            press(bench, Qt::Key_Left);
-            QCOMPARE(launcher.selection(), 7);
-            press(bench, Qt::Key_Return);
+            bench.press(Qt::Key_Return); // "Todo List"
             QCOMPARE(bench.window.topScreen(), &launcher);
             QVERIFY(bench.boxes.empty());
             QVERIFY(!launcher.serviceScreen(7));
+            // Any other key reaching the launcher itself shows "e".
+            QTest::keyClick(&launcher, Qt::Key_A);
+            QCOMPARE(bench.boxes.size(), std::size_t(1));
+            QCOMPARE(bench.boxes[0].text, QStringLiteral("e"));
+            QCOMPARE(bench.boxes[0].caption, QString());
         });
     }
 
@@ -63,10 +58,10 @@ private slots:
         withLauncher(bench, launcher, [&] {
             QElapsedTimer clock;
             clock.start();
-            press(bench, Qt::Key_Right);
+            bench.press(Qt::Key_Right);
             QVERIFY(launcher.rightArrowPressed());
             QTest::qWait(150);
-            press(bench, Qt::Key_Right);
+            bench.press(Qt::Key_Right);
             const qint64 secondPress = clock.elapsed();
             QTest::qWait(150);
             if (clock.elapsed() - secondPress < 240)
@@ -74,8 +69,8 @@ private slots:
             QTRY_VERIFY_WITH_TIMEOUT(!launcher.rightArrowPressed(), 1000);
             QVERIFY(clock.elapsed() - secondPress >= 245);
             // Both arrows can be large at once; the first timer to fire ends both.
-            press(bench, Qt::Key_Left);
-            press(bench, Qt::Key_Right);
+            bench.press(Qt::Key_Left);
+            bench.press(Qt::Key_Right);
             QVERIFY(launcher.leftArrowPressed() && launcher.rightArrowPressed());
             QTRY_VERIFY_WITH_TIMEOUT(!launcher.leftArrowPressed() && !launcher.rightArrowPressed(), 1000);
         });
@@ -93,9 +88,9 @@ private slots:
                     const int top = i < 4 ? 48 : 78;
                     QCOMPARE(launcher.selection(), i);
                     QCOMPARE(launcher.highlightRect(), QRect(x - 2, top, 20, 20));
-                    press(bench, Qt::Key_Right);
+                    bench.press(Qt::Key_Right);
                 }
-                QTest::keyClick(bench.window.focusWidget(), Qt::Key_R, Qt::ControlModifier);
+                bench.press(Qt::Key_R, Qt::ControlModifier);
             }
         });
     }
@@ -113,54 +108,78 @@ private slots:
         QCOMPARE(image.pixelColor(39, 60), QColor(64, 64, 64));
     }
 
-    void aKeyReachingTheLauncherItselfShowsE()
+    void servicesComesBackToTheSelectionAndExitEndsEveryScreen()
     {
-        ScreenTestBench bench;
-        ServicesApp launcher(bench.environment, bench.window);
-        withLauncher(bench, launcher, [&] {
-            QTest::keyClick(&launcher, Qt::Key_A);
-            QCOMPARE(bench.boxes.size(), std::size_t(1));
-            QCOMPARE(bench.boxes[0].text, QStringLiteral("e"));
-            QCOMPARE(bench.boxes[0].caption, QString());
-        });
-    }
+        for (const int service : {5, 6}) {
+            ScreenTestBench bench;
+            ServicesApp launcher(bench.environment, bench.window);
+            Screen* screen = launcher.serviceScreen(service);
+            QVERIFY(service == 5 ? qobject_cast<ClothingScreen*>(screen) != nullptr
+                                 : qobject_cast<DialingScreen*>(screen) != nullptr);
+            bool servicesEnabled = false;
+            bool exitEnded = false;
+            bench.run(launcher, [&] {
+                for (int i = 0; i < service; ++i)
+                    bench.press(Qt::Key_Right);
+                bench.whenShown(*screen, [&] {
+                    servicesEnabled = screen->softKeys()->isKeyEnabled(Commands::Services);
+                    bench.press(Qt::Key_F1);
+                    screen->endScreen(); // in case the key did nothing
+                });
+                bench.press(Qt::Key_Return); // returns once the screen has ended
+                QCOMPARE(launcher.selection(), service);
+                // The launcher's own "Services" key is grey.
+                QVERIFY(!launcher.softKeys()->isKeyEnabled(Commands::Services));
+                bench.press(Qt::Key_F1);
+                QCOMPARE(bench.window.topScreen(), &launcher);
 
-    void missingShippedFilesAreReportedAndTheLauncherStillStarts()
-    {
-        ScreenTestBench bench;
-        ServicesApp launcher(bench.environment, bench.window);
-        withLauncher(bench, launcher, [&] { QCOMPARE(bench.window.topScreen(), &launcher); });
-        std::vector<std::wstring> texts;
-        for (const auto& message : bench.messages.messages) {
-            texts.push_back(message.text);
-            QCOMPARE(message.caption, std::wstring(L"Wanderkit"));
+                bench.whenShown(*screen, [&] {
+                    bench.press(Qt::Key_Down);
+                    bench.press(Qt::Key_Right);
+                    screen->softKeys()->chooseItem(Commands::Exit);
+                    exitEnded = bench.window.isExiting();
+                    bench.window.exitAll(); // in case the item did nothing
+                });
+                bench.press(Qt::Key_Return);
+            });
+            QVERIFY(servicesEnabled);
+            QVERIFY(exitEnded);
+            QVERIFY(!screen->isRunning() && !launcher.isRunning());
+            if (service == 5) { // the clothing screen saved the wearer chosen before "Exit"
+                RegistrySettings settings(*bench.settings);
+                QCOMPARE(ReadSetting(settings, Settings::ClothesWho), 1u);
+            }
         }
-        QCOMPARE(texts, (std::vector<std::wstring> {L"Initial Cities File not found!",
-                            L"Initial Weather Favorite Cities File not found!", L"Initial Currencies File not found!"}));
     }
 
-    void theStoresAreFilledOnceAndTheCurrencyFileIsReadAtEveryStart()
+    void theStoresAreLoadedInOrderOnceAndTheCurrencyFileAtEveryStart()
     {
         ScreenTestBench bench;
-        bench.root.write("cities.lst", "h\n2\nx;Paris;France;2.35;48.85;1;1;88;2;298;3\nx;Lima;Peru;-77;-12;-5;0;0;0;0;0\n");
+        const auto start = [&bench] {
+            bench.messages.messages.clear();
+            ServicesApp launcher(bench.environment, bench.window);
+            withLauncher(bench, launcher, [&] { QCOMPARE(bench.window.topScreen(), &launcher); });
+            std::vector<std::wstring> shown; // "caption: text"
+            for (const auto& [text, caption] : bench.messages.messages)
+                shown.push_back(caption + L": " + text);
+            return shown;
+        };
+        // Missing shipped files never stop the start.
+        QCOMPARE(start(),
+            (std::vector<std::wstring> {L"Wanderkit: Initial Cities File not found!",
+                L"Wanderkit: Initial Weather Favorite Cities File not found!",
+                L"Wanderkit: Initial Currencies File not found!"}));
+
+        bench.root.write(
+            "cities.lst", "h\n2\nx;Paris;France;2.35;48.85;1;1;88;2;298;3\nx;Lima;Peru;-77;-12;-5;0;0;0;0;0\n");
         bench.root.write("cities.wet", "1\nFrance;Paris;2988507\n");
         bench.root.write("currs.lst", "2\nEUR_Euro_1.1#USD_US Dollar_1#");
-        {
-            ServicesApp launcher(bench.environment, bench.window);
-            withLauncher(bench, launcher, [] {});
-        }
-        QVERIFY(bench.messages.messages.empty());
-
-        // New files change nothing once the stores are filled, but a missing currency file is still reported.
-        bench.root.write("cities.lst", "h\n1\nx;Oslo;Norway;10.75;59.91;1;1;88;2;298;3\n");
+        QVERIFY(start().empty());
+        // A filled store is not loaded again, but a missing currency file is still reported.
         std::filesystem::remove(bench.root.path() / "currs.lst");
-        ServicesApp launcher(bench.environment, bench.window);
-        withLauncher(bench, launcher, [] {});
-        QCOMPARE(bench.messages.messages.size(), std::size_t(1));
-        QCOMPARE(bench.messages.messages[0].text, std::wstring(L"Initial Currencies File not found!"));
+        QCOMPARE(start(), std::vector<std::wstring> {L"Wanderkit: Initial Currencies File not found!"});
         CityCatalogue cities(*bench.objects, bench.paths, bench.messages);
         cities.Load();
-        QCOMPARE(cities.Count(), 2);
         QCOMPARE(cities.CityName(1), std::wstring(L"Paris"));
         CurrencyStore currencies(*bench.objects);
         currencies.Load();
@@ -179,18 +198,6 @@ private slots:
         QCOMPARE(registry.Status(), RegistrySettings::Read);
         QCOMPARE(registry.GetString(L"Wanderkit\\measurs", L"convval"), std::wstring());
         QCOMPARE(registry.Status(), RegistrySettings::Read);
-    }
-
-    void theServicesKeyIsGreyOnTheLauncher()
-    {
-        ScreenTestBench bench;
-        ServicesApp launcher(bench.environment, bench.window);
-        withLauncher(bench, launcher, [&] {
-            QVERIFY(!launcher.softKeys()->isKeyEnabled(Commands::Services));
-            press(bench, Qt::Key_F1);
-            QCOMPARE(bench.window.topScreen(), &launcher);
-        });
-        QVERIFY(!launcher.isRunning());
     }
 };
 

@@ -2,14 +2,13 @@
 #include "ScreenTestBench.h"
 #include "ui/Commands.h"
 #include "ui/MenuBars.h"
-#include "ui/Painting.h"
 #include "ui/Screen.h"
 #include "ui/SoftKeyBar.h"
-#include "ui/Spinner.h"
 
 #include <QMenu>
-#include <QPainter>
 #include <QTest>
+
+#include <tuple>
 
 namespace {
 
@@ -47,11 +46,6 @@ protected:
     }
 };
 
-QColor pixel(const QImage& image, int x, int y)
-{
-    return image.pixelColor(x, y);
-}
-
 } // namespace
 
 class ScreenFrameworkTest : public QObject
@@ -78,7 +72,7 @@ private slots:
         ScreenTestBench bench;
         ProbeScreen outer(bench.environment, bench.window, 107, QStringLiteral("outer"));
         ProbeScreen middle(bench.environment, bench.window, 101, QStringLiteral("middle"));
-        ProbeScreen inner(bench.environment, bench.window, 106, QStringLiteral("inner"));
+        ProbeScreen inner(bench.environment, bench.window, 112, QStringLiteral("inner"));
         QStringList order;
         outer.onDestroy = [&] { order << QStringLiteral("outer"); };
         middle.onDestroy = [&] { order << QStringLiteral("middle"); };
@@ -86,7 +80,7 @@ private slots:
         bool afterNested = false;
         bench.run(outer, [&] {
             bench.run(middle, [&] {
-                bench.run(inner, [&] { bench.window.exitAll(); });
+                bench.run(inner, [&] { bench.window.topSoftKeys()->chooseItem(Commands::Exit); });
                 afterNested = true;
                 // Nothing opens while the program is ending.
                 QVERIFY(bench.window.isExiting());
@@ -95,93 +89,65 @@ private slots:
             });
         });
         QVERIFY(afterNested);
+        QCOMPARE(inner.commands, QList<int> {Commands::Exit});
         QCOMPARE(order, (QStringList {QStringLiteral("inner"), QStringLiteral("middle"), QStringLiteral("outer")}));
         QVERIFY(!bench.window.isExiting());
     }
 
-    void exitCommandFromAScreenMenuEndsTheProgram()
-    {
-        ScreenTestBench bench;
-        ProbeScreen launcher(bench.environment, bench.window, 107, QStringLiteral("launcher"));
-        ProbeScreen screen(bench.environment, bench.window, 112, QStringLiteral("screen"));
-        bench.run(
-            launcher, [&] { bench.run(screen, [&] { bench.window.topSoftKeys()->chooseItem(Commands::Exit); }); });
-        QCOMPARE(screen.commands, QList<int> {Commands::Exit});
-        QCOMPARE(screen.destroyed, 1);
-        QCOMPARE(launcher.destroyed, 1);
-    }
-
-    void deviceKeysPressSoftKeysAndTheActionKey()
-    {
-        ScreenTestBench bench;
-        ProbeScreen screen(bench.environment, bench.window, 111, QStringLiteral("probe"));
-        bench.run(screen, [&] {
-            QTest::keyClick(&screen, Qt::Key_Return);
-            QTest::keyClick(&screen, Qt::Key_F2); // "Add", a plain key
-            QTest::keyClick(&screen, Qt::Key_F1); // "Done"
-        });
-        QCOMPARE(screen.commands, (QList<int> {Commands::Ok, Commands::Add, Commands::Done}));
-    }
-
-    void softKeysGreyAndCheck()
+    void softKeysAndDeviceKeysGreyAndCheck()
     {
         ScreenTestBench bench;
         ProbeScreen screen(bench.environment, bench.window, 101, QStringLiteral("probe"));
         bench.run(screen, [&] {
             SoftKeyBar* keys = screen.softKeys();
-            QCOMPARE(keys->keyText(0), QStringLiteral("Services"));
-            QCOMPARE(keys->keyText(1), QStringLiteral("Menu"));
             QVERIFY(!keys->isItemChecked(Commands::TwelveHourClocks));
             keys->setItemChecked(Commands::TwelveHourClocks, true);
             QVERIFY(keys->isItemChecked(Commands::TwelveHourClocks));
             keys->setItemEnabled(Commands::TwelveHourClocks, false);
             keys->chooseItem(Commands::TwelveHourClocks); // greyed: nothing happens
-            QVERIFY(screen.commands.isEmpty());
             keys->setKeyEnabled(Commands::Services, false);
-            keys->pressLeft(); // disabled: nothing happens
-            QVERIFY(screen.commands.isEmpty());
+            QTest::keyClick(&screen, Qt::Key_F1); // disabled: nothing happens
+            QTest::keyClick(&screen, Qt::Key_Return);
+            QVERIFY(screen.isRunning());
             keys->setKeyEnabled(Commands::Services, true);
-            keys->pressLeft();
+            QTest::keyClick(&screen, Qt::Key_F1);
         });
-        QCOMPARE(screen.commands, QList<int> {Commands::Services});
+        QCOMPARE(screen.commands, (QList<int> {Commands::Ok, Commands::Services}));
+
+        // F2 presses a right key that is a plain key ("Add"), not a menu.
+        ProbeScreen dialog(bench.environment, bench.window, 111, QStringLiteral("dialog"));
+        bench.run(dialog, [&] {
+            QTest::keyClick(&dialog, Qt::Key_F2);
+            QTest::keyClick(&dialog, Qt::Key_F1); // "Done"
+        });
+        QCOMPARE(dialog.commands, (QList<int> {Commands::Add, Commands::Done}));
     }
 
     void everyMenuBarHasItsKeysAndPopups()
     {
-        struct Case
-        {
-            int id;
-            const char* left;
-            bool leftEnabled;
-            const char* right;
-            std::vector<const char*> items;
+        // The popup's items are separated by "|", a separator is empty.
+        using Case = std::tuple<int, const char*, bool, const char*, const char*>;
+        const Case cases[] = {
+            {101, "Services", true, "Menu", "Twelve Hours Clocks||Exit"},
+            {106, "Done", true, "", ""},
+            {107, "Services", false, "Menu", "Exit"},
+            {111, "Done", true, "Add", ""},
+            {112, "Services", true, "Menu", "Undo|Clear||Exit"},
         };
-        const std::vector<Case> cases {
-            {101, "Services", true, "Menu", {"Twelve Hours Clocks", "", "Exit"}},
-            {106, "Done", true, "", {}},
-            {107, "Services", false, "Menu", {"Exit"}},
-            {108, "Services", true, "Menu", {"Show cities on Map", "Change City", "Weather Forecast", "", "Exit"}},
-            {109, "Services", true, "Menu", {"Update rates", "Clear", "Change currency", "", "Exit"}},
-            {110, "Services", true, "Menu", {"Update Forecast", "Change City", "", "Exit"}},
-            {111, "Done", true, "Add", {}},
-            {112, "Services", true, "Menu", {"Undo", "Clear", "", "Exit"}},
-        };
-        for (const Case& c : cases) {
-            const MenuBarSpec* spec = MenuBars::find(c.id);
-            QVERIFY2(spec, qPrintable(QString::number(c.id)));
+        for (const auto& [id, left, leftEnabled, right, popup] : cases) {
+            const MenuBarSpec* spec = MenuBars::find(id);
+            QVERIFY2(spec, qPrintable(QString::number(id)));
             SoftKeyBar bar(*spec);
-            QCOMPARE(bar.keyText(0), QString::fromUtf8(c.left));
-            QCOMPARE(bar.keyText(1), QString::fromUtf8(c.right));
-            QCOMPARE(bar.isKeyEnabled(spec->left.command), c.leftEnabled);
-            QStringList expected;
-            for (const char* item : c.items)
-                expected << QString::fromUtf8(item);
+            QCOMPARE(bar.keyText(0), QString::fromUtf8(left));
+            QCOMPARE(bar.keyText(1), QString::fromUtf8(right));
+            QCOMPARE(bar.isKeyEnabled(spec->left.command), leftEnabled);
             QStringList items;
             if (QMenu* menu = bar.popup()) {
                 for (QAction* action : menu->actions())
                     items << (action->isSeparator() ? QString() : action->text());
             }
-            QCOMPARE(items, expected);
+            const QString expected = QString::fromUtf8(popup);
+            QCOMPARE(items, expected.isEmpty() ? QStringList() : expected.split(QLatin1Char('|')));
         }
         QVERIFY(!MenuBars::find(100));
     }
@@ -191,50 +157,35 @@ private slots:
         ScreenTestBench bench;
         ProbeScreen outer(bench.environment, bench.window, 107, QStringLiteral("outer"));
         ProbeScreen inner(bench.environment, bench.window, 106, QStringLiteral("inner"));
-        bench.run(outer, [&] {
-            bench.run(inner, [&] {
+        bench.visit(outer, [&] {
+            bench.visit(inner, [&] {
                 QTest::keyClick(&inner, Qt::Key_R, Qt::ControlModifier);
                 QCOMPARE(bench.window.workArea(), QSize(268, 240));
                 QCOMPARE(bench.window.size(), QSize(268, 240 + SoftKeyBar::BarHeight));
-                inner.endScreen();
             });
-            outer.endScreen();
         });
         QCOMPARE(inner.layouts.last(), QSize(268, 240));
         QCOMPARE(outer.layouts.last(), QSize(268, 240));
     }
 
-    void gradientBandsAndAMissingPicture()
+    void theGradientShowsWithoutAPictureAndAPictureIsFoundByItsJoinedName()
     {
         ScreenTestBench bench;
         ProbeScreen screen(bench.environment, bench.window, 112, QStringLiteral("probe"));
-        screen.setBackgroundPicture(L"bconv.jpg"); // not in the device root
+        screen.setBackgroundPicture(L"back.jpg"); // not in the device root yet
         QImage image;
-        bench.run(screen, [&] {
-            image = bench.render();
-            screen.endScreen();
-        });
-        QCOMPARE(pixel(image, 0, 267), QColor(85, 121, 151));
-        QCOMPARE(pixel(image, 239, 0), QColor(114, 150, 180));
+        bench.visit(screen, [&] { image = bench.render(); });
+        QCOMPARE(image.pixelColor(0, 267), QColor(85, 121, 151));
+        QCOMPARE(image.pixelColor(239, 0), QColor(114, 150, 180));
         // Band i starts at H * (30 - i) / 30: band 2 begins at row 250, band 1 at row 259.
-        QCOMPARE(pixel(image, 100, 250), QColor(86, 122, 152));
-        QCOMPARE(pixel(image, 100, 259), QColor(85, 121, 151));
-    }
+        QCOMPARE(image.pixelColor(100, 250), QColor(86, 122, 152));
+        QCOMPARE(image.pixelColor(100, 259), QColor(85, 121, 151));
 
-    void aBackgroundPictureIsFoundByItsJoinedName()
-    {
-        ScreenTestBench bench;
         QImage red(240, 268, QImage::Format_RGB32);
         red.fill(QColor(200, 0, 0));
         QVERIFY(red.save(QString::fromStdString((bench.root.path() / "back.jpg").string()), "JPG", 100));
-        ProbeScreen screen(bench.environment, bench.window, 101, QStringLiteral("probe"));
-        screen.setBackgroundPicture(L"back.jpg");
-        QImage image;
-        bench.run(screen, [&] {
-            image = bench.render();
-            screen.endScreen();
-        });
-        const QColor centre = pixel(image, 120, 134);
+        bench.visit(screen, [&] { image = bench.render(); });
+        const QColor centre = image.pixelColor(120, 134);
         QVERIFY2(centre.red() > 180 && centre.green() < 30, qPrintable(centre.name()));
     }
 
@@ -242,53 +193,13 @@ private slots:
     {
         ScreenTestBench bench;
         ProbeScreen screen(bench.environment, bench.window, 101, QStringLiteral("probe"));
-        bench.run(screen, [&] {
+        bench.visit(screen, [&] {
             screen.startScreenTimer(1, 10);
             QTRY_VERIFY(screen.ticks >= 2);
-            screen.endScreen();
         });
         const int ticks = screen.ticks;
         QTest::qWait(50);
         QCOMPARE(screen.ticks, ticks);
-    }
-
-    void spinnersStepReportAndWrap()
-    {
-        Spinner spinner;
-        QList<int> deltas;
-        QList<int> changes;
-        connect(&spinner, &Spinner::deltaRequested, this, [&](int d) { deltas << d; });
-        connect(&spinner, &Spinner::currentChanged, this, [&](int i) { changes << i; });
-        spinner.setItems({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
-        spinner.setCurrentIndex(0);
-        spinner.step(-1); // no wrapping: stays on the first item, the delta is still reported
-        QCOMPARE(spinner.currentIndex(), 0);
-        spinner.setWrapping(true);
-        spinner.step(-1);
-        QCOMPARE(spinner.currentIndex(), 2);
-        spinner.step(1);
-        QCOMPARE(spinner.currentIndex(), 0);
-        QCOMPARE(deltas, (QList<int> {-1, -1, 1}));
-        QCOMPARE(changes, (QList<int> {2, 0}));
-        spinner.setCurrentIndex(7); // beyond the end: nothing selected
-        QCOMPARE(spinner.currentIndex(), -1);
-        QCOMPARE(spinner.currentText(), QString());
-    }
-
-    void aHiddenSpinnerTakesTheArrowKeys()
-    {
-        ScreenTestBench bench;
-        ProbeScreen screen(bench.environment, bench.window, 101, QStringLiteral("probe"));
-        Spinner spinner(&screen);
-        spinner.setItems({QStringLiteral("a"), QStringLiteral("b")});
-        spinner.setCurrentIndex(0);
-        bench.run(screen, [&] {
-            spinner.hideAt(215, 10);
-            spinner.setFocus();
-            QTest::keyClick(bench.window.focusWidget(), Qt::Key_Right);
-            screen.endScreen();
-        });
-        QCOMPARE(spinner.currentIndex(), 1);
     }
 };
 

@@ -3,7 +3,10 @@
 
 #include "ui/Screen.h"
 
+#include <QTest>
 #include <QTimer>
+
+#include <memory>
 
 ScreenTestBench::ScreenTestBench(QSize workArea)
     : paths(root.path())
@@ -35,6 +38,36 @@ int ScreenTestBench::run(Screen& screen, const std::function<void()>& drive)
         QTimer::singleShot(0, &context, drive);
     });
     return window.run(screen);
+}
+
+void ScreenTestBench::visit(Screen& screen, const std::function<void()>& check)
+{
+    run(screen, [&] {
+        check();
+        screen.endScreen();
+    });
+}
+
+void ScreenTestBench::whenShown(Screen& screen, const std::function<void()>& drive)
+{
+    auto connection = std::make_shared<QMetaObject::Connection>();
+    *connection
+        = QObject::connect(&window, &DeviceWindow::screenShown, &screen, [&screen, connection, drive](Screen& shown) {
+              if (&shown != &screen)
+                  return;
+              QObject::disconnect(*connection);
+              QTimer::singleShot(0, &screen, drive);
+          });
+}
+
+void ScreenTestBench::press(Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    QTest::keyClick(window.focusWidget(), key, modifiers);
+}
+
+QString ScreenTestBench::fromWide(std::wstring_view text)
+{
+    return QString::fromWCharArray(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 QImage ScreenTestBench::render()

@@ -13,6 +13,7 @@
 
 #include <functional>
 #include <memory>
+#include <string_view>
 
 class Screen;
 
@@ -26,8 +27,15 @@ public:
 
     // Runs `screen` modally; `drive` is called once it is shown and must end it (or the program).
     int run(Screen& screen, const std::function<void()>& drive);
+    // Runs `screen`, lets `check` drive it, then ends it (also when a check has failed).
+    void visit(Screen& screen, const std::function<void()>& check);
+    // Calls `drive` once `screen` is next shown, when someone else (the launcher) opens it.
+    void whenShown(Screen& screen, const std::function<void()>& drive);
+    // Presses `key` on the widget that has the focus.
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     // The whole device window, rendered.
     QImage render();
+    static QString fromWide(std::wstring_view text);
 
     TempDir root;
     FakeDeviceClock clock;

@@ -6,12 +6,17 @@
 #include "screens/select/SelectDialog.h"
 #include "settings/RegistrySettings.h"
 #include "store/CityCatalogue.h"
+#include "store/CurrencyStore.h"
+#include "store/InitialCurrencyList.h"
 #include "store/WeatherFavourites.h"
 #include "ui/Commands.h"
 #include "ui/SoftKeyBar.h"
+#include "ui/Spinner.h"
 
 #include <QTest>
 #include <QTimer>
+
+#include <tuple>
 
 namespace {
 
@@ -43,6 +48,19 @@ struct WorldClockBench
     RegistrySettings registry {*bench.settings};
 };
 
+// Runs a city dialog starting at `selection` and returns its panel lines as shown.
+QStringList panelOf(ScreenTestBench& bench, int selection)
+{
+    SelectDialog dialog(bench.environment, bench.window);
+    dialog.setSelection(selection);
+    QStringList lines;
+    bench.run(dialog, [&] {
+        lines = dialog.panelLines();
+        dialog.sendCommand(Commands::Done);
+    });
+    return lines;
+}
+
 } // namespace
 
 class WorldClockScreenTest : public QObject
@@ -52,24 +70,26 @@ class WorldClockScreenTest : public QObject
 private slots:
     void aFreshDeviceShowsTheDefaultCitiesAndWritesThem()
     {
+        const wchar_t* const names[] = {L"clock", L"clock1", L"clock2", L"clock3", L"clock4"};
+        const std::uint32_t cities[] = {0, 684, 756, 565, 988};
         WorldClockBench t;
         t.run([&] {
-            const std::array<std::uint32_t, 5> expected {0, 684, 756, 565, 988};
             for (int slot = 0; slot < 5; ++slot) {
-                QCOMPARE(t.screen.slotCity(slot), expected[static_cast<std::size_t>(slot)]);
-                QCOMPARE(t.screen.shownName(slot),
-                    QStringLiteral("C%1").arg(expected[static_cast<std::size_t>(slot)], 4, 10, QLatin1Char('0')));
+                QCOMPARE(t.screen.slotCity(slot), cities[slot]);
+                QCOMPARE(t.screen.shownName(slot), QStringLiteral("C%1").arg(cities[slot], 4, 10, QLatin1Char('0')));
             }
             // "syncltz" is read first and created as 1, which creates the key: the clock values that
             // follow find their key and are only written when the screen is left.
             QCOMPARE(t.registry.GetDWORD(ClockKey, L"syncltz"), 1u);
-            t.registry.GetDWORD(ClockKey, L"clock2");
-            QCOMPARE(t.registry.Status(), RegistrySettings::ValueMissing);
+            for (const wchar_t* name : names) {
+                t.registry.GetDWORD(ClockKey, name);
+                QCOMPARE(t.registry.Status(), RegistrySettings::ValueMissing);
+            }
         });
-        QCOMPARE(t.registry.GetDWORD(ClockKey, L"clock"), 0u);
-        QCOMPARE(t.registry.Status(), RegistrySettings::Read);
-        QCOMPARE(t.registry.GetDWORD(ClockKey, L"clock2"), 756u);
-        QCOMPARE(t.registry.GetDWORD(ClockKey, L"clock4"), 988u);
+        for (int slot = 0; slot < 5; ++slot) {
+            QCOMPARE(t.registry.GetDWORD(ClockKey, names[slot]), cities[slot]);
+            QCOMPARE(t.registry.Status(), RegistrySettings::Read);
+        }
     }
 
     void aMissingValueOfAnExistingKeyIsWrittenOnlyOnLeaving()
@@ -104,69 +124,53 @@ private slots:
         });
     }
 
-    void twelveHourDisplayRewritesTheHour()
+    void twelveHourDisplayFollowsItsSettingAndMenuItem()
     {
-        struct Case
-        {
-            int hour;
-            const char* time;
-            const char* suffix;
-        };
-        const Case cases[]
-            = {{0, "12:15:00", "AM"}, {9, "09:15:00", "AM"}, {12, "12:15:00", "PM"}, {23, "11:15:00", "PM"}};
-        for (const Case& c : cases) {
+        using Case = std::tuple<int, const char*, const char*, const char*>;
+        const Case cases[] = {{0, "12:15:00", "AM", "00:15:00"}, {12, "12:15:00", "PM", "12:15:00"}};
+        for (const auto& [hour, twelve, suffix, full] : cases) {
             WorldClockBench t;
             t.registry.SetDWORD(L"Wanderkit", L"twelvehour", 1);
-            t.bench.clock.set(FakeDeviceClock::at(2026, 1, 5, c.hour, 15, 0));
+            t.bench.clock.set(FakeDeviceClock::at(2026, 1, 5, hour, 15, 0));
             t.run([&] {
-                QVERIFY(t.screen.twelveHour());
-                QCOMPARE(t.screen.shownTime(0), QString::fromLatin1(c.time));
-                QCOMPARE(t.screen.shownSuffix(0), QString::fromLatin1(c.suffix));
+                QCOMPARE(t.screen.shownTime(0), QString::fromLatin1(twelve));
+                QCOMPARE(t.screen.shownSuffix(0), QString::fromLatin1(suffix));
                 QVERIFY(t.screen.softKeys()->isItemChecked(Commands::TwelveHourClocks));
+                // The menu item turns it off and on, and stores the choice.
+                t.screen.softKeys()->chooseItem(Commands::TwelveHourClocks);
+                QCOMPARE(t.screen.shownTime(0), QString::fromLatin1(full));
+                QVERIFY(!t.screen.softKeys()->isItemChecked(Commands::TwelveHourClocks));
+                QCOMPARE(t.registry.GetDWORD(L"Wanderkit", L"twelvehour"), 0u);
+                t.screen.softKeys()->chooseItem(Commands::TwelveHourClocks);
+                QCOMPARE(t.screen.shownTime(0), QString::fromLatin1(twelve));
+                QCOMPARE(t.registry.GetDWORD(L"Wanderkit", L"twelvehour"), 1u);
             });
         }
-    }
-
-    void theMenuItemTogglesTwelveHourDisplayAndStoresIt()
-    {
-        WorldClockBench t;
-        t.bench.clock.set(FakeDeviceClock::at(2026, 1, 5, 13, 15, 0));
-        t.run([&] {
-            QVERIFY(!t.screen.softKeys()->isItemChecked(Commands::TwelveHourClocks));
-            t.screen.softKeys()->chooseItem(Commands::TwelveHourClocks);
-            QVERIFY(t.screen.twelveHour());
-            QCOMPARE(t.screen.shownTime(0), QStringLiteral("01:15:00"));
-            QVERIFY(t.screen.softKeys()->isItemChecked(Commands::TwelveHourClocks));
-            QCOMPARE(t.registry.GetDWORD(L"Wanderkit", L"twelvehour"), 1u);
-            t.screen.softKeys()->chooseItem(Commands::TwelveHourClocks);
-            QCOMPARE(t.screen.shownTime(0), QStringLiteral("13:15:00"));
-            QCOMPARE(t.registry.GetDWORD(L"Wanderkit", L"twelvehour"), 0u);
-        });
     }
 
     void theActionKeyOnAClockFaceChangesItsCity()
     {
         WorldClockBench t;
         t.run([&] {
-            QTest::keyClick(t.bench.window.focusWidget(), Qt::Key_Right);
-            QTest::keyClick(t.bench.window.focusWidget(), Qt::Key_Right); // "c1"
+            t.bench.press(Qt::Key_Right);
+            t.bench.press(Qt::Key_Right); // "c1"
             QObject context;
             connect(&t.bench.window, &DeviceWindow::screenShown, &context, [&](Screen& dialog) {
                 QTimer::singleShot(0, &context, [&] {
                     QCOMPARE(static_cast<SelectDialog&>(dialog).selection(), 684);
-                    QTest::keyClick(t.bench.window.focusWidget(), Qt::Key_Down);
-                    QTest::keyClick(t.bench.window.focusWidget(), Qt::Key_Down);
+                    t.bench.press(Qt::Key_Down);
+                    t.bench.press(Qt::Key_Down);
                     dialog.sendCommand(Commands::Done);
                 });
             });
-            QTest::keyClick(t.bench.window.focusWidget(), Qt::Key_Return);
+            t.bench.press(Qt::Key_Return);
             QCOMPARE(t.screen.slotCity(1), 686u);
             QCOMPARE(t.registry.GetDWORD(ClockKey, L"clock1"), 686u);
             QCOMPARE(t.screen.shownName(1), QStringLiteral("C0686"));
         });
     }
 
-    void theHomeCityBecomesAWeatherFavourite()
+    void theHomeCityAndAnIconsCityBecomeWeatherFavourites()
     {
         WorldClockBench t;
         QCOMPARE(t.favourites.count(), 0);
@@ -179,22 +183,16 @@ private slots:
             // "wetp" was missing: it takes the home city's catalogue index.
             QCOMPARE(t.registry.GetDWORD(L"Wanderkit\\weather", L"wetp"), 0u);
             QCOMPARE(t.registry.Status(), RegistrySettings::Read);
-        });
-    }
 
-    void theActionKeyOnAWeatherIconAddsTheCity()
-    {
-        WorldClockBench t;
-        t.run([&] {
             for (int i = 0; i < 3; ++i)
-                QTest::keyClick(t.bench.window.focusWidget(), Qt::Key_Right); // "w1"
-            QTest::keyClick(t.bench.window.focusWidget(), Qt::Key_Return);
+                t.bench.press(Qt::Key_Right); // "w1"
+            t.bench.press(Qt::Key_Return);
             QCOMPARE(t.favourites.count(), 2);
             QVERIFY(t.favourites.findByName(L"C0684") != 0);
             QCOMPARE(t.bench.boxes.size(), std::size_t(1));
             QCOMPARE(t.bench.boxes[0].text, QStringLiteral("This city has been added to the Favorites List."));
             // A favourite already: nothing more is added.
-            QTest::keyClick(t.bench.window.focusWidget(), Qt::Key_Return);
+            t.bench.press(Qt::Key_Return);
             QCOMPARE(t.favourites.count(), 2);
         });
     }
@@ -209,6 +207,72 @@ private slots:
             QTRY_COMPARE_WITH_TIMEOUT(t.screen.shownTime(0), QStringLiteral("00:00:00"), 3000);
             QCOMPARE(t.screen.shownDate(0), QStringLiteral("6/1/2026 Tue"));
         });
+    }
+
+    void theCityPanelDescribesTheHighlightedCity()
+    {
+        using Case = std::tuple<SystemTime, int, const char*, const char*, const char*>;
+        const SystemTime july = FakeDeviceClock::at(2026, 7, 13, 12, 0, 0);
+        const Case cases[] = {
+            {july, 10, "Never observing", "-", "5h30"},
+            {july, 684, "Observing Now", "8/3/2026-1/11/2026", "-5h + 1h (DST)"},
+            {FakeDeviceClock::at(2026, 1, 13, 12, 0, 0), 684, "Not observing now", "8/3/2026-1/11/2026", "-5h"},
+        };
+        for (const auto& [now, city, status, period, zone] : cases) {
+            WorldClockBench t({{10, "530;0;0;0;0;0"}, {684, "-5;1;67;2;305;2"}});
+            t.bench.clock.set(now);
+            QCOMPARE(panelOf(t.bench, city),
+                (QStringList {QStringLiteral("City: C%1").arg(city, 4, 10, QLatin1Char('0')),
+                    QStringLiteral("Country: Land"), QStringLiteral("Long/Lat: 2.35/48.85"),
+                    QStringLiteral("Daylight Saving: ") + QLatin1String(status),
+                    QStringLiteral("DST start/end: ") + QLatin1String(period),
+                    QStringLiteral("Time zone (GMT): ") + QLatin1String(zone)}));
+        }
+    }
+
+    void theSelectionFollowsTheListAndComesBack()
+    {
+        ScreenTestBench bench;
+        CityFixture::write(bench.root, {});
+        SelectDialog dialog(bench.environment, bench.window);
+        dialog.setSelection(998);
+        bench.run(dialog, [&] {
+            bench.press(Qt::Key_Down);
+            bench.press(Qt::Key_Down); // the last city: no wrapping
+            QCOMPARE(dialog.panelLines().first(), QStringLiteral("City: C0999"));
+            bench.press(Qt::Key_Up);
+            bench.window.topSoftKeys()->pressLeft(); // "Done"
+        });
+        QCOMPARE(dialog.selection(), 998);
+
+        // A starting selection beyond the list selects nothing, and nothing comes back.
+        dialog.setSelection(5000);
+        bench.run(dialog, [&] { dialog.sendCommand(Commands::Done); });
+        QCOMPARE(dialog.selection(), -1);
+    }
+
+    void currencyModeSkipsEntriesWithoutCodeAndName()
+    {
+        ScreenTestBench bench;
+        // The count promises a third currency the file does not hold: it is stored empty.
+        bench.root.write("currs.lst", "3\nEUR_Euro_1.1#USD_US Dollar_1#");
+        CurrencyStore store(*bench.objects);
+        store.SetInitialList(ReadInitialCurrencies(bench.paths, bench.messages));
+        store.Load();
+        QCOMPARE(store.RecordCount(), 3);
+
+        SelectDialog dialog(bench.environment, bench.window);
+        dialog.setMode(SelectDialog::Mode::Currency);
+        dialog.setSelection(0);
+        bench.run(dialog, [&] {
+            const auto* list = dialog.findChild<Spinner*>(QStringLiteral("choiceSpinner"));
+            QCOMPARE(list->items(), (QStringList {QStringLiteral("EUR - Euro"), QStringLiteral("USD - US Dollar")}));
+            QVERIFY(dialog.panelLines().isEmpty());
+            bench.press(Qt::Key_Down);
+            QCOMPARE(dialog.selection(), 1);
+            dialog.sendCommand(Commands::Done);
+        });
+        QCOMPARE(dialog.selection(), 1);
     }
 };
 
