@@ -12,6 +12,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -54,6 +55,9 @@ TEST_F(ShippedData, TheCatalogueHoldsEveryCityAndTheDefaultClocksLandOnRealCitie
         {684, L"New York:United States"}, {756, L"Paris:France"}, {988, L"Tokyo:Japan"}};
     for (const auto& [position, name] : clocks)
         EXPECT_EQ(cities.CityName(position) + L":" + cities.Country(position), name) << position;
+    // The readers widen bytes one by one: the city file is kept to 7-bit ASCII.
+    const std::string bytes = fileBytes("cities.lst");
+    EXPECT_TRUE(std::ranges::all_of(bytes, [](char c) { return static_cast<unsigned char>(c) < 128; }));
 }
 
 TEST_F(ShippedData, EveryCityIsInItsCountrysWeatherList)
