@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Start-up to the first painted launcher frame, against a minimal Qt 6 Widgets program that shows one
-# window and exits after its first paint. Prints the median of N runs of each (default 20) and the ratio;
+# Start-up to the first painted launcher frame, against a minimal Qt 6 Widgets program (Qt's hello
+# world: one window with one line of text) that exits after its first paint. Prints the median of N runs of each (default 20) and the ratio;
 # the target is a ratio of at most 1.5. Usage: bench/startup/run-startup-bench.sh BUILD_DIR [RUNS]
 set -euo pipefail
 build=${1:?build folder}

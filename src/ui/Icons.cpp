@@ -2,9 +2,11 @@
 #include "ui/Icons.h"
 
 #include <QHash>
+#include <QImage>
 #include <QPaintDevice>
 #include <QPainter>
 #include <QPixmap>
+#include <QResource>
 
 #include <algorithm>
 #include <array>
@@ -31,7 +33,10 @@ const QPixmap& drawing(int id, int pixels)
     if (it == drawings.end()) {
         if (drawings.isEmpty())
             registerIconResource();
-        it = drawings.insert(key, QPixmap(QStringLiteral(":/icons/%1-%2.png").arg(id).arg(drawn)));
+        // Raw RGBA bytes: no image decoder (and no search for decoder plugins) is involved.
+        const QByteArray bytes = QResource(QStringLiteral(":/icons/%1-%2.rgba").arg(id).arg(drawn)).uncompressedData();
+        const QImage image(reinterpret_cast<const uchar*>(bytes.constData()), drawn, drawn, QImage::Format_RGBA8888);
+        it = drawings.insert(key, QPixmap::fromImage(image.copy()));
     }
     return *it;
 }

@@ -3,6 +3,8 @@
 """Draws the program's icons: 108 (the service globe), 109 (right arrow) and 110 (left arrow),
 each at 16, 24 and 32 pixels, into resources/icons/. Shapes are drawn 8 times larger and reduced,
 so edges stay smooth; coordinates are in a 16-unit design grid so every size lines up on pixels.
+Each icon is written as raw RGBA bytes (<id>-<size>.rgba, rows top to bottom, straight alpha), which
+the program turns into a picture without any image decoder, so the launcher draws them at once.
 
 Run: /usr/bin/python3 tools/icons/make-icons.py   (needs Debian's python3-pil)
 """
@@ -63,9 +65,8 @@ def arrow(size, pointing_right):
 def main():
     OUT.mkdir(parents=True, exist_ok=True)
     for size in (16, 24, 32):
-        globe(size).save(OUT / f"108-{size}.png", optimize=True)
-        arrow(size, True).save(OUT / f"109-{size}.png", optimize=True)
-        arrow(size, False).save(OUT / f"110-{size}.png", optimize=True)
+        for icon_id, image in ((108, globe(size)), (109, arrow(size, True)), (110, arrow(size, False))):
+            (OUT / f"{icon_id}-{size}.rgba").write_bytes(image.convert("RGBA").tobytes())
 
 
 if __name__ == "__main__":
