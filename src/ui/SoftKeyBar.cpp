@@ -7,28 +7,28 @@
 #include <QMouseEvent>
 #include <QPainter>
 
-SoftKeyBar::SoftKeyBar(const MenuBarSpec& spec, QWidget* parent)
+SoftKeyBar::SoftKeyBar(const MenuBarSpec& layout, QWidget* parent)
     : QWidget(parent)
 {
     setObjectName(QStringLiteral("softKeyBar"));
     setFocusPolicy(Qt::NoFocus);
-    setUpKey(0, spec.left);
-    if (spec.right)
-        setUpKey(1, *spec.right);
+    setUpKey(0, layout.left);
+    if (layout.right)
+        setUpKey(1, *layout.right);
 }
 
-void SoftKeyBar::setUpKey(int index, const SoftKeySpec& spec)
+void SoftKeyBar::setUpKey(int index, const SoftKeySpec& layout)
 {
     Key& key = m_keys[static_cast<std::size_t>(index)];
     key.present = true;
-    key.text = Painting::loadString(spec.textId);
-    key.command = spec.command;
-    key.enabled = spec.enabled;
-    if (spec.popup.empty())
+    key.text = Painting::loadString(layout.textId);
+    key.command = layout.command;
+    key.enabled = layout.enabled;
+    if (layout.popup.empty())
         return;
     key.menu = new QMenu(this);
     key.menu->setObjectName(QStringLiteral("softKeyMenu"));
-    for (const MenuItemSpec& item : spec.popup) {
+    for (const MenuItemSpec& item : layout.popup) {
         if (item.command == 0) {
             key.menu->addSeparator();
             continue;

@@ -135,12 +135,12 @@ private slots:
             {112, "Services", true, "Menu", "Undo|Clear||Exit"},
         };
         for (const auto& [id, left, leftEnabled, right, popup] : cases) {
-            const MenuBarSpec* spec = MenuBars::find(id);
-            QVERIFY2(spec, qPrintable(QString::number(id)));
-            SoftKeyBar bar(*spec);
+            const MenuBarSpec* barLayout = MenuBars::find(id);
+            QVERIFY2(barLayout, qPrintable(QString::number(id)));
+            SoftKeyBar bar(*barLayout);
             QCOMPARE(bar.keyText(0), QString::fromUtf8(left));
             QCOMPARE(bar.keyText(1), QString::fromUtf8(right));
-            QCOMPARE(bar.isKeyEnabled(spec->left.command), leftEnabled);
+            QCOMPARE(bar.isKeyEnabled(barLayout->left.command), leftEnabled);
             QStringList items;
             if (QMenu* menu = bar.popup()) {
                 for (QAction* action : menu->actions())
