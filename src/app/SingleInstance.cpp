@@ -32,8 +32,10 @@ bool askRunningInstance(const sockaddr_un& address)
     if (fd < 0)
         return false;
     const bool answered = ::connect(fd, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
-    if (answered) [[maybe_unused]]
-        const auto written = ::write(fd, "raise\n", 6);
+    // The connection itself is the request; the first instance may close it before the line arrives,
+    // so sending must not raise SIGPIPE.
+    if (answered)
+        ::send(fd, "raise\n", 6, MSG_NOSIGNAL);
     ::close(fd);
     return answered;
 }
