@@ -41,8 +41,3 @@ std::wstring DevicePaths::joinedName(std::wstring_view name)
 {
     return programFolder() + std::wstring(name);
 }
-
-std::wstring DevicePaths::programPathToFirstBackslash()
-{
-    return std::wstring(ProgramPath.substr(0, ProgramPath.find(L'\\')));
-}

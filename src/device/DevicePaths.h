@@ -27,8 +27,6 @@ public:
     static std::wstring besideProgram(std::wstring_view backslashName);
     // A name joined directly to the program's folder, with no separator ("back.jpg" and the like).
     static std::wstring joinedName(std::wstring_view name);
-    // The program's path cut at its first backslash (nothing remains on the device).
-    static std::wstring programPathToFirstBackslash();
 
 private:
     std::filesystem::path m_root;

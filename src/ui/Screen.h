@@ -69,7 +69,6 @@ protected:
     void watchSpinner(Spinner& spinner);
     // The background picture, found beside the program by the joined-name rule; loaded by each run.
     void setBackgroundPicture(const wchar_t* fileName) { m_pictureName = fileName; }
-    const QImage& backgroundPicture() const { return m_picture; }
     // The area being repainted, for screens that skip what lies outside it.
     const QRect& dirtyRect() const { return m_dirty; }
 

@@ -30,16 +30,6 @@ void Spinner::setItems(const QStringList& items)
     update();
 }
 
-void Spinner::removeItem(int index)
-{
-    if (index < 0 || index >= count())
-        return;
-    m_items.removeAt(index);
-    if (m_current >= count())
-        m_current = -1;
-    update();
-}
-
 void Spinner::clear()
 {
     m_items.clear();

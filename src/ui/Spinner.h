@@ -19,7 +19,6 @@ public:
 
     void addItem(const QString& text);
     void setItems(const QStringList& items);
-    void removeItem(int index);
     void clear();
     int count() const { return static_cast<int>(m_items.size()); }
     QString itemText(int index) const;
