@@ -149,6 +149,18 @@ TEST(PropertyDatabase, CursorAndFlags)
     EXPECT_FALSE(database.AtEnd()) << "a successful seek clears the at-end flag";
     EXPECT_EQ(database.SeekEqual({Key, L"C"}), 0);
     EXPECT_EQ(database.SeekEqual({Key, L"zz"}), 0);
+
+    // Opening puts the cursor on the first record: two steps reach the last, a third fails.
+    ASSERT_TRUE(database.Open(L"test"));
+    EXPECT_TRUE(database.Next());
+    EXPECT_TRUE(database.Next());
+    EXPECT_FALSE(database.Next());
+    // An empty database has no record to stand on.
+    PropertyDatabase empty(*store);
+    empty.Create(L"empty", 1, 3, SortIds, 0);
+    ASSERT_TRUE(empty.Open(L"empty"));
+    EXPECT_FALSE(empty.Next());
+    EXPECT_TRUE(empty.AtEnd());
 }
 
 TEST(PropertyDatabase, UpdatesAndDeletesByPosition)

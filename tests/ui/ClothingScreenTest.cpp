@@ -166,20 +166,6 @@ private slots:
         QCOMPARE(stored(bench, Settings::ClothesKind), 2u);
         bench.visit(screen, [&] { QCOMPARE(screen.tableTitle(), table(1, 2).first); });
     }
-
-    void spinnersFollowTheWorkAreaWidth()
-    {
-        ScreenTestBench bench;
-        ClothingScreen screen(bench.environment, bench.window);
-        bench.visit(screen, [&] {
-            for (const int width : {240, 268}) {
-                QCOMPARE(spinner(screen, "wearerSpinner")->geometry(), QRect(6, 31, width - 17, 24));
-                QCOMPARE(spinner(screen, "garmentSpinner")->geometry(), QRect(6, 61, width - 17, 24));
-                QCOMPARE(spinner(screen, "shiftSpinner")->geometry(), QRect(width - 25, 10, 0, 0));
-                bench.window.rotate();
-            }
-        });
-    }
 };
 
 QTEST_MAIN(ClothingScreenTest)
