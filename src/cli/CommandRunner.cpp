@@ -3,7 +3,9 @@
 
 #include "cli/CityCommands.h"
 #include "cli/DialCommand.h"
+#include "cli/ForecastCommand.h"
 #include "cli/SizesCommand.h"
+#include "cli/WeatherCommands.h"
 
 #include <functional>
 #include <map>
@@ -21,8 +23,11 @@ const std::map<std::string, Command>& commands()
         {"cities", RunCitiesCommand},
         {"city", RunCityCommand},
         {"dial", RunDialCommand},
+        {"favourites", RunFavouritesCommand},
+        {"forecast", RunForecastCommand},
         {"sizes", RunSizesCommand},
         {"time", RunTimeCommand},
+        {"weather", RunWeatherCommand},
     };
     return table;
 }

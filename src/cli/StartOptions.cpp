@@ -8,7 +8,7 @@
 
 namespace {
 
-const std::set<std::string> Commands {"cities", "time", "city", "sizes", "dial"};
+const std::set<std::string> Commands {"cities", "time", "city", "sizes", "dial", "weather", "favourites", "forecast"};
 
 bool parseInt(const std::string& text, int low, int high, int& value)
 {
@@ -128,8 +128,16 @@ Commands (print to standard output, no window):
                           clothing size tables
   dial [TEXT]             international dialing codes of countries containing TEXT
   dial --us [TEXT]        US area codes of cities or states containing TEXT
+  weather [FAVOURITE] [--day N]
+                          the five days of a favourite's forecast (or day N)
+  favourites              the weather favourites: name, location code, last
+                          update, country file
+  forecast import FILE [--favourite NAME]
+                          store an Open-Meteo daily forecast (FILE - is standard
+                          input) for the favourite at its place, or for NAME
 
-CITY is a catalogue position or a name ("Paris" or "Paris:France").
+CITY is a catalogue position or a name ("Paris" or "Paris:France"). FAVOURITE and
+NAME are a favourite's position or name.
 
 Keys: Left/Right move the selection, Return is the action key, F1 and F2 press
 the soft keys, Escape is Back, Ctrl+R rotates the work area.
