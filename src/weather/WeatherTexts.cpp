@@ -5,6 +5,7 @@
 #include "text/WideText.h"
 
 #include <array>
+#include <cstdlib>
 
 namespace {
 
@@ -87,6 +88,19 @@ std::wstring WeatherIconPath(std::wstring_view programPath, std::wstring_view ic
 {
     return std::wstring(programPath.substr(0, programPath.find(L'\\'))) + std::wstring(iconFolder)
         + std::wstring(iconName) + L".bmp";
+}
+
+std::wstring WeatherCityLine(std::wstring_view name, std::optional<ZoneOffset> offset)
+{
+    if (!offset)
+        return std::wstring(name);
+    const OffsetParts parts = SplitZoneOffset(*offset);
+    const bool negative = parts.hours < 0 || parts.minutes < 0;
+    std::wstring line
+        = std::wstring(name) + L" GMT" + (negative ? L"-" : L"+") + std::to_wstring(std::abs(parts.hours));
+    if (parts.minutes != 0)
+        line += FormatText(L":%02d", std::abs(parts.minutes));
+    return line;
 }
 
 std::wstring_view WeekdayLabel(int dayOfWeek)

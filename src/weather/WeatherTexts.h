@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "time/ZoneOffset.h"
+
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -21,6 +24,10 @@
 // the icon name and ".bmp".
 [[nodiscard]] std::wstring WeatherIconPath(
     std::wstring_view programPath, std::wstring_view iconFolder, std::wstring_view iconName);
+
+// The city line: the favourite's name and " GMT" with the city's offset now ("Paris GMT+1",
+// "Delhi GMT+5:30"), or the name alone when the offset is not known.
+[[nodiscard]] std::wstring WeatherCityLine(std::wstring_view name, std::optional<ZoneOffset> offset);
 
 // The weekday label of a day of week (0 = Sunday). Monday's label is the string table's "Done".
 [[nodiscard]] std::wstring_view WeekdayLabel(int dayOfWeek);

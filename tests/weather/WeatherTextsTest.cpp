@@ -88,6 +88,22 @@ TEST(WeatherTexts, IconPathsCutTheProgramPathAtItsFirstBackslash)
     }
 }
 
+TEST(WeatherTexts, CityLines)
+{
+    using Case = std::tuple<std::optional<ZoneOffset>, std::wstring>;
+    const Case cases[] = {
+        {1, L"Paris GMT+1"},
+        {0, L"Paris GMT+0"},
+        {-5, L"Paris GMT-5"},
+        {530, L"Paris GMT+5:30"}, // hours x 100 + minutes
+        {-330, L"Paris GMT-3:30"}, // the minutes carry the sign
+        {-30, L"Paris GMT-30"}, // at most 100 is whole hours
+        {std::nullopt, L"Paris"},
+    };
+    for (const auto& [offset, line] : cases)
+        EXPECT_EQ(WeatherCityLine(L"Paris", offset), line);
+}
+
 TEST(WeatherTexts, WeekdaysAndDaySteps)
 {
     // Sunday to Saturday; the Monday label reads "Done".
