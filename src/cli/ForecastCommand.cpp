@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/ForecastCommand.h"
 
-#include "cli/CoreSession.h"
+#include "cli/CommandSession.h"
 #include "cli/FavouriteLookup.h"
 #include "store/WeatherFavourites.h"
 #include "text/WideText.h"
@@ -65,7 +65,7 @@ std::optional<std::string> ReadInput(const std::string& file)
 }
 
 // The favourite to write; prints why when there is none.
-std::optional<std::uint32_t> TargetFavourite(CoreSession& session, WeatherFavourites& favourites,
+std::optional<std::uint32_t> TargetFavourite(CommandSession& session, WeatherFavourites& favourites,
     const ImportRequest& request, const OpenMeteoForecast& forecast, std::ostream& err)
 {
     if (!request.favourite.empty()) {
@@ -89,34 +89,34 @@ std::optional<std::uint32_t> TargetFavourite(CoreSession& session, WeatherFavour
 
 } // namespace
 
-int RunForecastCommand(const StartOptions& options, std::ostream& out, std::ostream& err)
+int RunForecastCommand(const CommandRequest& request, std::ostream& out, std::ostream& err)
 {
-    const auto request = ParseImportRequest(options.commandArgs, err);
-    if (!request)
+    const auto wanted = ParseImportRequest(request.args, err);
+    if (!wanted)
         return UsageError;
-    const auto bytes = ReadInput(request->file);
+    const auto bytes = ReadInput(wanted->file);
     if (!bytes) {
-        err << "wanderkit forecast: " << request->file << ": cannot be read\n";
+        err << "wanderkit forecast: " << wanted->file << ": cannot be read\n";
         return UsageError;
     }
     std::string problem;
     const auto forecast = OpenMeteoForecast::read(*bytes, problem);
     if (!forecast) {
-        err << "wanderkit forecast: " << request->file << ": " << problem << "; nothing was changed\n";
+        err << "wanderkit forecast: " << wanted->file << ": " << problem << "; nothing was changed\n";
         return UsageError;
     }
-    const auto session = CoreSession::open(options, err);
+    const auto session = CommandSession::open(request, err);
     if (!session)
         return Unusable;
-    WeatherFavourites favourites(session->objects(), session->paths(), session->messages());
+    WeatherFavourites favourites(session->device().objects(), session->paths(), session->messages());
     favourites.loadFavouritesOnce();
-    const auto position = TargetFavourite(*session, favourites, *request, *forecast, err);
+    const auto position = TargetFavourite(*session, favourites, *wanted, *forecast, err);
     if (!position)
         return UsageError;
     const std::wstring name = favourites.getName(*position);
     const std::wstring code = favourites.getLocationCode(*position);
     const std::wstring updateKey = forecast->lastDate() + L":" + favourites.getCountryFile(*position);
-    const int byName = request->favourite.empty() ? 0 : 1;
+    const int byName = wanted->favourite.empty() ? 0 : 1;
     if (!favourites.updateFavourite(name, code, forecast->table().joined(), updateKey, byName)) {
         err << "wanderkit forecast: the forecast of " << WideToUtf8(name) << " could not be stored\n";
         return Unusable;

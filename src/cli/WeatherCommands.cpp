@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/WeatherCommands.h"
 
-#include "cli/CoreSession.h"
+#include "cli/CommandSession.h"
 #include "cli/FavouriteLookup.h"
+#include "device/DeviceClock.h"
 #include "settings/MappingFile.h"
 #include "settings/SettingsTable.h"
 #include "store/WeatherFavourites.h"
@@ -66,21 +67,21 @@ void PrintDay(std::ostream& out, int index, std::wstring_view weekday, const For
 
 } // namespace
 
-int RunWeatherCommand(const StartOptions& options, std::ostream& out, std::ostream& err)
+int RunWeatherCommand(const CommandRequest& request, std::ostream& out, std::ostream& err)
 {
-    const auto request = ParseWeatherRequest(options.commandArgs, err);
-    if (!request)
+    const auto wanted = ParseWeatherRequest(request.args, err);
+    if (!wanted)
         return UsageError;
-    const auto session = CoreSession::open(options, err);
+    const auto session = CommandSession::open(request, err);
     if (!session)
         return Unusable;
-    WeatherFavourites favourites(session->objects(), session->paths(), session->messages());
+    WeatherFavourites favourites(session->device().objects(), session->paths(), session->messages());
     favourites.loadFavouritesOnce();
     std::uint32_t position = ReadSetting(session->settings(), Settings::WeatherPosition);
-    if (!request->favourite.empty()) {
-        const auto found = FindFavourite(favourites, request->favourite);
+    if (!wanted->favourite.empty()) {
+        const auto found = FindFavourite(favourites, wanted->favourite);
         if (!found) {
-            err << "wanderkit weather: no favourite is named or numbered \"" << request->favourite
+            err << "wanderkit weather: no favourite is named or numbered \"" << wanted->favourite
                 << "\" (see wanderkit favourites)\n";
             return UsageError;
         }
@@ -96,21 +97,21 @@ int RunWeatherCommand(const StartOptions& options, std::ostream& out, std::ostre
         return Unusable;
     }
     for (int k = 0; k < ForecastDisplay::Days; ++k)
-        if (request->day == 0 || request->day == k + 1)
+        if (wanted->day == 0 || wanted->day == k + 1)
             PrintDay(out, k, ForecastWeekday(today, k), display->day(k));
     return 0;
 }
 
-int RunFavouritesCommand(const StartOptions& options, std::ostream& out, std::ostream& err)
+int RunFavouritesCommand(const CommandRequest& request, std::ostream& out, std::ostream& err)
 {
-    if (!options.commandArgs.empty()) {
+    if (!request.args.empty()) {
         err << "wanderkit favourites: takes no arguments\nUsage: wanderkit favourites\n";
         return UsageError;
     }
-    const auto session = CoreSession::open(options, err);
+    const auto session = CommandSession::open(request, err);
     if (!session)
         return Unusable;
-    WeatherFavourites favourites(session->objects(), session->paths(), session->messages());
+    WeatherFavourites favourites(session->device().objects(), session->paths(), session->messages());
     favourites.loadFavouritesOnce();
     const std::uint16_t count = favourites.count();
     for (std::uint32_t i = 0; i < count; ++i)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "cli/StartOptions.h"
+#include "cli/CommandRequest.h"
 
 #include <iosfwd>
 
@@ -10,8 +10,8 @@
 // temperatures, precipitation, sunrise, sunset, felt temperatures, the day's date and the forecast's date
 // (these two only when the forecast does not start today). FAVOURITE is a name
 // (any case) or a position; without it, the favourite the screen shows ("wetp").
-int RunWeatherCommand(const StartOptions& options, std::ostream& out, std::ostream& err);
+int RunWeatherCommand(const CommandRequest& request, std::ostream& out, std::ostream& err);
 
 // `wanderkit favourites`: one line per favourite in store order: name, location code, last update and
 // country file, tab-separated.
-int RunFavouritesCommand(const StartOptions& options, std::ostream& out, std::ostream& err);
+int RunFavouritesCommand(const CommandRequest& request, std::ostream& out, std::ostream& err);

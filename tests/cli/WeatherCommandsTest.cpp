@@ -32,7 +32,7 @@ protected:
     CommandResult run(
         const std::string& command, const std::vector<std::string>& args, const char* now = "2026-11-24 09:00:00")
     {
-        StartOptions options;
+        DeviceOptions options;
         options.stateDir = state.path();
         options.deviceRoot = device.path();
         options.now = SystemDeviceClock::parseLocalTime(now);
