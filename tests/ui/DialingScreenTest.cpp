@@ -72,6 +72,24 @@ private slots:
         }
     }
 
+    void aLetterChoosesTheListStartingWithIt()
+    {
+        ScreenTestBench bench;
+        DialingScreen screen(bench.environment, bench.window);
+        bench.visit(screen, [&] {
+            const QImage internationalShown = bench.render();
+            bench.press(Qt::Key_U); // "US Area Codes"
+            QCOMPARE(chooser(screen)->currentText(), QStringLiteral("US Area Codes"));
+            QVERIFY(areaCodes(screen)->isVisible() && !international(screen)->isVisible());
+            bench.press(Qt::Key_X); // nothing starts with it
+            QCOMPARE(chooser(screen)->currentIndex(), 1);
+            bench.press(Qt::Key_I);
+            QCOMPARE(chooser(screen)->currentIndex(), 0);
+            QVERIFY(international(screen)->isVisible() && !areaCodes(screen)->isVisible());
+            QCOMPARE(bench.render(), internationalShown);
+        });
+    }
+
     void theListsHoldEveryRowInTableOrder()
     {
         ScreenTestBench bench;
