@@ -3,9 +3,11 @@
 
 #include "ScreenTestBench.h"
 #include "reference/DialingCodes.h"
+#include "ui/Painting.h"
 #include "ui/ReportList.h"
 #include "ui/Spinner.h"
 
+#include <QPainter>
 #include <QTest>
 
 #include <tuple>
@@ -87,6 +89,26 @@ private slots:
             QCOMPARE(chooser(screen)->currentIndex(), 0);
             QVERIFY(international(screen)->isVisible() && !areaCodes(screen)->isVisible());
             QCOMPARE(bench.render(), internationalShown);
+        });
+    }
+
+    void theTitleStartsAtTheBandsTopLeft()
+    {
+        // The text as the handheld writes it: its cell's top-left corner at (5, 0), baseline at the ascent.
+        const QFont font = Painting::makeFont(24, Painting::Bold);
+        QImage expected(240, 25, QImage::Format_RGB32);
+        expected.fill(QColor(0, 178, 235));
+        {
+            QPainter painter(&expected);
+            painter.setFont(font);
+            painter.setPen(Qt::white);
+            painter.drawText(5, QFontMetrics(font).ascent(), QStringLiteral("Dialing codes"));
+        }
+        ScreenTestBench bench;
+        DialingScreen screen(bench.environment, bench.window);
+        bench.visit(screen, [&] {
+            const QImage band = bench.render().copy(0, 0, 240, 25).convertToFormat(QImage::Format_RGB32);
+            QCOMPARE(band, expected);
         });
     }
 

@@ -118,8 +118,12 @@ void DialingScreen::layout(int width, int height)
 
 void DialingScreen::paint(QPainter& painter)
 {
-    Painting::drawBand(painter, QRect(0, 0, workWidth(), Band), Painting::ConverterBand,
-        Painting::loadString(ScreenTitle), m_titleFont);
+    // The title's text cell starts at (5, 0), not centred in the band.
+    painter.fillRect(QRect(0, 0, workWidth(), Band), Painting::ConverterBand);
+    painter.setFont(m_titleFont);
+    painter.setPen(Painting::White);
+    painter.drawText(
+        QRect(5, 0, workWidth() - 5, Band), Qt::AlignLeft | Qt::AlignTop, Painting::loadString(ScreenTitle));
     // A frame one pixel outside the chooser.
     const QRect chooser = m_chooser->geometry();
     painter.setPen(Qt::black);
