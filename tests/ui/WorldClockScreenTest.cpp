@@ -101,8 +101,8 @@ private slots:
         ScreenTestBench bench;
         std::ifstream shipped(WANDERKIT_SHIPPED_DEVICE_ROOT "/cities.lst", std::ios::binary);
         bench.root.write("cities.lst", std::string(std::istreambuf_iterator<char>(shipped), {}));
-        CityCatalogue cities {*bench.objects, bench.paths, bench.messages};
-        WeatherFavourites favourites {*bench.objects, bench.paths, bench.messages};
+        CityCatalogue cities {bench.objects, bench.paths, bench.messages};
+        WeatherFavourites favourites {bench.objects, bench.paths, bench.messages};
         cities.Load();
         favourites.loadFavouritesOnce();
         // The catalogue's widest name in the home name's full size.
@@ -114,7 +114,7 @@ private slots:
             if (metrics.horizontalAdvance(name) > metrics.horizontalAdvance(widestName))
                 std::tie(widest, widestName) = std::pair(i, name);
         }
-        RegistrySettings registry {*bench.settings};
+        RegistrySettings registry {bench.settings};
         registry.SetDWORD(ClockKey, L"clock", widest);
         registry.SetDWORD(L"Wanderkit", L"twelvehour", 1);
         bench.clock.set(FakeDeviceClock::at(2026, 1, 5, 0, 0, 0));
