@@ -74,6 +74,7 @@ WeatherScreen::WeatherScreen(ScreenEnvironment& environment, DeviceWindow& windo
     , m_cities(environment.objects, environment.paths, environment.messages)
     , m_settings(environment.settings)
     , m_days(new Spinner(this))
+    , m_title(Painting::ShellBand, ScreenTitle)
 {
     m_days->setObjectName(QStringLiteral("daySpinner"));
     m_days->setWrapping(true);
@@ -88,7 +89,6 @@ void WeatherScreen::setEntryCity(const std::wstring& cityName)
 
 void WeatherScreen::initialise()
 {
-    m_titleHeight = 25;
     readHomeCity();
     m_mapping = ReadMappingText(m_settings, environment().paths);
     m_favourites.loadFavouritesOnce();
@@ -109,6 +109,7 @@ void WeatherScreen::initialise()
     m_conditionFont = Painting::makeFont(18, Painting::Bold);
     m_cityFont = Painting::makeFont(20, Painting::Bold);
     m_temperatureFont = Painting::makeFont(35, Painting::Bold);
+    m_title = TitleBand(Painting::ShellBand, ScreenTitle, m_titleFont);
     m_days->setItems(
         {QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3"), QStringLiteral("4"), QStringLiteral("5")});
     m_days->setFont(m_valueFont);
@@ -218,7 +219,8 @@ void WeatherScreen::layout(int width, int height)
     m_weekdayInCard = height < 260;
     m_twoColumns = width >= 440;
     const int inner = width - 2 * Margin;
-    const int lineTop = m_titleHeight + 3;
+    m_title.layout(width);
+    const int lineTop = TitleBand::Height + 3;
     const int spinnerLeft = width - Margin - DaySpinnerWidth;
     m_cityBand = QRect(Margin, lineTop, m_weekdayInCard ? spinnerLeft - 4 - Margin : inner, 24);
     const int cardTop = m_weekdayInCard ? lineTop + 26 + 6 : lineTop + 24 + 3 + 26 + 6;
@@ -232,9 +234,7 @@ void WeatherScreen::layout(int width, int height)
 
 void WeatherScreen::paint(QPainter& painter)
 {
-    const int width = workWidth();
-    Painting::drawBand(painter, QRect(0, 0, width, m_titleHeight), Painting::ShellBand,
-        Painting::loadString(ScreenTitle), m_titleFont);
+    m_title.paint(painter);
     painter.setPen(Painting::White);
     DrawText(painter, m_cityFont, m_cityBand.left(), m_cityBand.top(), m_cityBand.right(), m_cityLine);
     paintDay(painter);

@@ -5,6 +5,7 @@
 #include "store/CityCatalogue.h"
 #include "time/ZoneOffset.h"
 #include "ui/Screen.h"
+#include "ui/TitleBand.h"
 #include "weather/ForecastDisplay.h"
 
 #include <QFont>
@@ -88,7 +89,7 @@ private:
     Spinner* m_days;
     // Bold 23 (title), normal 18, normal 20, bold 18, bold 20, bold 35.
     QFont m_titleFont, m_labelFont, m_valueFont, m_conditionFont, m_cityFont, m_temperatureFont;
-    int m_titleHeight = 25;
+    TitleBand m_title;
     bool m_weekdayInCard = false;
     bool m_twoColumns = false;
     int m_labelWidth = 0;
