@@ -198,7 +198,8 @@ void WeatherScreen::changeFavourite()
 
 QString WeatherScreen::shownWeekday() const
 {
-    return toQString(ForecastWeekday(m_today, m_currentDay - 1));
+    // Day 1 is today.
+    return m_weekdays[static_cast<std::size_t>((m_today.dayOfWeek + m_currentDay - 1) % 7)];
 }
 
 QString WeatherScreen::cityLine() const
