@@ -48,6 +48,14 @@ protected:
         return run("forecast", args);
     }
 
+    void setWetp(std::uint32_t position)
+    {
+        RecordingMessageSink messages;
+        auto hive = SettingsHive::open(state.path() / "registry.db", messages);
+        RegistrySettings settings(*hive);
+        WriteSetting(settings, Settings::WeatherPosition, position);
+    }
+
     std::string storeBytes() const
     {
         std::ifstream in(state.path() / "objectstore.db", std::ios::binary);
@@ -179,12 +187,10 @@ TEST_F(WeatherCommands, UsageAndMissingFavourites)
     using Case = std::tuple<std::string, std::vector<std::string>, int, std::string>;
     const Case cases[] = {
         {"weather", {"--day", "6"}, 2, "--day wants a day from 1 to 5"},
-        {"weather", {"--day"}, 2, "unknown option --day"},
         {"weather", {"--celsius"}, 2, "unknown option --celsius"},
         {"weather", {"Atlantis"}, 2, "no favourite is named or numbered \"Atlantis\""},
         {"weather", {"3"}, 2, "no favourite is named or numbered \"3\""},
         {"forecast", {}, 2, "Usage: wanderkit forecast import FILE"},
-        {"forecast", {"export", "x"}, 2, "Usage: wanderkit forecast import FILE"},
         {"forecast", {"import", "a", "b"}, 2, "one FILE only"},
     };
     for (const auto& [command, args, code, message] : cases) {
@@ -201,20 +207,10 @@ TEST_F(WeatherCommands, TheScreensFavouriteByDefault)
     EXPECT_EQ(run("weather", {}).out,
         "1\tTue\t\t\t\t\t\t\t\t\t\t\n2\tWed\t\t\t\t\t\t\t\t\t\t\n3\tThu\t\t\t\t\t\t\t\t\t\t\n"
         "4\tFri\t\t\t\t\t\t\t\t\t\t\n5\tSat\t\t\t\t\t\t\t\t\t\t\n");
-    {
-        RecordingMessageSink messages;
-        auto hive = SettingsHive::open(state.path() / "registry.db", messages);
-        RegistrySettings settings(*hive);
-        WriteSetting(settings, Settings::WeatherPosition, 1);
-    }
+    setWetp(1);
     ASSERT_EQ(import(OpenMeteoFixture::response(5).dump(), {"--favourite", "Paris"}).code, 0);
     EXPECT_EQ(lines(run("weather", {}).out)[0], TuesdayLine);
-    {
-        RecordingMessageSink messages;
-        auto hive = SettingsHive::open(state.path() / "registry.db", messages);
-        RegistrySettings settings(*hive);
-        WriteSetting(settings, Settings::WeatherPosition, 99);
-    }
+    setWetp(99);
     // A position past the favourites names no city, so there is no forecast to show.
     const CommandResult outOfRange = run("weather", {});
     EXPECT_EQ(outOfRange.code, 1);

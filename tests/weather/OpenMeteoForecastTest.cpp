@@ -81,13 +81,9 @@ TEST(OpenMeteoForecast, CodesNullsAndUnits)
         {"a negative half rounds away from zero", [](auto& j) { j["daily"]["temperature_2m_min"][0] = -2.5; }, 4,
             L"-3"},
         {"a null felt temperature", [](auto& j) { j["daily"]["apparent_temperature_min"][0] = nullptr; }, 8, L"19/-"},
-        {"a null sunrise", [](auto& j) { j["daily"]["sunrise"][0] = nullptr; }, 7, L"-"},
-        {"a null wind", [](auto& j) { j["daily"]["wind_speed_10m_max"][0] = nullptr; }, 2, L"-"},
         {"wind in knots", [](auto& j) { j["daily_units"]["wind_speed_10m_max"] = "kn"; }, 2, L"18 kn"},
         {"no units at all", [](auto& j) { j.erase("daily_units"); }, 2, L"18 km/h"},
         {"north at 355 degrees", [](auto& j) { j["daily"]["wind_direction_10m_dominant"][0] = 355; }, 3, L"N"},
-        {"east-north-east at 67.5 degrees", [](auto& j) { j["daily"]["wind_direction_10m_dominant"][0] = 67.5; }, 3,
-            L"ENE"},
     };
     for (const auto& [what, edit, field, text] : cases) {
         SCOPED_TRACE(what);
@@ -113,7 +109,6 @@ TEST(OpenMeteoForecast, RefusesWhatIsNotADailyForecast)
     const Case cases[] = {
         {"empty", "", "is not complete, well-formed JSON"},
         {"truncated", good.substr(0, good.size() / 2), "is not complete, well-formed JSON"},
-        {"text after the object", good + "x", "is not complete, well-formed JSON"},
         {"not UTF-8", "{\"a\":\"\xff\"}", "is not complete, well-formed JSON"},
         {"an array", "[1,2]", "does not hold a JSON object"},
         {"deeply nested", std::string(100000, '[') + std::string(100000, ']'), "does not hold a JSON object"},
@@ -121,7 +116,6 @@ TEST(OpenMeteoForecast, RefusesWhatIsNotADailyForecast)
         {"a service error", R"({"error":true,"reason":"Latitude must be in range of -90 to 90\u00B0."})",
             "is an error report of the forecast service: \"Latitude must be in range of -90 to 90??...\""},
         {"no daily", edited([](auto& j) { j.erase("daily"); }), "has no \"daily\" object"},
-        {"daily not an object", edited([](auto& j) { j["daily"] = "x"; }), "has no \"daily\" object"},
         {"no days", edited([](auto& j) { j["daily"]["time"] = nlohmann::json::array(); }), "holds no days"},
         {"a date of another form", edited([](auto& j) { j["daily"]["time"][2] = "26.11.2026"; }),
             "daily.time[2] is not a date written YYYY-MM-DD"},
@@ -134,8 +128,6 @@ TEST(OpenMeteoForecast, RefusesWhatIsNotADailyForecast)
             "daily.temperature_2m_max has 4 values for 5 days"},
         {"a text for a number", edited([](auto& j) { j["daily"]["temperature_2m_max"][1] = "21"; }),
             "daily.temperature_2m_max[1] is not a number"},
-        {"a boolean for a number", edited([](auto& j) { j["daily"]["wind_speed_10m_max"][0] = true; }),
-            "daily.wind_speed_10m_max[0] is not a number"},
         {"a temperature out of range", edited([](auto& j) { j["daily"]["temperature_2m_min"][4] = 1e300; }),
             "daily.temperature_2m_min[4] = 1e+300 lies outside -100 to 100"},
         {"a code out of range", edited([](auto& j) { j["daily"]["weather_code"][0] = 100; }),

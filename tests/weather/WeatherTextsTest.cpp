@@ -13,14 +13,12 @@ TEST(WeatherTexts, TemperaturesInFahrenheit)
         {L"21\u00B0 : 13\u00B0", L"70\u00B0 : 55\u00B0"},
         // -5 °C = 23 °F; -40 is the same on both scales; 0 °C = 32 °F; 100 °C = 212 °F.
         {L"-5\u00B0 : -40\u00B0", L"23\u00B0 : -40\u00B0"},
-        {L"0\u00B0 : 100\u00B0", L"32\u00B0 : 212\u00B0"},
         // -18 °C = -0.4 °F prints as "-0"; 37 °C = 98.6 °F.
         {L"37\u00B0 : -18\u00B0", L"99\u00B0 : -0\u00B0"},
         {L"-\u00B0 : 13\u00B0", L"-\u00B0 : 55\u00B0"},
         {L"N/A\u00B0 : 13\u00B0", L"N/A\u00B0 : 55\u00B0"},
         {L"21\u00B0 : -\u00B0", L"70\u00B0 : -\u00B0"},
         {L"21\u00B0 : N/A\u00B0", L"70\u00B0 : N/A\u00B0"},
-        {L"-\u00B0 : N/A\u00B0", L"-\u00B0 : N/A\u00B0"},
         // Empty parts read as 0 °C.
         {L"\u00B0 : \u00B0", L"32\u00B0 : 32\u00B0"},
         // Text after the number is ignored as _wtol ignores it.
@@ -97,7 +95,6 @@ TEST(WeatherTexts, CityLines)
         {-5, L"Paris GMT-5"},
         {530, L"Paris GMT+5:30"}, // hours x 100 + minutes
         {-330, L"Paris GMT-3:30"}, // the minutes carry the sign
-        {-30, L"Paris GMT-30"}, // at most 100 is whole hours
         {std::nullopt, L"Paris"},
     };
     for (const auto& [offset, line] : cases)
@@ -117,15 +114,5 @@ TEST(WeatherTexts, WeekdaysAndDaySteps)
     for (const auto& [day, delta, next] : steps) {
         SCOPED_TRACE(testing::Message() << day << " by " << delta);
         EXPECT_EQ(SteppedDay(day, delta), next);
-    }
-    // Five steps either way come back to the same day.
-    for (int day = 1; day <= 5; ++day) {
-        int forward = day, back = day;
-        for (int i = 0; i < 5; ++i) {
-            forward = SteppedDay(forward, 1);
-            back = SteppedDay(back, -1);
-        }
-        EXPECT_EQ(forward, day);
-        EXPECT_EQ(back, day);
     }
 }
