@@ -12,8 +12,7 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     std::string error;
-    const auto forecast
-        = OpenMeteoForecast::read(std::string_view(reinterpret_cast<const char*>(data), size), error);
+    const auto forecast = OpenMeteoForecast::read(std::string_view(reinterpret_cast<const char*>(data), size), error);
     if (!forecast) {
         if (error.empty())
             __builtin_trap();
