@@ -76,8 +76,7 @@ std::optional<std::uint32_t> TargetFavourite(CommandSession& session, WeatherFav
         return found;
     }
     if (!forecast.latitude() || !forecast.longitude()) {
-        err << "wanderkit forecast: " << request.file
-            << " does not say where it is; name the favourite with --favourite\n";
+        err << "wanderkit forecast: the forecast does not say where it is; name the favourite with --favourite\n";
         return std::nullopt;
     }
     const auto near = FavouriteNear(favourites, session.cities(), *forecast.latitude(), *forecast.longitude());
@@ -95,14 +94,15 @@ int RunForecastCommand(const CommandRequest& request, std::ostream& out, std::os
     if (!wanted)
         return UsageError;
     const auto bytes = ReadInput(wanted->file);
+    const std::string shownName = wanted->file == "-" ? "standard input" : wanted->file;
     if (!bytes) {
-        err << "wanderkit forecast: " << wanted->file << ": cannot be read\n";
+        err << "wanderkit forecast: " << shownName << ": cannot be read\n";
         return UsageError;
     }
     std::string problem;
     const auto forecast = OpenMeteoForecast::read(*bytes, problem);
     if (!forecast) {
-        err << "wanderkit forecast: " << wanted->file << ": " << problem << "; nothing was changed\n";
+        err << "wanderkit forecast: " << shownName << ": " << problem << "; nothing was changed\n";
         return UsageError;
     }
     const auto session = CommandSession::open(request, err);

@@ -149,6 +149,11 @@ TEST_F(WeatherCommands, StandardInputIsAFileToo)
     std::cin.rdbuf(saved);
     EXPECT_EQ(imported.code, 0) << imported.err;
     EXPECT_EQ(lines(run("weather", {"london"}).out)[0].substr(0, 12), "1\tTue\t\\wicon");
+    std::istringstream truncated("{\"daily\":");
+    std::cin.rdbuf(truncated.rdbuf());
+    const CommandResult refused = run("forecast", {"import", "-", "--favourite", "London"});
+    std::cin.rdbuf(saved);
+    EXPECT_EQ(refused.err.substr(0, 60), "wanderkit forecast: standard input: is not complete, well-fo");
 }
 
 TEST_F(WeatherCommands, RefusedFilesChangeNothing)
