@@ -100,8 +100,12 @@ void FavouritesDialog::reloadCountry()
 
 void FavouritesDialog::command(int id)
 {
+    // The action key presses the focused button, as in a dialog.
+    auto* focused = qobject_cast<QPushButton*>(focusWidget());
     if (id == Commands::Add)
         showAddView();
+    else if (id == Commands::Ok && focused)
+        focused->click();
     else
         Screen::command(id);
 }
