@@ -26,6 +26,7 @@ public:
     const DevicePaths& paths() const { return m_paths; }
     RegistrySettings& settings() { return m_registry; }
     CityCatalogue& cities() { return m_cities; }
+    ObjectStore& objects() { return *m_objects; }
 
 private:
     class ErrorStreamSink final : public MessageSink
