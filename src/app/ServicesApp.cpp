@@ -3,6 +3,7 @@
 
 #include "screens/clothing/ClothingScreen.h"
 #include "screens/dialing/DialingScreen.h"
+#include "screens/measure/MeasureScreen.h"
 #include "screens/worldclock/WorldClockScreen.h"
 #include "settings/SettingsTable.h"
 #include "ui/BusyCursor.h"
@@ -20,6 +21,7 @@ namespace {
 constexpr int LauncherMenuBar = 107;
 constexpr int Columns = 4;
 constexpr std::size_t WorldClocksService = 0;
+constexpr std::size_t MeasureService = 4;
 constexpr std::size_t ClothingService = 5;
 constexpr std::size_t DialingService = 6;
 // String ids of the service labels, in selection order.
@@ -39,6 +41,7 @@ ServicesApp::ServicesApp(ScreenEnvironment& environment, DeviceWindow& window)
     m_selector->setWrapping(true);
     watchSpinner(*m_selector);
     m_screens[WorldClocksService] = std::make_unique<WorldClockScreen>(environment, window, m_cities, m_favourites);
+    m_screens[MeasureService] = std::make_unique<MeasureScreen>(environment, window);
     m_screens[ClothingService] = std::make_unique<ClothingScreen>(environment, window);
     m_screens[DialingService] = std::make_unique<DialingScreen>(environment, window);
 }
