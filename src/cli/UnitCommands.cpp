@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/UnitCommands.h"
 
+#include "cli/CommandSession.h"
 #include "cli/CommandWords.h"
-#include "cli/CoreSession.h"
 #include "cli/UnitLookup.h"
 #include "text/StringTable.h"
 #include "text/WideText.h"
@@ -27,12 +27,12 @@ constexpr int BelowAbsoluteZero = 40055;
 using UnitPair = std::pair<UnitPlace, UnitPlace>;
 
 // The units as the Measurements screen reads them, the catalogue built first if needed.
-std::optional<UnitLists> readLists(const StartOptions& options, std::ostream& err)
+std::optional<UnitLists> readLists(const CommandRequest& request, std::ostream& err)
 {
-    const auto session = CoreSession::open(options, err);
+    const auto session = CommandSession::open(request, err);
     if (!session)
         return std::nullopt;
-    UnitCatalogue catalogue(session->objects());
+    UnitCatalogue catalogue(session->device().objects());
     catalogue.Build();
     return UnitLists::Read(catalogue);
 }
@@ -121,9 +121,9 @@ void printCategory(std::ostream& out, const UnitLists& lists, int category)
 
 } // namespace
 
-int RunConvertCommand(const StartOptions& options, std::ostream& out, std::ostream& err)
+int RunConvertCommand(const CommandRequest& request, std::ostream& out, std::ostream& err)
 {
-    const CommandWords args = CommandWords::split(options.commandArgs);
+    const CommandWords args = CommandWords::split(request.args);
     if (!args.options.empty()) {
         err << "wanderkit convert: unknown option " << args.options.front() << '\n' << ConvertUsage;
         return 2;
@@ -132,7 +132,7 @@ int RunConvertCommand(const StartOptions& options, std::ostream& out, std::ostre
         err << ConvertUsage;
         return 2;
     }
-    const auto lists = readLists(options, err);
+    const auto lists = readLists(request, err);
     if (!lists)
         return 1;
     const UnitLookup lookup(*lists);
@@ -149,9 +149,9 @@ int RunConvertCommand(const StartOptions& options, std::ostream& out, std::ostre
     return 0;
 }
 
-int RunUnitsCommand(const StartOptions& options, std::ostream& out, std::ostream& err)
+int RunUnitsCommand(const CommandRequest& request, std::ostream& out, std::ostream& err)
 {
-    const CommandWords args = CommandWords::split(options.commandArgs);
+    const CommandWords args = CommandWords::split(request.args);
     if (!args.options.empty()) {
         err << "wanderkit units: unknown option " << args.options.front() << '\n' << UnitsUsage;
         return 2;
@@ -167,7 +167,7 @@ int RunUnitsCommand(const StartOptions& options, std::ostream& out, std::ostream
             return 2;
         }
     }
-    const auto lists = readLists(options, err);
+    const auto lists = readLists(request, err);
     if (!lists)
         return 1;
     for (int category = 0; category < UnitTables::CategoryCount; ++category) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "cli/StartOptions.h"
+#include "cli/CommandRequest.h"
 
 #include <iosfwd>
 
@@ -10,9 +10,9 @@
 // (any case, or the unique start of a name) or "C:I", the category and unit indices of the screen's lists;
 // a name found in several categories is taken from the category the other unit belongs to. An unknown or
 // ambiguous unit is a usage error (2) that lists the candidates. A negative AMOUNT is an amount.
-int RunConvertCommand(const StartOptions& options, std::ostream& out, std::ostream& err);
+int RunConvertCommand(const CommandRequest& request, std::ostream& out, std::ostream& err);
 
 // `wanderkit units [CATEGORY]`: each category's title, then its units in the screen's order as name and
 // factor text, tab-separated; categories separated by an empty line. CATEGORY is an index 0 to 6 or the
 // (start of the) title, any case.
-int RunUnitsCommand(const StartOptions& options, std::ostream& out, std::ostream& err);
+int RunUnitsCommand(const CommandRequest& request, std::ostream& out, std::ostream& err);

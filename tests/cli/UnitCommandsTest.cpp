@@ -2,6 +2,7 @@
 #include "CityFixture.h"
 #include "CommandResult.h"
 #include "TempDir.h"
+#include "cli/CommandWords.h"
 
 #include <gtest/gtest.h>
 
@@ -18,7 +19,7 @@ protected:
 
     CommandResult run(const std::string& command, const std::vector<std::string>& args)
     {
-        StartOptions options;
+        DeviceOptions options;
         options.stateDir = state.path();
         options.deviceRoot = device.path();
         return CommandResult::of(command, args, options);
@@ -110,12 +111,9 @@ TEST_F(UnitCommands, UnitsListsTheCatalogueInTheScreensOrder)
         unknown.err.find("no category \"colours\"; choose 0 to 6 or one of: Areas and Surfaces, "), std::string::npos);
 }
 
-TEST(UnitCommandWords, NegativeAmountsPassTheOptionParsers)
+TEST(UnitCommandWords, NegativeNumbersAreWordsNotOptions)
 {
-    std::string error;
-    const auto options = StartOptions::parse({"convert", "-40", "4:0", "4:1", "--state-dir", "/tmp/x"}, error);
-    ASSERT_TRUE(options) << error;
-    EXPECT_EQ(options->command, "convert");
-    EXPECT_EQ(options->commandArgs, (std::vector<std::string> {"-40", "4:0", "4:1"}));
-    EXPECT_EQ(options->stateDir, std::filesystem::path("/tmp/x"));
+    const CommandWords split = CommandWords::split({"-40", "-.5", "-x", "--us", "-", "-.", "4:0"});
+    EXPECT_EQ(split.words, (std::vector<std::string> {"-40", "-.5", "4:0"}));
+    EXPECT_EQ(split.options, (std::vector<std::string> {"-x", "--us", "-", "-."}));
 }

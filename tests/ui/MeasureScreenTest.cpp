@@ -52,7 +52,7 @@ struct Stored
 
 void store(ScreenTestBench& bench, const Stored& stored)
 {
-    RegistrySettings settings(*bench.settings);
+    RegistrySettings settings(bench.settings);
     const std::pair<const DwordSetting&, std::optional<std::uint32_t>> dwords[] = {{Settings::MeasureType, stored.type},
         {Settings::MeasureUnit1, stored.unit1}, {Settings::MeasureUnit2, stored.unit2}};
     for (const auto& [setting, value] : dwords) {
@@ -67,7 +67,7 @@ constexpr std::uint32_t NotStored = 0xFFFFFFFFu;
 
 std::uint32_t stored(ScreenTestBench& bench, const DwordSetting& setting)
 {
-    RegistrySettings settings(*bench.settings);
+    RegistrySettings settings(bench.settings);
     const std::uint32_t value = settings.GetDWORD(setting.subkey, setting.name);
     return settings.Status() == RegistrySettings::Read ? value : NotStored;
 }
@@ -177,9 +177,9 @@ private slots:
         bench.visit(screen, [&] {
             QCOMPARE(result(screen), QStringLiteral("246.150000"));
             type(bench, screen, QStringLiteral("5"));
-            QCOMPARE(bench.boxes.size(), std::size_t {1});
-            QCOMPARE(bench.boxes.front().text, QStringLiteral("Below Absolute Zero"));
-            QCOMPARE(bench.boxes.front().caption, QString());
+            QCOMPARE(bench.boxes.shown.size(), std::size_t {1});
+            QCOMPARE(bench.boxes.shown.front().text, QStringLiteral("Below Absolute Zero"));
+            QCOMPARE(bench.boxes.shown.front().caption, QString());
             QCOMPARE(result(screen), QStringLiteral("0"));
             QCOMPARE(amount(screen), QStringLiteral("-275"));
         });
@@ -233,7 +233,7 @@ private slots:
     {
         ScreenTestBench bench;
         MeasureScreen screen(bench.environment, bench.window);
-        UnitCatalogue catalogue(*bench.objects);
+        UnitCatalogue catalogue(bench.objects);
         catalogue.Build();
         for (int i = 0; i < 22; ++i) // every area
             QVERIFY(catalogue.DeleteUnitAt(0));
@@ -260,7 +260,7 @@ private slots:
         MeasureScreen screen(bench.environment, bench.window);
         const QString digits = QString(60, QLatin1Char('7'));
         bench.visit(screen, [&] { type(bench, screen, digits); });
-        RegistrySettings settings(*bench.settings);
+        RegistrySettings settings(bench.settings);
         QCOMPARE(ReadSetting(settings, Settings::MeasureValue), std::wstring(49, L'7'));
         bench.visit(screen, [&] { QCOMPARE(amount(screen), digits.left(49)); });
     }

@@ -8,6 +8,7 @@
 #include "ui/Painting.h"
 #include "ui/SoftKeyBar.h"
 #include "ui/Spinner.h"
+#include "ui/WideString.h"
 #include "units/UnitConversion.h"
 
 #include <QLineEdit>
@@ -16,7 +17,6 @@
 
 namespace {
 
-constexpr int MeasureMenuBar = 112;
 constexpr int ScreenTitle = 40044; // "Measurements"
 constexpr int ConvertLabel = 40054;
 constexpr int FromLabel = 40052;
@@ -44,16 +44,11 @@ constexpr int ConvertLabelTop = 28;
 constexpr int FromLabelTop = Band + 60;
 constexpr int ToLabelTop = Band + 150;
 
-QString fromWide(std::wstring_view text)
-{
-    return QString::fromWCharArray(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 QStringList toStrings(const std::vector<std::wstring>& texts)
 {
     QStringList strings;
     for (const std::wstring& text : texts)
-        strings << fromWide(text);
+        strings << toQString(text);
     return strings;
 }
 
@@ -66,7 +61,7 @@ void drawTextAt(QPainter& painter, const QFont& font, int left, int top, const Q
 } // namespace
 
 MeasureScreen::MeasureScreen(ScreenEnvironment& environment, DeviceWindow& window)
-    : Screen(environment, window, MeasureMenuBar, QStringLiteral("measure"))
+    : Screen(environment, window, MenuBarId::Converter, QStringLiteral("measure"))
     , m_settings(environment.settings)
     , m_catalogue(environment.objects)
     , m_categorySpinner(new Spinner(this))
@@ -118,7 +113,7 @@ void MeasureScreen::initialise()
         list->setFont(m_listFont);
     m_resultEdit->setText(QStringLiteral("0"));
     setAmount(QStringLiteral("0"));
-    setAmount(fromWide(ReadSetting(m_settings, Settings::MeasureValue)));
+    setAmount(toQString(ReadSetting(m_settings, Settings::MeasureValue)));
     // The conversions made while opening leave "Undo" grey.
     setUndoEnabled(false);
     m_categorySpinner->setFocus();
@@ -152,10 +147,10 @@ void MeasureScreen::changeCategory()
 void MeasureScreen::convert()
 {
     const auto result = UnitConversion::Convert(m_units, m_categorySpinner->currentIndex(),
-        m_fromSpinner->currentIndex(), m_toSpinner->currentIndex(), m_amountEdit->text().toStdWString());
+        m_fromSpinner->currentIndex(), m_toSpinner->currentIndex(), toWide(m_amountEdit->text()));
     if (result.belowAbsoluteZero)
-        MessageBox::show(this, Painting::loadString(BelowAbsoluteZero), QString());
-    m_resultEdit->setText(fromWide(result.text));
+        environment().boxes.show(this, Painting::loadString(BelowAbsoluteZero), QString());
+    m_resultEdit->setText(toQString(result.text));
     setUndoEnabled(true);
 }
 
@@ -229,5 +224,5 @@ void MeasureScreen::destroyWork()
         if (list->currentIndex() >= 0)
             WriteSetting(m_settings, setting, static_cast<std::uint32_t>(list->currentIndex()));
     }
-    WriteSetting(m_settings, Settings::MeasureValue, UnitConversion::AmountText(m_amountEdit->text().toStdWString()));
+    WriteSetting(m_settings, Settings::MeasureValue, UnitConversion::AmountText(toWide(m_amountEdit->text())));
 }
