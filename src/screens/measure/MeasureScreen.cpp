@@ -5,13 +5,14 @@
 #include "ui/BusyCursor.h"
 #include "ui/Commands.h"
 #include "ui/MessageBox.h"
+#include "ui/NumericEdit.h"
 #include "ui/Painting.h"
 #include "ui/SoftKeyBar.h"
 #include "ui/Spinner.h"
+#include "ui/TitleBand.h"
 #include "ui/WideString.h"
 #include "units/UnitConversion.h"
 
-#include <QLineEdit>
 #include <QPainter>
 #include <QSignalBlocker>
 
@@ -26,7 +27,7 @@ constexpr int BelowAbsoluteZero = 40055;
 // Layout, b being the title band's height and W the work area's width: the category list at (6, b+26),
 // W-17 wide; the from list, the amount field, the to list and the result field below it. Lists are 24
 // high and end 11 pixels from the right edge, the fields 25 high and 10 from it.
-constexpr int Band = 25;
+constexpr int Band = TitleBand::Height;
 constexpr int ListLeft = 6;
 constexpr int ListHeight = 24;
 constexpr int ListRightMargin = 11;
@@ -62,13 +63,14 @@ void drawTextAt(QPainter& painter, const QFont& font, int left, int top, const Q
 
 MeasureScreen::MeasureScreen(ScreenEnvironment& environment, DeviceWindow& window)
     : Screen(environment, window, MenuBarId::Converter, QStringLiteral("measure"))
+    , m_title(Painting::ConverterBand, ScreenTitle)
     , m_settings(environment.settings)
     , m_catalogue(environment.objects)
     , m_categorySpinner(new Spinner(this))
     , m_fromSpinner(new Spinner(this))
     , m_toSpinner(new Spinner(this))
-    , m_amountEdit(new QLineEdit(this))
-    , m_resultEdit(new QLineEdit(this))
+    , m_amountEdit(new NumericEdit(this))
+    , m_resultEdit(new NumericEdit(this))
 {
     setBackgroundPicture(L"bconv.jpg");
     m_categorySpinner->setObjectName(QStringLiteral("categorySpinner"));
@@ -76,7 +78,7 @@ MeasureScreen::MeasureScreen(ScreenEnvironment& environment, DeviceWindow& windo
     m_toSpinner->setObjectName(QStringLiteral("toSpinner"));
     m_amountEdit->setObjectName(QStringLiteral("amountLineEdit"));
     m_resultEdit->setObjectName(QStringLiteral("resultLineEdit"));
-    m_resultEdit->setReadOnly(true);
+    m_resultEdit->setReadOnly(true); // looks like the amount field; the program alone writes it
     setTabOrder(m_categorySpinner, m_fromSpinner);
     setTabOrder(m_fromSpinner, m_amountEdit);
     setTabOrder(m_amountEdit, m_toSpinner);
@@ -95,9 +97,9 @@ void MeasureScreen::initialise()
         const BusyCursor busy;
         m_catalogue.Build();
     }
-    m_titleFont = Painting::makeFont(24, Painting::Bold);
     m_labelFont = Painting::makeFont(21, Painting::Bold);
     m_listFont = Painting::makeFont(21, Painting::Normal);
+    takeOverBackKey();
     readUnits();
 
     QStringList titles;
@@ -194,6 +196,7 @@ void MeasureScreen::command(int id)
 
 void MeasureScreen::layout(int width, int)
 {
+    m_title.layout(width);
     const int listWidth = width - ListRightMargin - ListLeft;
     const int fieldWidth = width - FieldRightMargin - FieldLeft;
     m_categorySpinner->setGeometry(ListLeft, CategoryTop, width - 17, ListHeight);
@@ -205,8 +208,7 @@ void MeasureScreen::layout(int width, int)
 
 void MeasureScreen::paint(QPainter& painter)
 {
-    Painting::drawBand(painter, QRect(0, 0, workWidth(), Band), Painting::ConverterBand,
-        Painting::loadString(ScreenTitle), m_titleFont);
+    m_title.paint(painter);
     painter.setPen(Painting::White);
     drawTextAt(painter, m_labelFont, LabelLeft, ConvertLabelTop, Painting::loadString(ConvertLabel));
     drawTextAt(painter, m_labelFont, LabelLeft, FromLabelTop, Painting::loadString(FromLabel));

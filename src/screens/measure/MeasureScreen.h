@@ -3,12 +3,13 @@
 
 #include "settings/RegistrySettings.h"
 #include "ui/Screen.h"
+#include "ui/TitleBand.h"
 #include "units/UnitCatalogue.h"
 #include "units/UnitLists.h"
 
 #include <QFont>
 
-class QLineEdit;
+class NumericEdit;
 
 // The Measurements screen: an amount converted between two units of one of seven categories. The
 // category, both units and the amount are kept in the settings between visits.
@@ -39,15 +40,15 @@ private:
     void undo();
     void setUndoEnabled(bool enabled);
 
+    TitleBand m_title;
     RegistrySettings m_settings;
     UnitCatalogue m_catalogue;
     UnitLists m_units;
     Spinner* m_categorySpinner;
     Spinner* m_fromSpinner;
     Spinner* m_toSpinner;
-    QLineEdit* m_amountEdit;
-    QLineEdit* m_resultEdit;
-    QFont m_titleFont;
+    NumericEdit* m_amountEdit;
+    NumericEdit* m_resultEdit;
     QFont m_labelFont;
     QFont m_listFont;
 };
