@@ -199,7 +199,7 @@ void MeasureScreen::layout(int width, int)
     m_title.layout(width);
     const int listWidth = width - ListRightMargin - ListLeft;
     const int fieldWidth = width - FieldRightMargin - FieldLeft;
-    m_categorySpinner->setGeometry(ListLeft, CategoryTop, width - 17, ListHeight);
+    m_categorySpinner->setGeometry(ListLeft, CategoryTop, listWidth, ListHeight);
     m_fromSpinner->setGeometry(ListLeft, FromTop, listWidth, ListHeight);
     m_amountEdit->setGeometry(FieldLeft, AmountTop, fieldWidth, FieldHeight);
     m_toSpinner->setGeometry(ListLeft, ToTop, listWidth, ListHeight);
