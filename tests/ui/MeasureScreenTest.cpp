@@ -73,12 +73,11 @@ std::uint32_t stored(ScreenTestBench& bench, const DwordSetting& setting)
 }
 
 // Types into the amount field as the user does.
-void type(ScreenTestBench& bench, MeasureScreen& screen, const QString& keys)
+void type(MeasureScreen& screen, const QString& keys)
 {
     QLineEdit* edit = field(screen, "amountLineEdit");
     edit->setFocus();
     QTest::keyClicks(edit, keys);
-    Q_UNUSED(bench);
 }
 
 constexpr std::uint32_t Weights = 6;
@@ -118,7 +117,7 @@ private slots:
         bench.visit(screen, [&] {
             QCOMPARE(result(screen), QStringLiteral("3218.688000"));
             QVERIFY(!undoEnabled(screen));
-            type(bench, screen, QStringLiteral("5"));
+            type(screen, QStringLiteral("5"));
             QCOMPARE(amount(screen), QStringLiteral("25"));
             QCOMPARE(result(screen), QStringLiteral("40233.600000"));
             QVERIFY(undoEnabled(screen));
@@ -176,7 +175,7 @@ private slots:
         store(bench, {Temperatures, 0, 4, L"-27"}); // °C to K
         bench.visit(screen, [&] {
             QCOMPARE(result(screen), QStringLiteral("246.150000"));
-            type(bench, screen, QStringLiteral("5"));
+            type(screen, QStringLiteral("5"));
             QCOMPARE(bench.boxes.shown.size(), std::size_t {1});
             QCOMPARE(bench.boxes.shown.front().text, QStringLiteral("Below Absolute Zero"));
             QCOMPARE(bench.boxes.shown.front().caption, QString());
@@ -242,7 +241,7 @@ private slots:
             QCOMPARE(spinner(screen, "fromSpinner")->count(), 0);
             QCOMPARE(spinner(screen, "toSpinner")->currentIndex(), -1);
             // Empty factors are 0: 1 x 0 / 0 is not a number.
-            type(bench, screen, QStringLiteral("1"));
+            type(screen, QStringLiteral("1"));
             QVERIFY(result(screen).contains(QStringLiteral("nan")));
             // The lengths are still found.
             spinner(screen, "categorySpinner")->setFocus();
@@ -259,7 +258,7 @@ private slots:
         ScreenTestBench bench;
         MeasureScreen screen(bench.environment, bench.window);
         const QString digits = QString(60, QLatin1Char('7'));
-        bench.visit(screen, [&] { type(bench, screen, digits); });
+        bench.visit(screen, [&] { type(screen, digits); });
         RegistrySettings settings(bench.settings);
         QCOMPARE(ReadSetting(settings, Settings::MeasureValue), std::wstring(49, L'7'));
         bench.visit(screen, [&] { QCOMPARE(amount(screen), digits.left(49)); });
