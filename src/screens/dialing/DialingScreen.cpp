@@ -46,6 +46,7 @@ DialingScreen::DialingScreen(ScreenEnvironment& environment, DeviceWindow& windo
     , m_title(Painting::ConverterBand, ScreenTitle)
     , m_chooser(new Spinner(this))
 {
+    m_title.setTextOrigin(QPoint(5, 0));
     setBackgroundPicture(L"bconv.jpg");
     m_chooser->setObjectName(QStringLiteral("chooserSpinner"));
     m_chooser->setItems({Painting::loadString(InternationalItem), Painting::loadString(AreaCodesItem)});

@@ -180,7 +180,7 @@ void WorldClockScreen::layout(int width, int height)
 {
     m_focusList->hideAt(width - 25, 10);
     m_title.layout(width);
-    m_cells = {ClockCell::home(TitleHeight, width, height, m_fonts)};
+    m_cells = {ClockCell::home(TitleHeight, width, m_fonts)};
     const auto rows = ClockCell::cityRows(m_cells[0].area().bottom() + 3, width, height, m_fonts);
     m_cells.insert(m_cells.end(), rows.begin(), rows.end());
 }
