@@ -89,7 +89,9 @@ std::optional<UnitPair> resolve(
         return std::nullopt;
     }
     const bool fromAmbiguous = listAmbiguous(err, lookup, fromWord, pairs, &UnitPair::first);
-    const bool toAmbiguous = listAmbiguous(err, lookup, toWord, pairs, &UnitPair::second);
+    // The same word on both sides is listed once.
+    const bool toAmbiguous
+        = (fromAmbiguous && toWord == fromWord) || listAmbiguous(err, lookup, toWord, pairs, &UnitPair::second);
     if (fromAmbiguous || toAmbiguous)
         return std::nullopt;
     return pairs.front();

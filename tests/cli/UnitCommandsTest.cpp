@@ -86,6 +86,9 @@ TEST_F(UnitCommands, ConvertReportsBadInput)
         EXPECT_EQ(r.out, "") << message;
         EXPECT_NE(r.err.find(message), std::string::npos) << r.err;
     }
+    // The same word on both sides is listed once; different ambiguous words each.
+    EXPECT_EQ(std::ranges::count(run("convert", {"1", "yard", "yard"}).err, '\n'), 4);
+    EXPECT_EQ(std::ranges::count(run("convert", {"1", "yard", "Yard"}).err, '\n'), 8);
 }
 
 TEST_F(UnitCommands, UnitsListsTheCatalogueInTheScreensOrder)
