@@ -4,6 +4,7 @@
 #include "cli/CityCommands.h"
 #include "cli/DialCommand.h"
 #include "cli/SizesCommand.h"
+#include "cli/UnitCommands.h"
 
 #include <functional>
 #include <map>
@@ -20,9 +21,11 @@ const std::map<std::string, Command>& commands()
     static const std::map<std::string, Command> table {
         {"cities", RunCitiesCommand},
         {"city", RunCityCommand},
+        {"convert", RunConvertCommand},
         {"dial", RunDialCommand},
         {"sizes", RunSizesCommand},
         {"time", RunTimeCommand},
+        {"units", RunUnitsCommand},
     };
     return table;
 }
