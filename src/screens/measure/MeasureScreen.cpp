@@ -49,7 +49,7 @@ QStringList toStrings(const std::vector<std::wstring>& texts)
 {
     QStringList strings;
     for (const std::wstring& text : texts)
-        strings << toQString(text);
+        strings << ToQString(text);
     return strings;
 }
 
@@ -115,7 +115,7 @@ void MeasureScreen::initialise()
         list->setFont(m_listFont);
     m_resultEdit->setText(QStringLiteral("0"));
     setAmount(QStringLiteral("0"));
-    setAmount(toQString(ReadSetting(m_settings, Settings::MeasureValue)));
+    setAmount(ToQString(ReadSetting(m_settings, Settings::MeasureValue)));
     // The conversions made while opening leave "Undo" grey.
     setUndoEnabled(false);
     m_categorySpinner->setFocus();
@@ -149,10 +149,10 @@ void MeasureScreen::changeCategory()
 void MeasureScreen::convert()
 {
     const auto result = UnitConversion::Convert(m_units, m_categorySpinner->currentIndex(),
-        m_fromSpinner->currentIndex(), m_toSpinner->currentIndex(), toWide(m_amountEdit->text()));
+        m_fromSpinner->currentIndex(), m_toSpinner->currentIndex(), ToWide(m_amountEdit->text()));
     if (result.belowAbsoluteZero)
         environment().boxes.show(this, Painting::loadString(BelowAbsoluteZero), QString());
-    m_resultEdit->setText(toQString(result.text));
+    m_resultEdit->setText(ToQString(result.text));
     setUndoEnabled(true);
 }
 
@@ -226,5 +226,5 @@ void MeasureScreen::destroyWork()
         if (list->currentIndex() >= 0)
             WriteSetting(m_settings, setting, static_cast<std::uint32_t>(list->currentIndex()));
     }
-    WriteSetting(m_settings, Settings::MeasureValue, UnitConversion::AmountText(toWide(m_amountEdit->text())));
+    WriteSetting(m_settings, Settings::MeasureValue, UnitConversion::AmountText(ToWide(m_amountEdit->text())));
 }
