@@ -22,7 +22,7 @@ struct Place
 };
 
 // Every catalogue city's place by its name (a name may stand for several cities).
-std::multimap<std::wstring, Place> CataloguePlaces(CityCatalogue& cities)
+std::multimap<std::wstring, Place> cataloguePlaces(CityCatalogue& cities)
 {
     std::multimap<std::wstring, Place> places;
     const std::uint16_t count = cities.Count();
@@ -53,7 +53,7 @@ std::optional<std::uint32_t> FindFavourite(WeatherFavourites& favourites, const 
 std::optional<std::uint32_t> FavouriteNear(
     WeatherFavourites& favourites, CityCatalogue& cities, double latitude, double longitude)
 {
-    const auto places = CataloguePlaces(cities);
+    const auto places = cataloguePlaces(cities);
     std::optional<std::uint32_t> nearest;
     double nearestDistance = Tolerance;
     const std::uint16_t count = favourites.count();

@@ -24,7 +24,7 @@ struct ImportRequest
     std::string favourite; // empty: the favourite at the forecast's place
 };
 
-std::optional<ImportRequest> ParseImportRequest(const std::vector<std::string>& args, std::ostream& err)
+std::optional<ImportRequest> parseImportRequest(const std::vector<std::string>& args, std::ostream& err)
 {
     ImportRequest request;
     bool haveFile = false;
@@ -46,7 +46,7 @@ std::optional<ImportRequest> ParseImportRequest(const std::vector<std::string>& 
 }
 
 // At most one byte more than a forecast may hold, so that an oversized file is seen as such.
-std::optional<std::string> ReadInput(const std::string& file)
+std::optional<std::string> readInput(const std::string& file)
 {
     std::ifstream opened;
     std::istream* in = &std::cin;
@@ -65,7 +65,7 @@ std::optional<std::string> ReadInput(const std::string& file)
 }
 
 // The favourite to write; prints why when there is none.
-std::optional<std::uint32_t> TargetFavourite(CommandSession& session, WeatherFavourites& favourites,
+std::optional<std::uint32_t> targetFavourite(CommandSession& session, WeatherFavourites& favourites,
     const ImportRequest& request, const OpenMeteoForecast& forecast, std::ostream& err)
 {
     if (!request.favourite.empty()) {
@@ -90,10 +90,10 @@ std::optional<std::uint32_t> TargetFavourite(CommandSession& session, WeatherFav
 
 int RunForecastCommand(const CommandRequest& request, std::ostream& out, std::ostream& err)
 {
-    const auto wanted = ParseImportRequest(request.args, err);
+    const auto wanted = parseImportRequest(request.args, err);
     if (!wanted)
         return UsageError;
-    const auto bytes = ReadInput(wanted->file);
+    const auto bytes = readInput(wanted->file);
     const std::string shownName = wanted->file == "-" ? "standard input" : wanted->file;
     if (!bytes) {
         err << "wanderkit forecast: " << shownName << ": cannot be read\n";
@@ -110,7 +110,7 @@ int RunForecastCommand(const CommandRequest& request, std::ostream& out, std::os
         return Unusable;
     WeatherFavourites favourites(session->device().objects(), session->paths(), session->messages());
     favourites.loadFavouritesOnce();
-    const auto position = TargetFavourite(*session, favourites, *wanted, *forecast, err);
+    const auto position = targetFavourite(*session, favourites, *wanted, *forecast, err);
     if (!position)
         return UsageError;
     const std::wstring name = favourites.getName(*position);

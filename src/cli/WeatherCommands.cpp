@@ -26,13 +26,13 @@ struct WeatherRequest
     int day = 0; // 0: every day
 };
 
-bool ParseDay(const std::string& text, int& day)
+bool parseDay(const std::string& text, int& day)
 {
     const auto [end, ec] = std::from_chars(text.data(), text.data() + text.size(), day);
     return ec == std::errc() && end == text.data() + text.size() && day >= 1 && day <= ForecastDisplay::Days;
 }
 
-std::optional<WeatherRequest> ParseWeatherRequest(const std::vector<std::string>& args, std::ostream& err)
+std::optional<WeatherRequest> parseWeatherRequest(const std::vector<std::string>& args, std::ostream& err)
 {
     WeatherRequest request;
     for (std::size_t i = 0; i < args.size(); ++i) {
@@ -48,7 +48,7 @@ std::optional<WeatherRequest> ParseWeatherRequest(const std::vector<std::string>
             request.favourite += (request.favourite.empty() ? "" : " ") + args[i];
             continue;
         }
-        if (!ParseDay(day, request.day)) {
+        if (!parseDay(day, request.day)) {
             err << "wanderkit weather: --day wants a day from 1 to 5\n" << WeatherUsage;
             return std::nullopt;
         }
@@ -56,7 +56,7 @@ std::optional<WeatherRequest> ParseWeatherRequest(const std::vector<std::string>
     return request;
 }
 
-void PrintDay(std::ostream& out, int index, std::wstring_view weekday, const ForecastDayTexts& day)
+void printDay(std::ostream& out, int index, std::wstring_view weekday, const ForecastDayTexts& day)
 {
     out << index + 1 << '\t' << WideToUtf8(weekday);
     for (const std::wstring* text : {&day.iconPath, &day.condition, &day.wind, &day.temperatures, &day.precipitation,
@@ -69,7 +69,7 @@ void PrintDay(std::ostream& out, int index, std::wstring_view weekday, const For
 
 int RunWeatherCommand(const CommandRequest& request, std::ostream& out, std::ostream& err)
 {
-    const auto wanted = ParseWeatherRequest(request.args, err);
+    const auto wanted = parseWeatherRequest(request.args, err);
     if (!wanted)
         return UsageError;
     const auto session = CommandSession::open(request, err);
@@ -98,7 +98,7 @@ int RunWeatherCommand(const CommandRequest& request, std::ostream& out, std::ost
     }
     for (int k = 0; k < ForecastDisplay::Days; ++k)
         if (wanted->day == 0 || wanted->day == k + 1)
-            PrintDay(out, k, ForecastWeekday(today, k), display->day(k));
+            printDay(out, k, ForecastWeekday(today, k), display->day(k));
     return 0;
 }
 

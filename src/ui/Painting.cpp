@@ -56,5 +56,5 @@ QString Painting::shortenToFit(const QFontMetrics& metrics, QString text, int wi
 QString Painting::loadString(int id)
 {
     const auto text = StringTable::Load(id);
-    return toQString(text);
+    return ToQString(text);
 }

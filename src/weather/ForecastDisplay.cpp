@@ -10,12 +10,12 @@
 namespace {
 
 // `length` characters from `start`, as far as the text reaches.
-std::wstring Characters(std::wstring_view text, std::size_t start, std::size_t length)
+std::wstring characters(std::wstring_view text, std::size_t start, std::size_t length)
 {
     return start < text.size() ? std::wstring(text.substr(start, length)) : std::wstring();
 }
 
-ForecastDayTexts DayTexts(const ForecastTable& table, int block, bool notFromToday, const ForecastSources& sources)
+ForecastDayTexts dayTexts(const ForecastTable& table, int block, bool notFromToday, const ForecastSources& sources)
 {
     const auto field = [&](int index) -> const std::wstring& { return table.field(block, index); };
     ForecastDayTexts day;
@@ -52,7 +52,7 @@ ForecastDisplay ForecastDisplay::compute(std::wstring_view forecastText, std::ws
         // A block before block 0 (an update date more than four days ahead) is no day either.
         if (block < 0 || block >= ForecastTable::Blocks || display.m_dayDifference - k < 0)
             continue;
-        display.m_days[static_cast<std::size_t>(k)] = DayTexts(table, static_cast<int>(block), first != 0, sources);
+        display.m_days[static_cast<std::size_t>(k)] = dayTexts(table, static_cast<int>(block), first != 0, sources);
     }
     return display;
 }
@@ -79,7 +79,7 @@ std::int64_t ForecastDayDifference(std::wstring_view updateKey, const SystemTime
 {
     const std::wstring_view date = BeforeFirst(updateKey, L':');
     const std::int64_t keyDays
-        = DaysFromCivil(Wtol(Characters(date, 6, 4)), Wtol(Characters(date, 3, 2)), Wtol(Characters(date, 0, 2)));
+        = DaysFromCivil(Wtol(characters(date, 6, 4)), Wtol(characters(date, 3, 2)), Wtol(characters(date, 0, 2)));
     return keyDays - DaysFromCivil(today.year, today.month, today.day);
 }
 

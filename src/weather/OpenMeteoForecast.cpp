@@ -20,13 +20,13 @@ struct Refusal
     std::string problem;
 };
 
-[[noreturn]] void Refuse(std::string problem)
+[[noreturn]] void refuse(std::string problem)
 {
     throw Refusal {std::move(problem)};
 }
 
 // A text of the response as a message may show it: printable ASCII, at most 40 characters.
-std::string Shown(const std::string& text)
+std::string shown(const std::string& text)
 {
     std::string shown;
     for (const char c : text.substr(0, 40))
@@ -35,9 +35,9 @@ std::string Shown(const std::string& text)
 }
 
 // A value of the response as a message may show it.
-std::string ShownValue(const Json& value)
+std::string shownValue(const Json& value)
 {
-    return Shown(value.is_string() ? value.get<std::string>() : value.dump());
+    return shown(value.is_string() ? value.get<std::string>() : value.dump());
 }
 
 struct CalendarDate
@@ -47,51 +47,51 @@ struct CalendarDate
     int day;
 };
 
-bool DigitsAt(const std::string& text, std::size_t start, std::size_t count)
+bool digitsAt(const std::string& text, std::size_t start, std::size_t count)
 {
     return std::all_of(text.begin() + static_cast<std::ptrdiff_t>(start),
         text.begin() + static_cast<std::ptrdiff_t>(start + count), [](char c) { return c >= '0' && c <= '9'; });
 }
 
-int NumberAt(const std::string& text, std::size_t start, std::size_t count)
+int numberAt(const std::string& text, std::size_t start, std::size_t count)
 {
     return std::stoi(text.substr(start, count));
 }
 
 // "YYYY-MM-DD", a calendar date.
-std::optional<CalendarDate> ParseDate(const std::string& text)
+std::optional<CalendarDate> parseDate(const std::string& text)
 {
-    if (text.size() != 10 || text[4] != '-' || text[7] != '-' || !DigitsAt(text, 0, 4) || !DigitsAt(text, 5, 2)
-        || !DigitsAt(text, 8, 2))
+    if (text.size() != 10 || text[4] != '-' || text[7] != '-' || !digitsAt(text, 0, 4) || !digitsAt(text, 5, 2)
+        || !digitsAt(text, 8, 2))
         return std::nullopt;
-    const CalendarDate date {NumberAt(text, 0, 4), NumberAt(text, 5, 2), NumberAt(text, 8, 2)};
+    const CalendarDate date {numberAt(text, 0, 4), numberAt(text, 5, 2), numberAt(text, 8, 2)};
     const bool real = date.month >= 1 && date.month <= 12 && date.day >= 1
         && DaysFromCivil(date.year, date.month, date.day) < DaysFromCivil(date.year, date.month + 1, 1);
     return real ? std::optional(date) : std::nullopt;
 }
 
 // "YYYY-MM-DDTHH:MM" to "HH:MM".
-std::optional<std::wstring> ParseClock(const std::string& text)
+std::optional<std::wstring> parseClock(const std::string& text)
 {
-    if (text.size() != 16 || text[10] != 'T' || text[13] != ':' || !ParseDate(text.substr(0, 10))
-        || !DigitsAt(text, 11, 2) || !DigitsAt(text, 14, 2) || NumberAt(text, 11, 2) > 23 || NumberAt(text, 14, 2) > 59)
+    if (text.size() != 16 || text[10] != 'T' || text[13] != ':' || !parseDate(text.substr(0, 10))
+        || !digitsAt(text, 11, 2) || !digitsAt(text, 14, 2) || numberAt(text, 11, 2) > 23 || numberAt(text, 14, 2) > 59)
         return std::nullopt;
     return Latin1ToWide(text.substr(11));
 }
 
-std::wstring Whole(const std::optional<double>& value)
+std::wstring whole(const std::optional<double>& value)
 {
     return value ? FormatText(L"%ld", std::lround(*value)) : L"-";
 }
 
-std::wstring Compass(const std::optional<double>& degrees)
+std::wstring compass(const std::optional<double>& degrees)
 {
     static constexpr std::array<const wchar_t*, 16> Points {L"N", L"NNE", L"NE", L"ENE", L"E", L"ESE", L"SE", L"SSE",
         L"S", L"SSW", L"SW", L"WSW", L"W", L"WNW", L"NW", L"NNW"};
     return degrees ? Points[static_cast<std::size_t>(std::lround(*degrees / 22.5) % 16)] : L"-";
 }
 
-std::wstring DayMonth(const CalendarDate& date)
+std::wstring dayMonth(const CalendarDate& date)
 {
     return FormatText(L"%d/%d", date.day, date.month);
 }
@@ -144,16 +144,16 @@ private:
     void checkShape()
     {
         if (!m_root.is_object())
-            Refuse("does not hold a JSON object");
+            refuse("does not hold a JSON object");
         if (const auto error = m_root.find("error"); error != m_root.end() && *error == true) {
             const auto reason = m_root.find("reason");
-            Refuse("is an error report of the forecast service: "
-                + (reason != m_root.end() && reason->is_string() ? Shown(reason->get<std::string>())
+            refuse("is an error report of the forecast service: "
+                + (reason != m_root.end() && reason->is_string() ? shown(reason->get<std::string>())
                                                                  : "no reason given"));
         }
         const auto daily = m_root.find("daily");
         if (daily == m_root.end() || !daily->is_object())
-            Refuse("has no \"daily\" object");
+            refuse("has no \"daily\" object");
         m_daily = &*daily;
         checkTemperatureUnits();
     }
@@ -172,7 +172,7 @@ private:
         for (const char* name : TemperatureNames) {
             const Json* given = unit(name);
             if (given && (!given->is_string() || given->get<std::string>() != "\u00B0C"))
-                Refuse(std::string("gives daily_units.") + name + " as " + ShownValue(*given)
+                refuse(std::string("gives daily_units.") + name + " as " + shownValue(*given)
                     + "; temperatures must be in degrees Celsius");
         }
     }
@@ -185,7 +185,7 @@ private:
         const auto known = std::find_if(WindUnits.begin(), WindUnits.end(),
             [given](const char* name) { return given->is_string() && given->get<std::string>() == name; });
         if (known == WindUnits.end())
-            Refuse("gives daily_units.wind_speed_10m_max as " + ShownValue(*given) + ", not km/h, m/s, mp/h or kn");
+            refuse("gives daily_units.wind_speed_10m_max as " + shownValue(*given) + ", not km/h, m/s, mp/h or kn");
         return Latin1ToWide(*known);
     }
 
@@ -193,20 +193,20 @@ private:
     {
         const auto time = m_daily->find("time");
         if (time == m_daily->end() || !time->is_array())
-            Refuse("has no daily.time list");
+            refuse("has no daily.time list");
         if (time->empty())
-            Refuse("holds no days (daily.time is empty)");
+            refuse("holds no days (daily.time is empty)");
         m_count = time->size();
         std::vector<CalendarDate> dates;
         for (std::size_t i = 0; i < std::min<std::size_t>(m_count, ForecastTable::Blocks); ++i) {
             const Json& value = (*time)[i];
-            const auto date = value.is_string() ? ParseDate(value.get<std::string>()) : std::nullopt;
+            const auto date = value.is_string() ? parseDate(value.get<std::string>()) : std::nullopt;
             if (!date)
-                Refuse(where("time", i) + " is not a date written YYYY-MM-DD");
+                refuse(where("time", i) + " is not a date written YYYY-MM-DD");
             if (i > 0
                 && DaysFromCivil(date->year, date->month, date->day)
                     != DaysFromCivil(dates.back().year, dates.back().month, dates.back().day) + 1)
-                Refuse(where("time", i) + " is not the day after " + where("time", i - 1));
+                refuse(where("time", i) + " is not the day after " + where("time", i - 1));
             dates.push_back(*date);
         }
         return dates;
@@ -216,7 +216,7 @@ private:
     {
         const std::optional<double> code = number("weather_code", i, WeatherCode);
         if (code && *code != std::floor(*code))
-            Refuse(where("weather_code", i) + " is not a whole number");
+            refuse(where("weather_code", i) + " is not a whole number");
         const int wmo = code ? static_cast<int>(*code) : -1;
         const std::wstring_view words = WmoWeatherWords(wmo);
         const std::optional<double> wind = number("wind_speed_10m_max", i, WindSpeed);
@@ -224,17 +224,17 @@ private:
         const std::array<std::wstring, ForecastTable::Fields> fields {
             code ? FormatText(L"%02d", wmo) : L"N/A",
             words.empty() ? L"-" : std::wstring(words),
-            wind ? Whole(wind) + L" " + m_windUnit : L"-",
-            Compass(number("wind_direction_10m_dominant", i, Direction)),
-            Whole(number("temperature_2m_min", i, Temperature)),
-            Whole(number("temperature_2m_max", i, Temperature)),
-            rain ? Whole(rain) + L"%" : L"-",
+            wind ? whole(wind) + L" " + m_windUnit : L"-",
+            compass(number("wind_direction_10m_dominant", i, Direction)),
+            whole(number("temperature_2m_min", i, Temperature)),
+            whole(number("temperature_2m_max", i, Temperature)),
+            rain ? whole(rain) + L"%" : L"-",
             clock("sunrise", i),
-            Whole(number("apparent_temperature_max", i, Temperature)) + L"/"
-                + Whole(number("apparent_temperature_min", i, Temperature)),
+            whole(number("apparent_temperature_max", i, Temperature)) + L"/"
+                + whole(number("apparent_temperature_min", i, Temperature)),
             clock("sunset", i),
-            DayMonth(dates[i]),
-            DayMonth(dates[0]),
+            dayMonth(dates[i]),
+            dayMonth(dates[0]),
         };
         for (int field = 0; field < ForecastTable::Fields; ++field)
             table.setField(block, field, fields[static_cast<std::size_t>(field)]);
@@ -245,9 +245,9 @@ private:
     {
         const auto list = m_daily->find(name);
         if (list == m_daily->end() || !list->is_array())
-            Refuse(std::string("has no daily.") + name + " list");
+            refuse(std::string("has no daily.") + name + " list");
         if (list->size() != m_count)
-            Refuse(std::string("daily.") + name + " has " + std::to_string(list->size()) + " values for "
+            refuse(std::string("daily.") + name + " has " + std::to_string(list->size()) + " values for "
                 + std::to_string(m_count) + " days");
         return (*list)[i];
     }
@@ -258,10 +258,10 @@ private:
         if (given.is_null())
             return std::nullopt;
         if (!given.is_number())
-            Refuse(where(name, i) + " is not a number");
+            refuse(where(name, i) + " is not a number");
         const double number = given.get<double>();
         if (!(number >= range.low && number <= range.high))
-            Refuse(where(name, i) + " = " + given.dump() + " lies outside " + FormatRange(range));
+            refuse(where(name, i) + " = " + given.dump() + " lies outside " + formatRange(range));
         return number;
     }
 
@@ -270,9 +270,9 @@ private:
         const Json& given = value(name, i);
         if (given.is_null())
             return L"-";
-        const auto time = given.is_string() ? ParseClock(given.get<std::string>()) : std::nullopt;
+        const auto time = given.is_string() ? parseClock(given.get<std::string>()) : std::nullopt;
         if (!time)
-            Refuse(where(name, i) + " is not a time written YYYY-MM-DDTHH:MM");
+            refuse(where(name, i) + " is not a time written YYYY-MM-DDTHH:MM");
         return *time;
     }
 
@@ -290,7 +290,7 @@ private:
         return std::string("daily.") + name + "[" + std::to_string(i) + "]";
     }
 
-    static std::string FormatRange(Range range)
+    static std::string formatRange(Range range)
     {
         return std::to_string(std::lround(range.low)) + " to " + std::to_string(std::lround(range.high));
     }

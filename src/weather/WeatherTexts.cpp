@@ -12,36 +12,36 @@ namespace {
 constexpr wchar_t Degree = L'\u00B0';
 
 // Whole degrees Celsius in Fahrenheit, through kelvin and back as the handheld computed it.
-double ToFahrenheit(std::int32_t celsius)
+double toFahrenheit(std::int32_t celsius)
 {
     const double kelvin = celsius + 273.15;
     return (kelvin - 273.15) * 1.8 + 32;
 }
 
-std::wstring_view WithoutLeadingBlanks(std::wstring_view text)
+std::wstring_view withoutLeadingBlanks(std::wstring_view text)
 {
     const std::size_t first = text.find_first_not_of(L" \t");
     return first == std::wstring_view::npos ? std::wstring_view() : text.substr(first);
 }
 
-bool IsNoValue(std::wstring_view part)
+bool isNoValue(std::wstring_view part)
 {
     return part == L"-" || part == L"N/A";
 }
 
 // One part of a pair: "-" and "N/A" as they stand, a number in Fahrenheit.
-std::wstring PairPart(std::wstring_view part)
+std::wstring pairPart(std::wstring_view part)
 {
-    const std::wstring_view value = WithoutLeadingBlanks(BeforeFirst(part, Degree));
-    if (IsNoValue(value))
+    const std::wstring_view value = withoutLeadingBlanks(BeforeFirst(part, Degree));
+    if (isNoValue(value))
         return std::wstring(value);
-    return FormatText(L"%.0f", ToFahrenheit(Wtol(std::wstring(value))));
+    return FormatText(L"%.0f", toFahrenheit(Wtol(std::wstring(value))));
 }
 
 // The "/" between the two parts of a pair, past a first part that reads "N/A".
-std::size_t PairSeparator(std::wstring_view text)
+std::size_t pairSeparator(std::wstring_view text)
 {
-    const std::wstring_view trimmed = WithoutLeadingBlanks(text);
+    const std::wstring_view trimmed = withoutLeadingBlanks(text);
     const std::size_t skipped = text.size() - trimmed.size();
     return text.find(L'/', trimmed.starts_with(L"N/A") ? skipped + 3 : 0);
 }
@@ -51,26 +51,26 @@ std::size_t PairSeparator(std::wstring_view text)
 std::wstring FahrenheitText(std::wstring_view celsius)
 {
     const std::wstring_view first = BeforeFirst(BeforeFirst(celsius, L':'), Degree);
-    const std::wstring_view second = WithoutLeadingBlanks(BeforeFirst(AfterFirst(celsius, L':'), Degree));
-    const std::wstring high = IsNoValue(first) ? std::wstring(first) + L"\u00B0 :"
-                                               : FormatText(L"%.0f\u00B0 :", ToFahrenheit(Wtol(std::wstring(first))));
-    const std::wstring low = IsNoValue(second) ? L" " + std::wstring(second) + L"\u00B0"
-                                               : FormatText(L" %.0f\u00B0", ToFahrenheit(Wtol(std::wstring(second))));
+    const std::wstring_view second = withoutLeadingBlanks(BeforeFirst(AfterFirst(celsius, L':'), Degree));
+    const std::wstring high = isNoValue(first) ? std::wstring(first) + L"\u00B0 :"
+                                               : FormatText(L"%.0f\u00B0 :", toFahrenheit(Wtol(std::wstring(first))));
+    const std::wstring low = isNoValue(second) ? L" " + std::wstring(second) + L"\u00B0"
+                                               : FormatText(L" %.0f\u00B0", toFahrenheit(Wtol(std::wstring(second))));
     return FormatText(L"%ls%ls", high.c_str(), low.c_str());
 }
 
 std::wstring FahrenheitPairText(std::wstring_view celsius)
 {
-    const std::size_t separator = PairSeparator(celsius);
+    const std::size_t separator = pairSeparator(celsius);
     const std::wstring_view first = celsius.substr(0, separator);
     const std::wstring_view second
         = separator == std::wstring_view::npos ? std::wstring_view() : celsius.substr(separator + 1);
-    return PairPart(first) + L"/" + PairPart(second);
+    return pairPart(first) + L"/" + pairPart(second);
 }
 
 std::wstring MappingIconName(std::wstring_view mapping, std::wstring_view code)
 {
-    if (IsNoValue(code))
+    if (isNoValue(code))
         return L"na";
     std::size_t start = 0;
     while (start < mapping.size()) {

@@ -317,15 +317,15 @@ private slots:
             QCOMPARE(cities->items(), (QStringList {QStringLiteral("Paris"), QStringLiteral("Lyon")}));
             cities->setFocus();
             t.bench.press(Qt::Key_Right); // Lyon
-            t.button(dialog, "addButton")->click();
-            t.button(dialog, "addButton")->setFocus();
+            t.button(dialog, "addPushButton")->click();
+            t.button(dialog, "addPushButton")->setFocus();
             t.bench.press(Qt::Key_Return); // the action key on ADD; no duplicate check: a second record
             QCOMPARE(spinner(dialog, "favouriteSpinner")->currentText(), QStringLiteral("Lyon"));
             QCOMPARE(dialog.currentFavourite(), 0);
             countries->setFocus();
             t.bench.press(Qt::Key_Right);
             QCOMPARE(cities->count(), 0); // the list of "Nowhere" starts with ">"
-            t.button(dialog, "addButton")->click();
+            t.button(dialog, "addPushButton")->click();
         });
         const std::vector<std::wstring> favourites {L"Lyon|2996944|01/01/2000|France",
             L"Lyon|2996944|01/01/2000|France", L"Oslo|3143244|01/01/2000|Norway", L"Paris|2988507|01/01/2000|France",
@@ -358,7 +358,7 @@ private slots:
         FavouritesDialog dialog(t.bench.environment, t.bench.window, t.favourites);
         dialog.setCurrentFavourite(2);
         t.bench.visit(dialog, [&] {
-            QPushButton* remove = t.button(dialog, "removeButton");
+            QPushButton* remove = t.button(dialog, "removePushButton");
             t.bench.boxes.answer = QMessageBox::No;
             remove->click();
             QCOMPARE(t.favourites.count(), 3);

@@ -18,7 +18,7 @@ namespace {
 constexpr ForecastSources Sources {L"rain@61;cloud@03;", L"\\wiconset\\", L"\\Wanderkit.exe", 0};
 
 // A forecast whose block b has code 61 or 03, words "Day b", high 20 + b and low 10 + b.
-std::wstring Forecast()
+std::wstring forecast()
 {
     ForecastTable table;
     for (int b = 0; b < ForecastTable::Blocks; ++b) {
@@ -32,7 +32,7 @@ std::wstring Forecast()
 }
 
 // The words of each day, "" for an empty day.
-std::vector<std::wstring> Conditions(const ForecastDisplay& display)
+std::vector<std::wstring> conditions(const ForecastDisplay& display)
 {
     std::vector<std::wstring> words;
     for (int k = 0; k < ForecastDisplay::Days; ++k)
@@ -79,8 +79,8 @@ TEST(ForecastDisplay, DaysFollowTheUpdateDate)
     };
     for (const auto& [what, key, words] : cases) {
         SCOPED_TRACE(what);
-        const ForecastDisplay display = ForecastDisplay::compute(Forecast(), key, today, Sources);
-        EXPECT_EQ(Conditions(display), words);
+        const ForecastDisplay display = ForecastDisplay::compute(forecast(), key, today, Sources);
+        EXPECT_EQ(conditions(display), words);
         for (int k = 0; k < ForecastDisplay::Days; ++k) {
             if (words[k].empty()) {
                 EXPECT_EQ(display.day(k), ForecastDayTexts());
@@ -92,7 +92,7 @@ TEST(ForecastDisplay, DaysFollowTheUpdateDate)
 TEST(ForecastDisplay, TextsOfADay)
 {
     const SystemTime today = FakeDeviceClock::at(2026, 11, 24, 9, 0, 0);
-    const ForecastDisplay fresh = ForecastDisplay::compute(Forecast(), L"28/11/2026:France", today, Sources);
+    const ForecastDisplay fresh = ForecastDisplay::compute(forecast(), L"28/11/2026:France", today, Sources);
     ForecastDayTexts first;
     first.iconPath = L"\\wiconset\\rain.bmp";
     first.condition = L"Day 0";
@@ -109,14 +109,14 @@ TEST(ForecastDisplay, TextsOfADay)
     EXPECT_EQ(fresh.day(-1), ForecastDayTexts());
 
     // A day later the forecast starts on an earlier day, which fields 10 and 11 tell.
-    const ForecastDisplay older = ForecastDisplay::compute(Forecast(), L"27/11/2026:France", today, Sources);
+    const ForecastDisplay older = ForecastDisplay::compute(forecast(), L"27/11/2026:France", today, Sources);
     EXPECT_EQ(older.firstBlock(), 1);
     EXPECT_EQ(older.day(0).date, L"25/11");
     EXPECT_EQ(older.day(0).issue, L"Forecast of 24/11");
 
     ForecastSources celsius = Sources;
     celsius.temperatureUnit = 1;
-    const ForecastDisplay inCelsius = ForecastDisplay::compute(Forecast(), L"28/11/2026", today, celsius);
+    const ForecastDisplay inCelsius = ForecastDisplay::compute(forecast(), L"28/11/2026", today, celsius);
     EXPECT_EQ(inCelsius.day(0).temperatures, L"20\u00B0 : 10\u00B0");
     EXPECT_EQ(inCelsius.day(0).realFeel, L"19/11");
 }

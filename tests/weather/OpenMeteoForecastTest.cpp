@@ -10,12 +10,12 @@
 
 namespace {
 
-std::optional<OpenMeteoForecast> Read(const std::string& bytes, std::string& error)
+std::optional<OpenMeteoForecast> read(const std::string& bytes, std::string& error)
 {
     return OpenMeteoForecast::read(bytes, error);
 }
 
-std::vector<std::wstring> Block(const OpenMeteoForecast& forecast, int block)
+std::vector<std::wstring> fieldsOf(const OpenMeteoForecast& forecast, int block)
 {
     std::vector<std::wstring> fields;
     for (int field = 0; field < ForecastTable::Fields; ++field)
@@ -28,7 +28,7 @@ std::vector<std::wstring> Block(const OpenMeteoForecast& forecast, int block)
 TEST(OpenMeteoForecast, FiveDaysFillTheFiveBlocks)
 {
     std::string error;
-    const auto forecast = Read(OpenMeteoFixture::response(5).dump(), error);
+    const auto forecast = read(OpenMeteoFixture::response(5).dump(), error);
     ASSERT_TRUE(forecast) << error;
     EXPECT_EQ(forecast->days(), 5);
     EXPECT_EQ(forecast->firstDate(), L"24/11/2026");
@@ -38,10 +38,10 @@ TEST(OpenMeteoForecast, FiveDaysFillTheFiveBlocks)
     // 20.6 rounds to 21 and 12.5 away from zero to 13; 225 degrees is south-west; 17.5 km/h rounds to 18.
     const std::vector<std::wstring> first {L"61", L"Light rain", L"18 km/h", L"SW", L"13", L"21", L"40%", L"07:42",
         L"19/11", L"16:58", L"24/11", L"24/11"};
-    EXPECT_EQ(Block(*forecast, 0), first);
+    EXPECT_EQ(fieldsOf(*forecast, 0), first);
     const std::vector<std::wstring> last {L"61", L"Light rain", L"18 km/h", L"SW", L"13", L"25", L"40%", L"07:42",
         L"19/11", L"16:58", L"28/11", L"24/11"};
-    EXPECT_EQ(Block(*forecast, 4), last);
+    EXPECT_EQ(fieldsOf(*forecast, 4), last);
 }
 
 TEST(OpenMeteoForecast, DaysAreTakenUpToFiveAndTheLastGoesIntoBlockFour)
@@ -56,14 +56,14 @@ TEST(OpenMeteoForecast, DaysAreTakenUpToFiveAndTheLastGoesIntoBlockFour)
     for (const auto& [given, taken, lastDate, lastDay] : cases) {
         SCOPED_TRACE(given);
         std::string error;
-        const auto forecast = Read(OpenMeteoFixture::response(given, "2026-11-24").dump(), error);
+        const auto forecast = read(OpenMeteoFixture::response(given, "2026-11-24").dump(), error);
         ASSERT_TRUE(forecast) << error;
         EXPECT_EQ(forecast->days(), taken);
         EXPECT_EQ(forecast->lastDate(), lastDate);
         EXPECT_EQ(forecast->table().field(4, 10), lastDay);
         EXPECT_EQ(forecast->table().field(5 - taken, 10), L"24/11");
         for (int block = 0; block < 5 - taken; ++block)
-            EXPECT_EQ(Block(*forecast, block), std::vector<std::wstring>(12));
+            EXPECT_EQ(fieldsOf(*forecast, block), std::vector<std::wstring>(12));
     }
 }
 
@@ -90,7 +90,7 @@ TEST(OpenMeteoForecast, CodesNullsAndUnits)
         nlohmann::json response = OpenMeteoFixture::response(5);
         edit(response);
         std::string error;
-        const auto forecast = Read(response.dump(), error);
+        const auto forecast = read(response.dump(), error);
         ASSERT_TRUE(forecast) << error;
         EXPECT_EQ(forecast->table().field(0, field), text);
     }
@@ -144,7 +144,7 @@ TEST(OpenMeteoForecast, RefusesWhatIsNotADailyForecast)
     for (const auto& [what, bytes, problem] : cases) {
         SCOPED_TRACE(what);
         std::string error;
-        EXPECT_FALSE(Read(bytes, error));
+        EXPECT_FALSE(read(bytes, error));
         EXPECT_EQ(error.substr(0, problem.size()), problem);
     }
 }

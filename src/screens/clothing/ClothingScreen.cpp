@@ -75,7 +75,7 @@ QStringList ClothingScreen::shownRows() const
     QStringList rows;
     if (m_table) {
         for (const std::wstring_view row : m_table->rows)
-            rows << toQString(ClothingSizes::Shifted(row, m_shift));
+            rows << ToQString(ClothingSizes::Shifted(row, m_shift));
     }
     return rows;
 }

@@ -25,7 +25,7 @@ constexpr int Gap = 5;
 constexpr int ButtonWidth = 78;
 constexpr int MinimumColumn = 240; // the width the favourites list and the Add view each need
 
-QPushButton* MakeButton(const QString& text, const char* name, QWidget* parent)
+QPushButton* makeButton(const QString& text, const char* name, QWidget* parent)
 {
     auto* button = new QPushButton(text, parent);
     button->setObjectName(QString::fromLatin1(name));
@@ -39,10 +39,10 @@ FavouritesDialog::FavouritesDialog(
     : Screen(environment, window, MenuBarId::Favourites, std::move(name))
     , m_favourites(favourites)
     , m_favouriteList(new Spinner(this))
-    , m_removeButton(MakeButton(QStringLiteral("Remove"), "removeButton", this))
+    , m_removeButton(makeButton(QStringLiteral("Remove"), "removePushButton", this))
     , m_countryList(new Spinner(this))
     , m_cityList(new Spinner(this))
-    , m_addButton(MakeButton(QStringLiteral("ADD"), "addButton", this))
+    , m_addButton(makeButton(QStringLiteral("ADD"), "addPushButton", this))
 {
     m_favouriteList->setObjectName(QStringLiteral("favouriteSpinner"));
     m_countryList->setObjectName(QStringLiteral("countrySpinner"));
@@ -82,7 +82,7 @@ void FavouritesDialog::fillFavourites()
     QStringList names;
     const std::uint16_t count = m_favourites.count();
     for (std::uint32_t i = 0; i < count; ++i)
-        names << toQString(m_favourites.getName(i));
+        names << ToQString(m_favourites.getName(i));
     m_favouriteList->setItems(names);
 }
 
@@ -119,7 +119,7 @@ void FavouritesDialog::showAddView()
         control->show();
     QStringList countries;
     for (const std::wstring& country : ListWeatherCountries(environment().paths))
-        countries << toQString(country);
+        countries << ToQString(country);
     m_countryList->setItems(countries);
     m_countryList->setCurrentIndex(0);
     readCountryFile();
@@ -130,22 +130,22 @@ void FavouritesDialog::showAddView()
 
 void FavouritesDialog::readCountryFile()
 {
-    m_countryText = CountryCityList::read(environment().paths, toWide(m_countryList->currentText()));
+    m_countryText = CountryCityList::read(environment().paths, ToWide(m_countryList->currentText()));
     QStringList cities;
     for (const std::wstring& city : m_countryText.cities())
-        cities << toQString(city);
+        cities << ToQString(city);
     m_cityList->setItems(cities);
     m_cityList->setCurrentIndex(0);
 }
 
 void FavouritesDialog::addSelectedCity()
 {
-    const std::wstring city = toWide(m_cityList->currentText());
+    const std::wstring city = ToWide(m_cityList->currentText());
     const auto code = m_countryText.codeOf(city);
     if (!code)
         return;
     const std::wstring updateKey
-        = std::wstring(WeatherFavourites::InitialUpdateDate) + L":" + toWide(m_countryList->currentText());
+        = std::wstring(WeatherFavourites::InitialUpdateDate) + L":" + ToWide(m_countryList->currentText());
     if (!m_favourites.addFavourite(city, *code, L"", updateKey))
         return;
     fillFavourites();
@@ -153,7 +153,7 @@ void FavouritesDialog::addSelectedCity()
     // it becomes the current favourite.
     const QStringList& names = m_favouriteList->items();
     const auto found = std::find_if(names.begin(), names.end(),
-        [&](const QString& name) { return name.startsWith(toQString(city), Qt::CaseInsensitive); });
+        [&](const QString& name) { return name.startsWith(ToQString(city), Qt::CaseInsensitive); });
     m_favouriteList->setCurrentIndex(found == names.end() ? -1 : static_cast<int>(found - names.begin()));
     favouriteChanged(m_favouriteList->currentIndex());
 }
@@ -164,14 +164,14 @@ void FavouritesDialog::removeSelectedFavourite()
     const QString city = m_favouriteList->currentText();
     const QString question
         = QStringLiteral("Are you sure you want to remove the following city from Favorites List ?\n") + city
-        + QStringLiteral(", ") + toQString(m_currentCountry);
+        + QStringLiteral(", ") + ToQString(m_currentCountry);
     const auto answer = environment().boxes.show(
         this, question, QStringLiteral("Wanderkit"), QMessageBox::Yes | QMessageBox::No, QMessageBox::Question);
     if (answer != QMessageBox::Yes || selected < 0)
         return;
     const std::uint16_t count = m_favourites.count();
     std::uint32_t position = 0;
-    while (position < count && m_favourites.getName(position) != toWide(city))
+    while (position < count && m_favourites.getName(position) != ToWide(city))
         ++position;
     if (position == count || !m_favourites.removeFavourite(position))
         return;
@@ -216,7 +216,7 @@ void FavouritesDialog::paint(QPainter& painter)
     painter.setPen(Qt::black);
     painter.setFont(m_textFont);
     const QFontMetrics metrics(m_textFont);
-    const QString country = QStringLiteral("Country: ") + toQString(m_currentCountry);
+    const QString country = QStringLiteral("Country: ") + ToQString(m_currentCountry);
     painter.drawText(m_countryLine.left(),
         m_countryLine.top() + (m_countryLine.height() - metrics.height()) / 2 + metrics.ascent(),
         Painting::shortenToFit(metrics, country, m_countryLine.width()));

@@ -36,7 +36,7 @@ constexpr int DaySpinnerWidth = 72;
 const QColor Pale {222, 234, 244}; // labels on the gradient
 
 // A weather icon with its corner colour made transparent, as the handheld drew it; null when missing.
-QImage LoadIcon(const DevicePaths& paths, const std::wstring& devicePath)
+QImage loadIcon(const DevicePaths& paths, const std::wstring& devicePath)
 {
     const auto host = paths.hostPath(devicePath);
     QImage image;
@@ -53,7 +53,7 @@ QImage LoadIcon(const DevicePaths& paths, const std::wstring& devicePath)
 }
 
 // Draws `text` with its top at `top`, shortened to end before `right`.
-void DrawText(QPainter& painter, const QFont& font, int left, int top, int right, const QString& text)
+void drawText(QPainter& painter, const QFont& font, int left, int top, int right, const QString& text)
 {
     const QFontMetrics metrics(font);
     painter.setFont(font);
@@ -100,7 +100,7 @@ void WeatherScreen::initialise()
         m_favouriteName = m_favourites.getName(static_cast<std::uint32_t>(m_favouritePosition));
     }
     for (int day = 0; day < 7; ++day)
-        m_weekdays[static_cast<std::size_t>(day)] = toQString(WeekdayLabel(day));
+        m_weekdays[static_cast<std::size_t>(day)] = ToQString(WeekdayLabel(day));
     m_iconFolder = ReadSetting(m_settings, Settings::IconFolder);
     m_today = environment().clock.localTime();
     m_titleFont = Painting::makeFont(23, Painting::Bold);
@@ -125,7 +125,7 @@ void WeatherScreen::readHomeCity()
 {
     m_cities.Load();
     const std::uint32_t home = HomeCity::position(m_settings);
-    m_homeCityName = toQString(m_cities.CityName(home));
+    m_homeCityName = ToQString(m_cities.CityName(home));
     m_deviceOffset = HomeCity::deviceOffset(m_cities, home, environment().clock);
 }
 
@@ -151,7 +151,7 @@ bool WeatherScreen::computeForecast()
         endScreen();
         return false;
     }
-    m_cityLine = toQString(WeatherCityLine(m_favouriteName, cityOffset()));
+    m_cityLine = ToQString(WeatherCityLine(m_favouriteName, cityOffset()));
     showDay(1);
     return true;
 }
@@ -160,7 +160,7 @@ void WeatherScreen::showDay(int day)
 {
     m_currentDay = day;
     m_shown = m_display ? m_display->day(day - 1) : ForecastDayTexts();
-    m_icon = m_shown.iconPath.empty() ? QImage() : LoadIcon(environment().paths, m_shown.iconPath);
+    m_icon = m_shown.iconPath.empty() ? QImage() : loadIcon(environment().paths, m_shown.iconPath);
     update();
 }
 
@@ -237,7 +237,7 @@ void WeatherScreen::paint(QPainter& painter)
 {
     m_title.paint(painter);
     painter.setPen(Painting::White);
-    DrawText(painter, m_cityFont, m_cityBand.left(), m_cityBand.top(), m_cityBand.right(), m_cityLine);
+    drawText(painter, m_cityFont, m_cityBand.left(), m_cityBand.top(), m_cityBand.right(), m_cityLine);
     paintDay(painter);
     paintWeekday(painter);
     paintDetails(painter);
@@ -248,14 +248,14 @@ void WeatherScreen::paint(QPainter& painter)
 void WeatherScreen::paintWeekday(QPainter& painter) const
 {
     const QString weekday = shownWeekday();
-    const QString date = toQString(m_shown.date);
+    const QString date = ToQString(m_shown.date);
     const QFontMetrics metrics(m_cityFont);
     const int top = m_dayBand.top() + (m_dayBand.height() - metrics.height()) / 2;
     const int left = m_weekdayInCard ? m_dayBand.right() - weekdayWidth() : m_dayBand.left();
     painter.setPen(Painting::White);
-    DrawText(painter, m_cityFont, left, top, m_dayBand.right(), weekday);
+    drawText(painter, m_cityFont, left, top, m_dayBand.right(), weekday);
     painter.setPen(Pale);
-    DrawText(painter, m_valueFont, left + metrics.horizontalAdvance(weekday) + 6, top, m_dayBand.right(), date);
+    drawText(painter, m_valueFont, left + metrics.horizontalAdvance(weekday) + 6, top, m_dayBand.right(), date);
 }
 
 // The width of the weekday with its date, as paintWeekday() draws them.
@@ -263,7 +263,7 @@ int WeatherScreen::weekdayWidth() const
 {
     const int weekday = QFontMetrics(m_cityFont).horizontalAdvance(shownWeekday());
     return m_shown.date.empty() ? weekday
-                                : weekday + 6 + QFontMetrics(m_valueFont).horizontalAdvance(toQString(m_shown.date));
+                                : weekday + 6 + QFontMetrics(m_valueFont).horizontalAdvance(ToQString(m_shown.date));
 }
 
 // The icon, the temperatures beside it and the weather in words under them.
@@ -277,17 +277,17 @@ void WeatherScreen::paintDay(QPainter& painter) const
     if (m_shown.iconPath.empty()) {
         const QString none = QStringLiteral("No forecast for this day");
         const int top = m_card.top() + (m_card.height() - QFontMetrics(m_valueFont).height()) / 2;
-        DrawText(painter, m_valueFont, m_card.left() + 8, top, m_card.right(), none);
+        drawText(painter, m_valueFont, m_card.left() + 8, top, m_card.right(), none);
         return;
     }
     if (!m_icon.isNull())
         painter.drawImage(QRect(m_card.left(), m_card.top(), IconSize, IconSize), m_icon);
     const int textLeft = m_card.left() + IconSize + 8;
     const int temperatureTop = m_card.top() + (IconSize - QFontMetrics(m_temperatureFont).height()) / 2;
-    DrawText(painter, m_temperatureFont, textLeft, temperatureTop, m_card.right(), toQString(m_shown.temperatures));
+    drawText(painter, m_temperatureFont, textLeft, temperatureTop, m_card.right(), ToQString(m_shown.temperatures));
     const int conditionRight = m_weekdayInCard ? m_dayBand.right() - weekdayWidth() - 8 : m_card.right();
-    DrawText(painter, m_conditionFont, m_card.left() + 2, m_card.top() + IconSize + 2, conditionRight,
-        toQString(m_shown.condition));
+    drawText(painter, m_conditionFont, m_card.left() + 2, m_card.top() + IconSize + 2, conditionRight,
+        ToQString(m_shown.condition));
 }
 
 // Label and value rows, in two columns when the work area is wider than high; the forecast's own date last.
@@ -297,11 +297,11 @@ void WeatherScreen::paintDetails(QPainter& painter) const
         return;
     const QString sun = m_shown.sunrise.empty() && m_shown.sunset.empty()
         ? QString()
-        : toQString(m_shown.sunrise) + QStringLiteral(" - ") + toQString(m_shown.sunset);
+        : ToQString(m_shown.sunrise) + QStringLiteral(" - ") + ToQString(m_shown.sunset);
     const std::array<std::pair<QString, QString>, 4> rows {{
-        {Painting::loadString(RealFeel), toQString(m_shown.realFeel)},
-        {QStringLiteral("Wind"), toQString(m_shown.wind)},
-        {QStringLiteral("Rain"), toQString(m_shown.precipitation)},
+        {Painting::loadString(RealFeel), ToQString(m_shown.realFeel)},
+        {QStringLiteral("Wind"), ToQString(m_shown.wind)},
+        {QStringLiteral("Rain"), ToQString(m_shown.precipitation)},
         {QStringLiteral("Sun"), sun},
     }};
     const int columns = m_twoColumns ? 2 : 1;
@@ -311,16 +311,16 @@ void WeatherScreen::paintDetails(QPainter& painter) const
         const int left = m_details.left() + static_cast<int>(i) % columns * columnWidth;
         const int top = m_details.top() + static_cast<int>(i) / columns * RowHeight;
         painter.setPen(Pale);
-        DrawText(painter, m_labelFont, left, top + 1, left + labelWidth - 4, rows[i].first);
+        drawText(painter, m_labelFont, left, top + 1, left + labelWidth - 4, rows[i].first);
         painter.setPen(Painting::White);
-        DrawText(painter, m_valueFont, left + labelWidth, top, left + columnWidth - 4, rows[i].second);
+        drawText(painter, m_valueFont, left + labelWidth, top, left + columnWidth - 4, rows[i].second);
     }
     if (m_shown.issue.empty())
         return;
     const int rowsHeight = static_cast<int>(rows.size()) / columns * RowHeight;
     painter.setPen(Pale);
-    DrawText(painter, m_labelFont, m_details.left(), m_details.top() + rowsHeight + 4, m_details.right(),
-        toQString(m_shown.issue));
+    drawText(painter, m_labelFont, m_details.left(), m_details.top() + rowsHeight + 4, m_details.right(),
+        ToQString(m_shown.issue));
 }
 
 void WeatherScreen::tourPrepare()
