@@ -56,8 +56,7 @@ FavouritesDialog::FavouritesDialog(
 void FavouritesDialog::initialise()
 {
     m_addViewShown = false;
-    for (QWidget* control :
-        {static_cast<QWidget*>(m_countryList), static_cast<QWidget*>(m_cityList), static_cast<QWidget*>(m_addButton)})
+    for (QWidget* control : addViewControls())
         control->hide();
     m_countryList->clear();
     m_cityList->clear();
@@ -68,13 +67,18 @@ void FavouritesDialog::initialise()
     reloadCountry();
     m_bandFont = Painting::makeFont(20, Painting::Bold);
     m_textFont = Painting::makeFont(18, Painting::Normal);
-    for (QWidget* control : {static_cast<QWidget*>(m_favouriteList), static_cast<QWidget*>(m_removeButton),
-             static_cast<QWidget*>(m_countryList), static_cast<QWidget*>(m_cityList),
-             static_cast<QWidget*>(m_addButton)})
+    m_favouriteList->setFont(m_textFont);
+    m_removeButton->setFont(m_textFont);
+    for (QWidget* control : addViewControls())
         control->setFont(m_textFont);
     m_favouriteList->setFocus();
     if (std::exchange(m_openInAddView, false))
         showAddView();
+}
+
+std::array<QWidget*, 3> FavouritesDialog::addViewControls() const
+{
+    return {m_countryList, m_cityList, m_addButton};
 }
 
 void FavouritesDialog::fillFavourites()
@@ -114,8 +118,7 @@ void FavouritesDialog::showAddView()
 {
     m_addViewShown = true;
     layout(workWidth(), workHeight());
-    for (QWidget* control :
-        {static_cast<QWidget*>(m_countryList), static_cast<QWidget*>(m_cityList), static_cast<QWidget*>(m_addButton)})
+    for (QWidget* control : addViewControls())
         control->show();
     QStringList countries;
     for (const std::wstring& country : ListWeatherCountries(environment().paths))

@@ -6,6 +6,7 @@
 
 #include <QFont>
 
+#include <array>
 #include <string>
 
 class QPushButton;
@@ -37,6 +38,8 @@ protected:
     void command(int id) override;
 
 private:
+    // The country spinner, the city spinner and "ADD": hidden until the Add view is shown.
+    std::array<QWidget*, 3> addViewControls() const;
     void fillFavourites();
     void favouriteChanged(int index);
     void reloadCountry();
