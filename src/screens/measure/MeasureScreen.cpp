@@ -64,12 +64,6 @@ int placed(int top, int height)
     return Band + (top - Band) * (height - Band - FieldHeight - 3) / (ResultTop - Band);
 }
 
-void drawTextAt(QPainter& painter, const QFont& font, int left, int top, const QString& text)
-{
-    painter.setFont(font);
-    painter.drawText(left, top + QFontMetrics(font).ascent(), text);
-}
-
 } // namespace
 
 MeasureScreen::MeasureScreen(ScreenEnvironment& environment, DeviceWindow& window)
@@ -222,9 +216,9 @@ void MeasureScreen::paint(QPainter& painter)
     m_title.paint(painter);
     painter.setPen(Painting::White);
     const int height = workHeight();
-    drawTextAt(painter, m_labelFont, LabelLeft, placed(ConvertLabelTop, height), Painting::loadString(ConvertLabel));
-    drawTextAt(painter, m_labelFont, LabelLeft, placed(FromLabelTop, height), Painting::loadString(FromLabel));
-    drawTextAt(painter, m_labelFont, LabelLeft, placed(ToLabelTop, height), Painting::loadString(ToLabel));
+    Painting::drawTextAt(painter, m_labelFont, LabelLeft, placed(ConvertLabelTop, height), Painting::loadString(ConvertLabel));
+    Painting::drawTextAt(painter, m_labelFont, LabelLeft, placed(FromLabelTop, height), Painting::loadString(FromLabel));
+    Painting::drawTextAt(painter, m_labelFont, LabelLeft, placed(ToLabelTop, height), Painting::loadString(ToLabel));
 }
 
 void MeasureScreen::destroyWork()
