@@ -53,10 +53,15 @@ QStringList toStrings(const std::vector<std::wstring>& texts)
     return strings;
 }
 
-void drawTextAt(QPainter& painter, const QFont& font, int left, int top, const QString& text)
+// The top of an item laid out at `top` on a work area `height` high. The offsets are fixed from the top;
+// on a work area too short for the result field (a rotated handheld is 240 high) the space under the
+// title band is shared out in the same proportions, so nothing is cut off at the bottom.
+int placed(int top, int height)
 {
-    painter.setFont(font);
-    painter.drawText(left, top + QFontMetrics(font).ascent(), text);
+    const int needed = ResultTop + FieldHeight + 3;
+    if (height >= needed || top <= Band)
+        return top;
+    return Band + (top - Band) * (height - Band - FieldHeight - 3) / (ResultTop - Band);
 }
 
 } // namespace
@@ -194,25 +199,26 @@ void MeasureScreen::command(int id)
         Screen::command(id);
 }
 
-void MeasureScreen::layout(int width, int)
+void MeasureScreen::layout(int width, int height)
 {
     m_title.layout(width);
     const int listWidth = width - ListRightMargin - ListLeft;
     const int fieldWidth = width - FieldRightMargin - FieldLeft;
-    m_categorySpinner->setGeometry(ListLeft, CategoryTop, listWidth, ListHeight);
-    m_fromSpinner->setGeometry(ListLeft, FromTop, listWidth, ListHeight);
-    m_amountEdit->setGeometry(FieldLeft, AmountTop, fieldWidth, FieldHeight);
-    m_toSpinner->setGeometry(ListLeft, ToTop, listWidth, ListHeight);
-    m_resultEdit->setGeometry(FieldLeft, ResultTop, fieldWidth, FieldHeight);
+    m_categorySpinner->setGeometry(ListLeft, placed(CategoryTop, height), listWidth, ListHeight);
+    m_fromSpinner->setGeometry(ListLeft, placed(FromTop, height), listWidth, ListHeight);
+    m_amountEdit->setGeometry(FieldLeft, placed(AmountTop, height), fieldWidth, FieldHeight);
+    m_toSpinner->setGeometry(ListLeft, placed(ToTop, height), listWidth, ListHeight);
+    m_resultEdit->setGeometry(FieldLeft, placed(ResultTop, height), fieldWidth, FieldHeight);
 }
 
 void MeasureScreen::paint(QPainter& painter)
 {
     m_title.paint(painter);
     painter.setPen(Painting::White);
-    drawTextAt(painter, m_labelFont, LabelLeft, ConvertLabelTop, Painting::loadString(ConvertLabel));
-    drawTextAt(painter, m_labelFont, LabelLeft, FromLabelTop, Painting::loadString(FromLabel));
-    drawTextAt(painter, m_labelFont, LabelLeft, ToLabelTop, Painting::loadString(ToLabel));
+    const int height = workHeight();
+    Painting::drawTextAt(painter, m_labelFont, LabelLeft, placed(ConvertLabelTop, height), Painting::loadString(ConvertLabel));
+    Painting::drawTextAt(painter, m_labelFont, LabelLeft, placed(FromLabelTop, height), Painting::loadString(FromLabel));
+    Painting::drawTextAt(painter, m_labelFont, LabelLeft, placed(ToLabelTop, height), Painting::loadString(ToLabel));
 }
 
 void MeasureScreen::destroyWork()
