@@ -55,9 +55,7 @@ QImage loadIcon(const DevicePaths& paths, const std::wstring& devicePath)
 // Draws `text` with its top at `top`, shortened to end before `right`.
 void drawText(QPainter& painter, const QFont& font, int left, int top, int right, const QString& text)
 {
-    const QFontMetrics metrics(font);
-    painter.setFont(font);
-    painter.drawText(left, top + metrics.ascent(), Painting::shortenToFit(metrics, text, right - left + 1));
+    Painting::drawTextAt(painter, font, left, top, Painting::shortenToFit(QFontMetrics(font), text, right - left + 1));
 }
 
 } // namespace
