@@ -1,5 +1,5 @@
 # Fails when a file of the core modules includes a Qt header.
-set(core_modules device text settings store time reference cli)
+set(core_modules device text settings store time astro reference cli)
 foreach(module ${core_modules})
     file(GLOB_RECURSE files ${ROOT}/${module}/*.h ${ROOT}/${module}/*.cpp)
     foreach(file ${files})
