@@ -4,6 +4,7 @@
 #include "cli/CityCommands.h"
 #include "cli/DialCommand.h"
 #include "cli/SizesCommand.h"
+#include "cli/SunCommand.h"
 
 #include <functional>
 #include <map>
@@ -22,6 +23,7 @@ const std::map<std::string, Command>& commands()
         {"city", RunCityCommand},
         {"dial", RunDialCommand},
         {"sizes", RunSizesCommand},
+        {"sun", RunSunCommand},
         {"time", RunTimeCommand},
     };
     return table;

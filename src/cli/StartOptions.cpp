@@ -8,7 +8,7 @@
 
 namespace {
 
-const std::set<std::string> Commands {"cities", "time", "city", "sizes", "dial"};
+const std::set<std::string> Commands {"cities", "time", "city", "sizes", "dial", "sun", "map"};
 
 bool parseInt(const std::string& text, int low, int high, int& value)
 {
@@ -72,7 +72,12 @@ std::optional<StartOptions> StartOptions::parse(const std::vector<std::string>& 
             arg = arg.substr(0, eq);
             hasValue = true;
         }
-        if (valueOptions.contains(arg)) {
+        if (o.command == "map" && arg == "--size") {
+            // After "map", --size is the picture's size, which the command checks itself.
+            o.commandArgs.push_back(args[i]);
+            if (!hasValue && i + 1 < args.size())
+                o.commandArgs.push_back(args[++i]);
+        } else if (valueOptions.contains(arg)) {
             if (!hasValue) {
                 if (i + 1 >= args.size())
                     return error = arg + " needs a value", std::nullopt;
@@ -128,6 +133,10 @@ Commands (print to standard output, no window):
                           clothing size tables
   dial [TEXT]             international dialing codes of countries containing TEXT
   dial --us [TEXT]        US area codes of cities or states containing TEXT
+  sun CITY [--date YYYY-MM-DD]
+                          sunrise, sunset and day length of CITY, and the offset used
+  map FILE.png [--size WxH] [--markers]
+                          the world map with the night side darkened, now (default 1024x512)
 
 CITY is a catalogue position or a name ("Paris" or "Paris:France").
 
