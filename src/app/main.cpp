@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/GuiApplication.h"
+#include "app/MapCommand.h"
 #include "cli/CommandRunner.h"
 #include "cli/StartOptions.h"
 
@@ -21,6 +22,9 @@ int main(int argc, char** argv)
         std::cout << "Wanderkit " << WANDERKIT_VERSION << '\n';
         return 0;
     }
+    // The map command draws with QtGui, so it is dispatched here rather than among the core's commands.
+    if (options->command == "map")
+        return RunMapCommand(*options, std::cout, std::cerr);
     if (!options->command.empty())
         return RunCommand(*options, std::cout, std::cerr);
     return GuiApplication(*options).run(argc, argv);
