@@ -30,7 +30,8 @@ public:
         put(type, 4);
         put(reinterpret_cast<const char*>(data), length);
         uLong crc = crc32(0, reinterpret_cast<const Bytef*>(type), 4);
-        crc = crc32_z(crc, data, length);
+        if (length > 0) // zlib starts afresh on a null buffer
+            crc = crc32_z(crc, data, length);
         qToBigEndian(static_cast<quint32>(crc), bytes.data());
         put(reinterpret_cast<const char*>(bytes.data()), 4);
     }
