@@ -4,11 +4,13 @@
 #include "app/PngFile.h"
 #include "astro/MapCities.h"
 #include "astro/TerminatorColumns.h"
-#include "cli/CoreSession.h"
+#include "cli/CommandSession.h"
+#include "device/DeviceClock.h"
 #include "screens/map/MapRenderer.h"
-#include "store/HomeCity.h"
+#include "session/HomeCity.h"
 #include "text/WideText.h"
 #include "ui/Painting.h"
+#include "ui/WideString.h"
 
 #include <QGuiApplication>
 #include <QImageReader>
@@ -104,7 +106,7 @@ QImage dayPicture(const DevicePaths& paths, const MapRequest& request)
     return {};
 }
 
-std::vector<MapRenderer::Marker> markers(CoreSession& session)
+std::vector<MapRenderer::Marker> markers(CommandSession& session)
 {
     CityCatalogue& cities = session.cities();
     const std::uint32_t count = cities.Count();
@@ -115,14 +117,14 @@ std::vector<MapRenderer::Marker> markers(CoreSession& session)
         if (position >= count)
             continue;
         const CityRecord city = cities.Record(position);
-        marked.push_back({QString::fromStdWString(city.name), Wtol(city.coordinate1), Wtol(city.coordinate2),
-            city.name == selectedName});
+        marked.push_back(
+            {toQString(city.name), Wtol(city.coordinate1), Wtol(city.coordinate2), city.name == selectedName});
     }
     return marked;
 }
 
 // The World Clocks cities, labelled at a size that suits the map's width.
-MapRenderer::MarkerSet markerSet(CoreSession& session, QSize size)
+MapRenderer::MarkerSet markerSet(CommandSession& session, QSize size)
 {
     const int scale = std::max(1, size.width() / 960);
     return {markers(session), Painting::makeFont(14 * scale, Painting::Bold), scale};
@@ -130,12 +132,12 @@ MapRenderer::MarkerSet markerSet(CoreSession& session, QSize size)
 
 } // namespace
 
-int RunMapCommand(const StartOptions& options, std::ostream& out, std::ostream& err)
+int RunMapCommand(const CommandRequest& command, std::ostream& out, std::ostream& err)
 {
-    const auto request = parseMapRequest(options.commandArgs, err);
+    const auto request = parseMapRequest(command.args, err);
     if (!request)
         return UsageError;
-    auto session = CoreSession::open(options, err);
+    auto session = CommandSession::open(command, err);
     if (!session)
         return 1;
     const QImage day = dayPicture(session->paths(), *request);

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/StartOptions.h"
+#include "cli/CommandRunner.h"
+#ifdef WANDERKIT_WITH_GUI
 #include "app/GuiApplication.h"
 #include "app/MapCommand.h"
-#include "cli/CommandRunner.h"
-#include "cli/StartOptions.h"
+#endif
 
 #include <iostream>
 
@@ -22,10 +24,17 @@ int main(int argc, char** argv)
         std::cout << "Wanderkit " << WANDERKIT_VERSION << '\n';
         return 0;
     }
+#ifdef WANDERKIT_WITH_GUI
     // The map command draws with QtGui, so it is dispatched here rather than among the core's commands.
     if (options->command == "map")
-        return RunMapCommand(*options, std::cout, std::cerr);
+        return RunMapCommand({options->device, options->commandArgs}, std::cout, std::cerr);
+#endif
     if (!options->command.empty())
-        return RunCommand(*options, std::cout, std::cerr);
+        return RunCommand(options->command, {options->device, options->commandArgs}, std::cout, std::cerr);
+#ifdef WANDERKIT_WITH_GUI
     return GuiApplication(*options).run(argc, argv);
+#else
+    std::cerr << "wanderkit: this build has no window; run one of the commands of wanderkit --help\n";
+    return 2;
+#endif
 }

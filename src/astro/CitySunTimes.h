@@ -2,7 +2,7 @@
 #pragma once
 
 #include "astro/SunTimes.h"
-#include "store/CityRecord.h"
+#include "time/CityRecord.h"
 #include "time/SystemTime.h"
 
 // A catalogue city's sunrise, sunset and day length as the map shows them, with the offset used.

@@ -3,8 +3,9 @@
 
 #include "astro/CitySunTimes.h"
 #include "cli/CityLookup.h"
-#include "cli/CoreSession.h"
-#include "store/HomeCity.h"
+#include "cli/CommandSession.h"
+#include "device/SystemDeviceClock.h"
+#include "session/HomeCity.h"
 #include "text/WideText.h"
 
 #include <ostream>
@@ -67,12 +68,12 @@ SystemTime onDate(SystemTime now, const std::optional<SystemTime>& date)
 
 } // namespace
 
-int RunSunCommand(const StartOptions& options, std::ostream& out, std::ostream& err)
+int RunSunCommand(const CommandRequest& command, std::ostream& out, std::ostream& err)
 {
-    const auto request = parseSunRequest(options.commandArgs, err);
+    const auto request = parseSunRequest(command.args, err);
     if (!request)
         return UsageError;
-    auto session = CoreSession::open(options, err);
+    auto session = CommandSession::open(command, err);
     if (!session)
         return 1;
     std::string error;

@@ -20,7 +20,7 @@ protected:
 
     CommandResult run(const std::vector<std::string>& args, const char* now = "2026-07-13 09:05:00")
     {
-        StartOptions options;
+        DeviceOptions options;
         options.stateDir = state.path();
         options.deviceRoot = device.path();
         options.now = SystemDeviceClock::parseLocalTime(now);

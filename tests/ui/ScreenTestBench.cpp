@@ -9,23 +9,17 @@
 #include <memory>
 
 ScreenTestBench::ScreenTestBench(QSize workArea)
-    : paths(root.path())
-    , settings(SettingsHive::openInMemory())
-    , objects(ObjectStore::openInMemory())
-    , environment {clock, paths, *settings, *objects, messages}
+    : device(DeviceSession::openInMemory(root.path(), clock))
+    , paths(device->paths())
+    , settings(device->settings())
+    , objects(device->objects())
+    , environment {clock, paths, settings, objects, messages, boxes, timers}
     , window(workArea)
 {
-    MessageBox::setInterceptor([this](const MessageBox::Request& request) {
-        boxes.push_back(request);
-        return boxAnswer;
-    });
     window.show();
 }
 
-ScreenTestBench::~ScreenTestBench()
-{
-    MessageBox::setInterceptor({});
-}
+ScreenTestBench::~ScreenTestBench() = default;
 
 int ScreenTestBench::run(Screen& screen, const std::function<void()>& drive)
 {
@@ -65,9 +59,9 @@ void ScreenTestBench::press(Qt::Key key, Qt::KeyboardModifiers modifiers)
     QTest::keyClick(window.focusWidget(), key, modifiers);
 }
 
-QString ScreenTestBench::fromWide(std::wstring_view text)
+void ScreenTestBench::advance(long long milliseconds)
 {
-    return QString::fromWCharArray(text.data(), static_cast<qsizetype>(text.size()));
+    timers.advance(milliseconds, [this](long long step) { clock.advanceMilliseconds(step); });
 }
 
 QImage ScreenTestBench::render()

@@ -2,13 +2,12 @@
 #pragma once
 
 #include "FakeDeviceClock.h"
+#include "ManualScreenTimers.h"
+#include "RecordingMessageBox.h"
 #include "RecordingMessageSink.h"
 #include "TempDir.h"
-#include "device/DevicePaths.h"
-#include "settings/SettingsHive.h"
-#include "store/ObjectStore.h"
+#include "session/DeviceSession.h"
 #include "ui/DeviceWindow.h"
-#include "ui/MessageBox.h"
 #include "ui/ScreenEnvironment.h"
 
 #include <functional>
@@ -33,18 +32,20 @@ public:
     void whenShown(Screen& screen, const std::function<void()>& drive);
     // Presses `key` on the widget that has the focus.
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    // Moves the device clock and the screens' timers on together, firing the timers that fall due.
+    void advance(long long milliseconds);
     // The whole device window, rendered.
     QImage render();
-    static QString fromWide(std::wstring_view text);
 
     TempDir root;
     FakeDeviceClock clock;
-    DevicePaths paths;
-    std::unique_ptr<SettingsHive> settings;
-    std::unique_ptr<ObjectStore> objects;
+    std::unique_ptr<DeviceSession> device;
+    const DevicePaths& paths;
+    SettingsHive& settings;
+    ObjectStore& objects;
     RecordingMessageSink messages;
+    RecordingMessageBox boxes;
+    ManualScreenTimers timers;
     ScreenEnvironment environment;
     DeviceWindow window;
-    std::vector<MessageBox::Request> boxes; // message boxes shown, answered with `boxAnswer`
-    QMessageBox::StandardButton boxAnswer = QMessageBox::Ok;
 };

@@ -4,6 +4,7 @@
 #include "settings/SettingsTable.h"
 #include "ui/Painting.h"
 #include "ui/Spinner.h"
+#include "ui/WideString.h"
 
 #include <QPainter>
 
@@ -11,13 +12,12 @@
 
 namespace {
 
-constexpr int ClothingMenuBar = 112;
 constexpr int ScreenTitle = 40045; // "Clothing sizes"
 
 // Layout, b being the title band's height: the wearer and garment spinners one above the other at
 // (6, b+6) and (6, b+36), W-17 wide and 24 high; the table title at (5, b+70); the four rows from
 // (5, b+100), 28 pixels apart. The hidden shift spinner sits at (W-25, 10), 0 x 0.
-constexpr int Band = 25;
+constexpr int Band = TitleBand::Height;
 constexpr int SpinnerHeight = 24;
 constexpr int WearerTop = Band + 6;
 constexpr int GarmentTop = Band + 36;
@@ -25,11 +25,6 @@ constexpr int TableTitleTop = Band + 70;
 constexpr int FirstRowTop = Band + 100;
 constexpr int RowPitch = 28;
 constexpr int TextLeft = 5;
-
-QString fromWide(std::wstring_view text)
-{
-    return QString::fromWCharArray(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 // A stored list position, or 0 when it is not one of `count` positions.
 int positionOrFirst(std::uint32_t stored, std::size_t count)
@@ -46,7 +41,8 @@ void drawTextAt(QPainter& painter, const QFont& font, int left, int top, const Q
 } // namespace
 
 ClothingScreen::ClothingScreen(ScreenEnvironment& environment, DeviceWindow& window)
-    : Screen(environment, window, ClothingMenuBar, QStringLiteral("clothing"))
+    : Screen(environment, window, MenuBarId::Converter, QStringLiteral("clothing"))
+    , m_title(Painting::ConverterBand, ScreenTitle)
     , m_settings(environment.settings)
     , m_wearerSpinner(new Spinner(this))
     , m_garmentSpinner(new Spinner(this))
@@ -79,14 +75,13 @@ QStringList ClothingScreen::shownRows() const
     QStringList rows;
     if (m_table) {
         for (const std::wstring_view row : m_table->rows)
-            rows << fromWide(ClothingSizes::Shifted(row, m_shift));
+            rows << toQString(ClothingSizes::Shifted(row, m_shift));
     }
     return rows;
 }
 
 void ClothingScreen::initialise()
 {
-    m_titleFont = Painting::makeFont(24, Painting::Bold);
     m_labelFont = Painting::makeFont(21, Painting::Bold);
     m_listFont = Painting::makeFont(21, Painting::Normal);
     m_rowFont = Painting::makeFont(20, Painting::Bold);
@@ -126,6 +121,7 @@ void ClothingScreen::showTable()
 
 void ClothingScreen::layout(int width, int)
 {
+    m_title.layout(width);
     m_wearerSpinner->setGeometry(6, WearerTop, width - 17, SpinnerHeight);
     m_garmentSpinner->setGeometry(6, GarmentTop, width - 17, SpinnerHeight);
     m_shiftSpinner->hideAt(width - 25, 10);
@@ -133,8 +129,7 @@ void ClothingScreen::layout(int width, int)
 
 void ClothingScreen::paint(QPainter& painter)
 {
-    Painting::drawBand(painter, QRect(0, 0, workWidth(), Band), Painting::ConverterBand,
-        Painting::loadString(ScreenTitle), m_titleFont);
+    m_title.paint(painter);
     painter.setPen(Painting::White);
     drawTextAt(painter, m_labelFont, TextLeft, TableTitleTop, tableTitle());
     const QStringList rows = shownRows();

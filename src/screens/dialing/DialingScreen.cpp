@@ -8,12 +8,12 @@
 #include "ui/ReportList.h"
 #include "ui/SoftKeyBar.h"
 #include "ui/Spinner.h"
+#include "ui/WideString.h"
 
 #include <QPainter>
 
 namespace {
 
-constexpr int DialingMenuBar = 107;
 constexpr int ScreenTitle = 40046; // "Dialing codes"
 constexpr int InternationalItem = 40082;
 constexpr int AreaCodesItem = 40078;
@@ -24,17 +24,12 @@ constexpr int GmtText = 40081;
 constexpr int RegionText = 40083;
 
 // The chooser at (6, b+6), W-17 wide and 24 high; both lists share (0, b+36) to the bottom right.
-constexpr int Band = 25;
+constexpr int Band = TitleBand::Height;
 constexpr int ChooserTop = Band + 6;
 constexpr int ChooserHeight = 24;
 constexpr int ListTop = Band + 36;
 // The chooser's longest item, "International Dialing Codes", fits its box at this height.
 constexpr int ListFontHeight = 15;
-
-QString fromWide(std::wstring_view text)
-{
-    return QString::fromWCharArray(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 ReportList* makeList(QWidget* parent, const QString& name, std::vector<ReportList::Column> columns)
 {
@@ -47,7 +42,8 @@ ReportList* makeList(QWidget* parent, const QString& name, std::vector<ReportLis
 } // namespace
 
 DialingScreen::DialingScreen(ScreenEnvironment& environment, DeviceWindow& window)
-    : Screen(environment, window, DialingMenuBar, QStringLiteral("dialing"))
+    : Screen(environment, window, MenuBarId::Launcher, QStringLiteral("dialing"))
+    , m_title(Painting::ConverterBand, ScreenTitle)
     , m_chooser(new Spinner(this))
 {
     setBackgroundPicture(L"bconv.jpg");
@@ -76,7 +72,6 @@ void DialingScreen::initialise()
         createLists();
     // Bar 107 greys "Services" for the launcher; here it must lead back to the launcher.
     softKeys()->setKeyEnabled(Commands::Services, true);
-    m_titleFont = Painting::makeFont(24, Painting::Bold);
     m_listFont = Painting::makeFont(ListFontHeight, Painting::Normal);
     m_chooser->setFont(m_listFont);
     m_international->setFont(m_listFont);
@@ -94,11 +89,11 @@ void DialingScreen::fillLists()
     int row = 0;
     for (const DialingCodes::Country& country : DialingCodes::International())
         m_international->insertRow(
-            row++, {fromWide(country.country), fromWide(DialingCodes::ShownCode(country)), fromWide(country.gmt)});
+            row++, {toQString(country.country), toQString(DialingCodes::ShownCode(country)), toQString(country.gmt)});
     m_areaCodes->clearRows();
     row = 0;
     for (const DialingCodes::AreaCode& area : DialingCodes::UsAreaCodes())
-        m_areaCodes->insertRow(row++, {fromWide(area.city), fromWide(area.state), fromWide(area.code)});
+        m_areaCodes->insertRow(row++, {toQString(area.city), toQString(area.state), toQString(area.code)});
 }
 
 void DialingScreen::showChosenList()
@@ -110,6 +105,7 @@ void DialingScreen::showChosenList()
 
 void DialingScreen::layout(int width, int height)
 {
+    m_title.layout(width);
     m_chooser->setGeometry(6, ChooserTop, width - 17, ChooserHeight);
     const QRect lists(0, ListTop, width, height - ListTop);
     m_international->setGeometry(lists);
@@ -118,8 +114,7 @@ void DialingScreen::layout(int width, int height)
 
 void DialingScreen::paint(QPainter& painter)
 {
-    Painting::drawBand(painter, QRect(0, 0, workWidth(), Band), Painting::ConverterBand,
-        Painting::loadString(ScreenTitle), m_titleFont);
+    m_title.paint(painter);
     // A frame one pixel outside the chooser.
     const QRect chooser = m_chooser->geometry();
     painter.setPen(Qt::black);

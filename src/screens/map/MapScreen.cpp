@@ -5,9 +5,9 @@
 #include "device/DeviceClock.h"
 #include "device/DevicePaths.h"
 #include "screens/select/SelectDialog.h"
+#include "session/HomeCity.h"
 #include "settings/SettingsTable.h"
 #include "store/CityCatalogue.h"
-#include "store/HomeCity.h"
 #include "store/WeatherFavourites.h"
 #include "text/WideText.h"
 #include "time/CityDaylight.h"
@@ -19,22 +19,17 @@
 #include "ui/Painting.h"
 #include "ui/SoftKeyBar.h"
 #include "ui/Spinner.h"
+#include "ui/WideString.h"
 
 #include <QPainter>
 
 namespace {
 
-constexpr int MapMenuBar = 108;
 constexpr int TickTimer = 1;
 constexpr int LongLatString = 40024;
 const QColor TimeColour(51, 102, 150);
 const QColor CityTimeColour(0, 0, 100);
 const QColor WindowFill(150, 150, 150);
-
-QString fromWide(const std::wstring& text)
-{
-    return QString::fromStdWString(text);
-}
 
 CityZoneTexts zoneTexts(const CityRecord& city)
 {
@@ -51,7 +46,7 @@ QImage loadPicture(const DevicePaths& paths, const wchar_t* name)
 
 MapScreen::MapScreen(
     ScreenEnvironment& environment, DeviceWindow& window, CityCatalogue& cities, WeatherFavourites& favourites)
-    : Screen(environment, window, MapMenuBar, QStringLiteral("worldmap"))
+    : Screen(environment, window, MenuBarId::Map, QStringLiteral("worldmap"))
     , m_cities(cities)
     , m_favourites(favourites)
     , m_settings(environment.settings)
@@ -83,7 +78,7 @@ void MapScreen::initialise()
     m_nameFont = Painting::makeFont(24, Painting::Bold);
     m_sunFont = Painting::makeFont(18, Painting::Bold);
     m_twelveHour = ReadSetting(m_settings, Settings::TwelveHour) == 1;
-    m_spinner->setItems({fromWide(m_city.name)});
+    m_spinner->setItems({toQString(m_city.name)});
     m_spinner->setCurrentIndex(0);
     m_spinner->setFocus();
     loadPictures();
@@ -114,19 +109,19 @@ void MapScreen::computeCity()
 void MapScreen::formatTimes()
 {
     const SystemTime now = environment().clock.localTime();
-    m_localTime = fromWide(FormatText(L"%02d:%02d:%02d", now.hour, now.minute, now.second));
-    m_cityTime = fromWide(FormatCityTime(m_citySlot.offset, m_device, false, now));
+    m_localTime = toQString(FormatText(L"%02d:%02d:%02d", now.hour, now.minute, now.second));
+    m_cityTime = toQString(FormatCityTime(m_citySlot.offset, m_device, false, now));
 }
 
 QString MapScreen::shownLocalTime() const
 {
-    return m_twelveHour ? fromWide(MapTwelveHour(m_localTime.toStdWString())) : m_localTime;
+    return m_twelveHour ? toQString(MapTwelveHour(toWide(m_localTime))) : m_localTime;
 }
 
 QString MapScreen::shownCityName() const
 {
     QFontMetrics metrics(m_nameFont);
-    return Painting::shortenToFit(metrics, fromWide(m_city.name), workWidth() - 72);
+    return Painting::shortenToFit(metrics, toQString(m_city.name), workWidth() - 72);
 }
 
 void MapScreen::layout(int width, int height)
@@ -181,7 +176,7 @@ void MapScreen::selectCity(std::int32_t city)
     WriteSetting(m_settings, Settings::MapClock, static_cast<std::uint32_t>(m_selected));
     computeCity();
     formatTimes();
-    m_spinner->setItems({fromWide(m_city.name)});
+    m_spinner->setItems({toQString(m_city.name)});
     m_spinner->setCurrentIndex(0);
     m_redrawMap = true;
     update();
@@ -247,7 +242,7 @@ MapRenderer::MarkerSet MapScreen::markers()
             continue;
         const CityRecord city = m_cities.Record(position);
         set.markers.push_back(
-            {fromWide(city.name), Wtol(city.coordinate1), Wtol(city.coordinate2), city.name == m_city.name});
+            {toQString(city.name), Wtol(city.coordinate1), Wtol(city.coordinate2), city.name == m_city.name});
     }
     return set;
 }
@@ -322,17 +317,17 @@ void MapScreen::paintCity(QPainter& painter) const
 
     painter.setFont(m_smallFont);
     painter.drawText(m_layout.coordinates, Qt::AlignLeft | Qt::AlignVCenter,
-        Painting::loadString(LongLatString) + QStringLiteral(": ") + fromWide(m_city.coordinate1) + QLatin1Char('/')
-            + fromWide(m_city.coordinate2));
+        Painting::loadString(LongLatString) + QStringLiteral(": ") + toQString(m_city.coordinate1) + QLatin1Char('/')
+            + toQString(m_city.coordinate2));
 
     const QRect& sun = m_layout.sun;
     painter.setFont(m_sunFont);
-    const QString sunrise = fromWide(m_sun.times.sunriseText);
+    const QString sunrise = toQString(m_sun.times.sunriseText);
     const int sunriseWidth = QFontMetrics(m_sunFont).horizontalAdvance(sunrise);
     painter.drawText(sun, Qt::AlignLeft | Qt::AlignVCenter, sunrise);
     Icons::draw(painter, Icons::Service, sun.left() + sunriseWidth + 6, sun.top() + (sun.height() - 16) / 2, 16);
     painter.drawText(
-        sun.adjusted(sunriseWidth + 28, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, fromWide(m_sun.times.sunsetText));
+        sun.adjusted(sunriseWidth + 28, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, toQString(m_sun.times.sunsetText));
 
     painter.setPen(Painting::White);
     painter.setFont(m_nameFont);

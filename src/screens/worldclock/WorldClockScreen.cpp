@@ -16,15 +16,14 @@
 #include "ui/Painting.h"
 #include "ui/SoftKeyBar.h"
 #include "ui/Spinner.h"
+#include "ui/WideString.h"
 
 #include <QPainter>
 
 namespace {
 
-constexpr int WorldClockMenuBar = 101;
 constexpr int TickTimer = 1;
-constexpr int TitleHeight = 25;
-const QColor TitleBand(0, 178, 235); // colour value 15446528
+constexpr int TitleHeight = TitleBand::Height;
 
 // The registry value of each slot: "clock", "clock1" ... "clock4".
 const std::array<const DwordSetting*, WorldClockScreen::SlotCount> SlotSettings {
@@ -48,11 +47,12 @@ SystemTime handTime(const std::wstring& text, const SystemTime& now)
 
 WorldClockScreen::WorldClockScreen(
     ScreenEnvironment& environment, DeviceWindow& window, CityCatalogue& cities, WeatherFavourites& favourites)
-    : Screen(environment, window, WorldClockMenuBar, QStringLiteral("worldclock"))
+    : Screen(environment, window, MenuBarId::WorldClocks, QStringLiteral("worldclock"))
     , m_cities(cities)
     , m_favourites(favourites)
     , m_settings(environment.settings)
     , m_focusList(new Spinner(this))
+    , m_title(Painting::ConverterBand, 40008, Painting::makeFont(23, Painting::Bold)) // "World Clocks"
 {
     m_focusList->setObjectName(QStringLiteral("focusSpinner"));
     m_focusList->setWrapping(true);
@@ -94,7 +94,7 @@ void WorldClockScreen::computeOffsets()
     for (std::size_t i = 0; i < SlotCount; ++i) {
         const CityRecord city = m_cities.Record(m_cityOf[i]);
         zones[i] = zoneTexts(city);
-        m_names[i] = QString::fromStdWString(city.name);
+        m_names[i] = toQString(city.name);
         m_standardOffsets[i] = Wtol(city.timeZone);
         m_favourite[i] = !city.name.empty() && m_favourites.findByName(city.name) != 0;
     }
@@ -146,9 +146,9 @@ ClockView WorldClockScreen::view(int slot) const
     const TwelveHourTime twelve = ToTwelveHour(time);
     ClockView view;
     view.name = m_names[index];
-    view.time = QString::fromStdWString(m_twelveHour ? twelve.time : time);
-    view.suffix = m_twelveHour ? QString::fromStdWString(twelve.suffix) : QString();
-    view.date = QString::fromStdWString(m_texts[index].date);
+    view.time = toQString(m_twelveHour ? twelve.time : time);
+    view.suffix = m_twelveHour ? toQString(twelve.suffix) : QString();
+    view.date = toQString(m_texts[index].date);
     view.daylightNow = m_slots[index].observes && m_slots[index].offset != m_standardOffsets[index];
     view.favourite = m_favourite[index];
     view.hands = m_handTimes[index];
@@ -179,7 +179,7 @@ QString WorldClockScreen::shownName(int slot) const
 void WorldClockScreen::layout(int width, int height)
 {
     m_focusList->hideAt(width - 25, 10);
-    m_titleBand = QRect(0, 0, width, TitleHeight);
+    m_title.layout(width);
     m_cells = {ClockCell::home(TitleHeight, width, height, m_fonts)};
     const auto rows = ClockCell::cityRows(m_cells[0].area().bottom() + 3, width, height, m_fonts);
     m_cells.insert(m_cells.end(), rows.begin(), rows.end());
@@ -187,7 +187,7 @@ void WorldClockScreen::layout(int width, int height)
 
 void WorldClockScreen::paint(QPainter& painter)
 {
-    if (dirtyRect().intersects(m_titleBand))
+    if (dirtyRect().intersects(m_title.rect()))
         paintTitle(painter);
     for (int k = 0; k < SlotCount; ++k) {
         const ClockCell& cell = m_cells[static_cast<std::size_t>(k)];
@@ -199,7 +199,7 @@ void WorldClockScreen::paint(QPainter& painter)
 
 void WorldClockScreen::paintTitle(QPainter& painter) const
 {
-    Painting::drawBand(painter, m_titleBand, TitleBand, Painting::loadString(40008), m_fonts.normal);
+    m_title.paint(painter);
     const int width = workWidth();
     if (m_movedLeft)
         Icons::draw(painter, Icons::LeftArrow, width - 60, 0, 24);
@@ -246,7 +246,7 @@ void WorldClockScreen::refresh()
     }
     if (m_movedLeft || m_movedRight) {
         m_movedLeft = m_movedRight = false;
-        update(m_titleBand);
+        update(m_title.rect());
     }
 }
 
@@ -308,8 +308,8 @@ void WorldClockScreen::showWeather(int slot)
     if (m_favourite[index])
         return;
     const bool added = addFavourite(m_cityOf[index]);
-    MessageBox::show(this, Painting::loadString(added ? 40041 : 40039), QStringLiteral("Wanderkit"), QMessageBox::Ok,
-        QMessageBox::Information);
+    environment().boxes.show(this, Painting::loadString(added ? 40041 : 40039), QStringLiteral("Wanderkit"),
+        QMessageBox::Ok, QMessageBox::Information);
     update();
 }
 

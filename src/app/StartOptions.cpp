@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "cli/StartOptions.h"
+#include "app/StartOptions.h"
 
+#include "cli/CommandRunner.h"
 #include "device/SystemDeviceClock.h"
 
 #include <charconv>
@@ -8,7 +9,8 @@
 
 namespace {
 
-const std::set<std::string> Commands {"cities", "time", "city", "sizes", "dial", "sun", "map"};
+// `map` draws with QtGui, so it is the program's own command rather than one of the core's.
+const std::string MapCommand = "map";
 
 bool parseInt(const std::string& text, int low, int high, int& value)
 {
@@ -43,14 +45,14 @@ bool applyValueOption(StartOptions& o, const std::string& name, const std::strin
         if (!parseInt(value, 1, 8, o.scale))
             return error = "--scale wants a whole number from 1 to 8", false;
     } else if (name == "--state-dir") {
-        o.stateDir = value;
+        o.device.stateDir = value;
     } else if (name == "--device-root") {
-        o.deviceRoot = value;
+        o.device.deviceRoot = value;
     } else if (name == "--tour") {
         o.tourDir = value;
     } else if (name == "--now") {
-        o.now = SystemDeviceClock::parseLocalTime(value.c_str());
-        if (!o.now)
+        o.device.now = SystemDeviceClock::parseLocalTime(value.c_str());
+        if (!o.device.now)
             return error = "--now wants a local time \"YYYY-MM-DD HH:MM:SS\"", false;
     }
     return true;
@@ -72,7 +74,7 @@ std::optional<StartOptions> StartOptions::parse(const std::vector<std::string>& 
             arg = arg.substr(0, eq);
             hasValue = true;
         }
-        if (o.command == "map" && arg == "--size") {
+        if (o.command == MapCommand && arg == "--size") {
             // After "map", --size is the picture's size, which the command checks itself.
             o.commandArgs.push_back(args[i]);
             if (!hasValue && i + 1 < args.size())
@@ -93,7 +95,7 @@ std::optional<StartOptions> StartOptions::parse(const std::vector<std::string>& 
             o.exitAfterFirstPaint = true;
         } else if (!o.command.empty()) {
             o.commandArgs.push_back(args[i]);
-        } else if (Commands.contains(arg)) {
+        } else if (IsCommand(arg) || arg == MapCommand) {
             o.command = arg;
         } else {
             return error = arg.starts_with("-") ? "unknown option " + args[i] : "unknown command " + args[i],
