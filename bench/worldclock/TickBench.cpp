@@ -5,7 +5,6 @@
 
 #include <QApplication>
 #include <QEventLoop>
-
 #include <benchmark/benchmark.h>
 
 namespace {
