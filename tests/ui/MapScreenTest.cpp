@@ -169,14 +169,18 @@ private slots:
 
     void nightPixelsKeepOnlyTheBlueChannelOfTheDayPicture()
     {
+        // "bmap.jpg", the night picture, is loaded and held but never drawn: night is the day picture's blue.
         MapBench t([](const TempDir& root) {
             CityFixture::write(root, {});
             writeDayPicture(root, QSize(240, 138));
+            QImage white(240, 138, QImage::Format_RGB32);
+            white.fill(Qt::white);
+            QVERIFY(white.save(QString::fromStdString((root.path() / "bmap.jpg").string()), "JPG"));
         });
         WriteSetting(t.registry, Settings::ShowCities, 0);
         const QImage day(QString::fromStdString((t.bench.root.path() / "day.jpg").string()));
         t.run([&] {
-            QVERIFY(t.screen.holdsNightPicture() == false); // the fixture root has no "bmap.jpg"
+            QVERIFY(t.screen.holdsNightPicture());
             const QImage map = t.map();
             int night = 0;
             for (int y = 0; y < map.height(); ++y) {
@@ -202,6 +206,7 @@ private slots:
         MapBench t;
         WriteSetting(t.registry, Settings::ShowCities, 0);
         t.run([&] {
+            QVERIFY(!t.screen.holdsNightPicture()); // nor is there a "bmap.jpg": nothing is said about either
             const QImage window = t.bench.render();
             // Band 30 (the top) is RGB(114, 150, 180): kept in day, only its blue at night.
             QCOMPARE(window.pixel(120, 69), qRgb(84 + 23, 120 + 23, 150 + 23)); // row 69 is in band 23
