@@ -107,6 +107,29 @@ private slots:
         QCOMPARE(t.stored(Settings::MapClock), 2u);
     }
 
+    void aStepDrawsItsArrowLargeUntilTheNextTick()
+    {
+        MapBench t;
+        t.run([&] {
+            const int top = t.screen.mapLayout().mapHeight;
+            // The parts of the 24-pixel arrows outside the 16-pixel ones: right of the small left arrow
+            // (x 5 to 20) and left of the small right arrow (x 219 to 234).
+            const QRect leftOnly(22, top + 4, 7, 24);
+            const QRect rightOnly(211, top + 4, 7, 24);
+            const QImage still = t.bench.render();
+            t.bench.press(Qt::Key_Left);
+            const QImage left = t.bench.render();
+            QVERIFY(left.copy(leftOnly) != still.copy(leftOnly));
+            QVERIFY(left.copy(rightOnly) == still.copy(rightOnly));
+            t.bench.advance(MapScreen::TickMilliseconds);
+            QVERIFY(t.bench.render().copy(leftOnly) == still.copy(leftOnly));
+            t.bench.press(Qt::Key_Right);
+            const QImage right = t.bench.render();
+            QVERIFY(right.copy(rightOnly) != still.copy(rightOnly));
+            QVERIFY(right.copy(leftOnly) == still.copy(leftOnly));
+        });
+    }
+
     void aStoredCityOutsideTheCatalogueShowsTheFirst()
     {
         for (const std::uint32_t stored : {1000u, 70000u, 0xFFFFFFFFu}) {
