@@ -36,7 +36,7 @@ void MapRedraw(benchmark::State& state)
         const SystemTime now {2026, month, 0, 20, 12, minute, 0, 0};
         minute = static_cast<std::uint16_t>((minute + 1) % 60);
         const TerminatorColumns night
-            = computeTerminatorColumns(computeSunForTerminator(now, {2, 0}), size.width(), size.height(), month);
+            = ComputeTerminatorColumns(computeSunForTerminator(now, {2, 0}), size.width(), size.height(), month);
         benchmark::DoNotOptimize(MapRenderer::render(day, size, MapRenderer::Stretch::Plain, night, &markers));
     }
 }

@@ -118,7 +118,7 @@ std::vector<MapRenderer::Marker> markers(CommandSession& session)
             continue;
         const CityRecord city = cities.Record(position);
         marked.push_back(
-            {toQString(city.name), Wtol(city.coordinate1), Wtol(city.coordinate2), city.name == selectedName});
+            {ToQString(city.name), Wtol(city.coordinate1), Wtol(city.coordinate2), city.name == selectedName});
     }
     return marked;
 }
@@ -150,7 +150,7 @@ int RunMapCommand(const CommandRequest& command, std::ostream& out, std::ostream
         = HomeCity::deviceOffset(session->cities(), HomeCity::position(session->settings()), session->clock());
     const QSize size(request->width, request->height);
     const TerminatorColumns night
-        = computeTerminatorColumns(computeSunForTerminator(now, device), size.width(), size.height(), now.month);
+        = ComputeTerminatorColumns(computeSunForTerminator(now, device), size.width(), size.height(), now.month);
     // Labels need fonts, and fonts a GUI application: one without a display, made only for --markers.
     std::optional<QGuiApplication> application;
     std::optional<MapRenderer::MarkerSet> markers;

@@ -135,12 +135,16 @@ Commands (print to standard output, no window):
                           clothing size tables
   dial [TEXT]             international dialing codes of countries containing TEXT
   dial --us [TEXT]        US area codes of cities or states containing TEXT
+  convert AMOUNT FROM TO  convert AMOUNT between two units of one category
+  units [CATEGORY]        the units of the unit converter and their factors
   sun CITY [--date YYYY-MM-DD]
                           sunrise, sunset and day length of CITY, and the offset used
   map FILE.png [--size WxH] [--markers]
                           the world map with the night side darkened, now (default 1024x512)
 
 CITY is a catalogue position or a name ("Paris" or "Paris:France").
+A unit is a name as listed by "units" (or its unique start) or C:I, the category
+and unit indices ("4:0" is degree Celsius).
 
 Keys: Left/Right move the selection, Return is the action key, F1 and F2 press
 the soft keys, Escape is Back, Ctrl+R rotates the work area.

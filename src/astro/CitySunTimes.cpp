@@ -4,11 +4,11 @@
 #include "text/WideText.h"
 #include "time/ClockOffsets.h"
 
-CitySunTimes computeCitySunTimes(const CityRecord& city, DeviceOffset device, const SystemTime& now)
+CitySunTimes ComputeCitySunTimes(const CityRecord& city, DeviceOffset device, const SystemTime& now)
 {
     const ClockSlot slot = ComputeCitySlot({city.timeZone, city.daylightRule}, device, now);
     CitySunTimes result;
-    result.utcHours = sunOffsetHours(slot.offset);
+    result.utcHours = SunOffsetHours(slot.offset);
     result.times = computeSunTimes(
         now.day, now.month, now.year, Wtol(city.coordinate2), Wtol(city.coordinate1), result.utcHours);
     return result;

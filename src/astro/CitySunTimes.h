@@ -14,4 +14,4 @@ struct CitySunTimes
 
 // On the device's date `now`, for `city` at its whole-degree coordinates (longitude before the ":",
 // latitude after it) and its offset with daylight saving as the clocks compute it.
-[[nodiscard]] CitySunTimes computeCitySunTimes(const CityRecord& city, DeviceOffset device, const SystemTime& now);
+[[nodiscard]] CitySunTimes ComputeCitySunTimes(const CityRecord& city, DeviceOffset device, const SystemTime& now);

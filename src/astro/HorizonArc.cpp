@@ -22,7 +22,7 @@ double wrap(double fraction)
 
 } // namespace
 
-HorizonArc horizonArc(const TerminatorSun& sun, int row, int mapHeight)
+HorizonArc RowHorizonArc(const TerminatorSun& sun, int row, int mapHeight)
 {
     const double latitude = 90 - row * 180.0 / mapHeight; // degrees
     const double cosH0
@@ -36,12 +36,12 @@ HorizonArc horizonArc(const TerminatorSun& sun, int row, int mapHeight)
     return {HorizonArc::Kind::Crossing, h0 * PerTurn};
 }
 
-double transitFraction(const TerminatorSun& sun, double lonW)
+double TransitFraction(const TerminatorSun& sun, double lonW)
 {
     return wrap((lonW + sun.rightAscension - sun.siderealAngle) * PerTurn);
 }
 
-bool isNightAt(double transit, const HorizonArc& arc, double dayFraction)
+bool IsNightAt(double transit, const HorizonArc& arc, double dayFraction)
 {
     if (arc.kind != HorizonArc::Kind::Crossing)
         return arc.kind == HorizonArc::Kind::AlwaysNight;
@@ -56,5 +56,5 @@ bool isNightAt(double transit, const HorizonArc& arc, double dayFraction)
 
 bool isNight(const TerminatorSun& sun, double lonW, int row, int mapHeight)
 {
-    return isNightAt(transitFraction(sun, lonW), horizonArc(sun, row, mapHeight), sun.dayFraction);
+    return IsNightAt(TransitFraction(sun, lonW), RowHorizonArc(sun, row, mapHeight), sun.dayFraction);
 }

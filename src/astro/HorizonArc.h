@@ -20,13 +20,13 @@ struct HorizonArc
 };
 
 // The arc at map row `row` of a map `mapHeight` rows high; row 0 is the north edge.
-[[nodiscard]] HorizonArc horizonArc(const TerminatorSun& sun, int row, int mapHeight);
+[[nodiscard]] HorizonArc RowHorizonArc(const TerminatorSun& sun, int row, int mapHeight);
 
 // The Sun's transit at map longitude `lonW` (degrees, west positive), as a fraction of a day in [0, 1].
-[[nodiscard]] double transitFraction(const TerminatorSun& sun, double lonW);
+[[nodiscard]] double TransitFraction(const TerminatorSun& sun, double lonW);
 
 // True when a point with this transit and arc is in night at the Sun's time of day.
-[[nodiscard]] bool isNightAt(double transit, const HorizonArc& arc, double dayFraction);
+[[nodiscard]] bool IsNightAt(double transit, const HorizonArc& arc, double dayFraction);
 
 // True when the map point at longitude `lonW` (degrees, west positive) and row `row` is in night.
 [[nodiscard]] bool isNight(const TerminatorSun& sun, double lonW, int row, int mapHeight);

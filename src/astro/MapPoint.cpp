@@ -9,18 +9,18 @@ constexpr double PerHalfTurn = 0.005555555555555556; // 1 / 180
 
 } // namespace
 
-int mapHeightFor(int workAreaHeight)
+int MapHeightFor(int workAreaHeight)
 {
     return (workAreaHeight - 25) * 4 / 7;
 }
 
-MapPoint mapPoint(int longitude, int latitude, int mapWidth, int mapHeight)
+MapPoint MapPointOf(int longitude, int latitude, int mapWidth, int mapHeight)
 {
     return {static_cast<int>(longitude * mapWidth * PerTurn + Margin + mapWidth / 2),
         static_cast<int>(mapHeight / 2 - latitude * mapHeight * PerHalfTurn)};
 }
 
-bool labelOnLeft(int x, int mapWidth)
+bool LabelOnLeft(int x, int mapWidth)
 {
     return (x >= mapWidth / 4 && x <= mapWidth / 2) || x >= mapWidth * 3 / 4;
 }

@@ -12,11 +12,11 @@ struct MapPoint
 };
 
 // The map's height in a work area `workAreaHeight` high: (height - 25) × 4 / 7, in integers.
-[[nodiscard]] int mapHeightFor(int workAreaHeight);
+[[nodiscard]] int MapHeightFor(int workAreaHeight);
 
 // The pixel of whole-degree `longitude` (east positive) and `latitude` (north positive), truncated.
-[[nodiscard]] MapPoint mapPoint(int longitude, int latitude, int mapWidth, int mapHeight);
+[[nodiscard]] MapPoint MapPointOf(int longitude, int latitude, int mapWidth, int mapHeight);
 
 // True when a marker's label goes to the left of point column `x`: in the map's second quarter
 // (from a quarter up to the middle, both included) or from three quarters on.
-[[nodiscard]] bool labelOnLeft(int x, int mapWidth);
+[[nodiscard]] bool LabelOnLeft(int x, int mapWidth);

@@ -83,7 +83,7 @@ double dayWrap(double hours)
 
 } // namespace
 
-std::int32_t sunOffsetHours(ZoneOffset cityOffset)
+std::int32_t SunOffsetHours(ZoneOffset cityOffset)
 {
     return IsHhmmOffset(cityOffset) ? cityOffset / 100 : cityOffset;
 }
@@ -107,13 +107,13 @@ SunTimes computeSunTimes(int day, int month, int year, int latitude, int longitu
         times.dayLength = 0;
     times.sunrise = dayWrap((12 - halfDayHours) + utcHours - longitude * 0.06666666666666667 + sun.equationOfTime);
     times.sunset = dayWrap(utcHours + halfDayHours + 12 - longitude * 0.06666666666666667 + sun.equationOfTime);
-    times.sunriseText = formatHoursMinutes(times.sunrise);
-    times.sunsetText = formatHoursMinutes(times.sunset);
-    times.dayLengthText = formatHoursMinutes(times.dayLength);
+    times.sunriseText = FormatHoursMinutes(times.sunrise);
+    times.sunsetText = FormatHoursMinutes(times.sunset);
+    times.dayLengthText = FormatHoursMinutes(times.dayLength);
     return times;
 }
 
-std::wstring formatHoursMinutes(double hours)
+std::wstring FormatHoursMinutes(double hours)
 {
     const std::int32_t whole = truncate(hours);
     const std::int32_t minutes = truncate((hours - whole) * 60);

@@ -15,14 +15,14 @@ struct SunTimes
     double sunset = 0;
     double dayLength = 0;
     double declination = 0; // radians
-    std::wstring sunriseText; // "HH:MM", see formatHoursMinutes
+    std::wstring sunriseText; // "HH:MM", see FormatHoursMinutes
     std::wstring sunsetText;
     std::wstring dayLengthText;
 };
 
 // The whole hours of a city's current offset as the sunrise uses it: hhmm offsets lose their minutes
 // (530 gives 5, -330 gives -3).
-[[nodiscard]] std::int32_t sunOffsetHours(ZoneOffset cityOffset);
+[[nodiscard]] std::int32_t SunOffsetHours(ZoneOffset cityOffset);
 
 // The city at whole-degree `latitude` (north positive) and `longitude` (east positive), `utcHours`
 // ahead of UTC, on day `day` of `month` of `year`.
@@ -31,4 +31,4 @@ struct SunTimes
 // Truncated hours and truncated minutes of the fraction, each with "0" before it below 10: 6.5 gives
 // "06:30", 0.12 "00:07". Values beyond 32 bits or not a number read as the processor converts them,
 // -2147483648.
-[[nodiscard]] std::wstring formatHoursMinutes(double hours);
+[[nodiscard]] std::wstring FormatHoursMinutes(double hours);

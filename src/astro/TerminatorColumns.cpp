@@ -16,13 +16,13 @@ public:
     {
         m_arcs.reserve(static_cast<std::size_t>(mapHeight) + 1);
         for (int row = 0; row <= mapHeight; ++row)
-            m_arcs.push_back(horizonArc(sun, row, mapHeight));
+            m_arcs.push_back(RowHorizonArc(sun, row, mapHeight));
     }
 
     NightSpan scan(int column) const
     {
         const double lonW = 180 - column * 360.0 / m_mapWidth; // degrees, west positive
-        const double transit = transitFraction(m_sun, lonW);
+        const double transit = TransitFraction(m_sun, lonW);
         const int rows = static_cast<int>(m_arcs.size());
         int first = 0;
         while (first < rows && !night(transit, first))
@@ -38,7 +38,7 @@ public:
 private:
     bool night(double transit, int row) const
     {
-        return isNightAt(transit, m_arcs[static_cast<std::size_t>(row)], m_sun.dayFraction);
+        return IsNightAt(transit, m_arcs[static_cast<std::size_t>(row)], m_sun.dayFraction);
     }
 
     const TerminatorSun& m_sun;
@@ -57,7 +57,7 @@ void interpolate(const NightSpan& previous, const NightSpan& current, int step, 
 
 } // namespace
 
-TerminatorColumns computeTerminatorColumns(const TerminatorSun& sun, int mapWidth, int mapHeight, int month)
+TerminatorColumns ComputeTerminatorColumns(const TerminatorSun& sun, int mapWidth, int mapHeight, int month)
 {
     TerminatorColumns columns;
     columns.step = month == 3 || month == 9 ? 1 : 3;

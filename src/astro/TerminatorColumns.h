@@ -29,5 +29,5 @@ struct TerminatorColumns
 
 // The boundary of a map `mapWidth` × `mapHeight` at the Sun's instant, in the month `month` (1 to 12).
 // Empty when either size is not positive.
-[[nodiscard]] TerminatorColumns computeTerminatorColumns(
+[[nodiscard]] TerminatorColumns ComputeTerminatorColumns(
     const TerminatorSun& sun, int mapWidth, int mapHeight, int month);

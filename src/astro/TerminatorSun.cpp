@@ -28,7 +28,7 @@ bool isGregorian(double day, int month, int year)
 
 } // namespace
 
-SystemTime utcInstant(const SystemTime& localTime, DeviceOffset utcOffset)
+SystemTime UtcInstant(const SystemTime& localTime, DeviceOffset utcOffset)
 {
     int minute = localTime.minute - utcOffset.minutes;
     int hour = localTime.hour - utcOffset.hours;
@@ -50,7 +50,7 @@ SystemTime utcInstant(const SystemTime& localTime, DeviceOffset utcOffset)
     return utc;
 }
 
-double julianDay(double day, int month, int year)
+double JulianDay(double day, int month, int year)
 {
     const bool gregorian = isGregorian(day, month, year);
     if (month < 3) {
@@ -66,17 +66,17 @@ double julianDay(double day, int month, int year)
     return whole + day - 1524.5;
 }
 
-double julianCenturies(double julianDay)
+double JulianCenturies(double julianDay)
 {
     return (julianDay - 2451545.0) * CenturiesPerDay;
 }
 
 TerminatorSun computeSunForTerminator(const SystemTime& localTime, DeviceOffset utcOffset)
 {
-    const SystemTime utc = utcInstant(localTime, utcOffset);
+    const SystemTime utc = UtcInstant(localTime, utcOffset);
     TerminatorSun sun;
     sun.dayFraction = (utc.hour + utc.minute / 60.0 + utc.second / 3600.0) / 24;
-    const double t = julianCenturies(julianDay(utc.day + sun.dayFraction, utc.month, utc.year));
+    const double t = JulianCenturies(JulianDay(utc.day + sun.dayFraction, utc.month, utc.year));
 
     // Mean longitude and anomaly: the square covers coefficient and T together.
     const double l0 = normalise(280.46646 + 36000.76983 * t + (0.0003032 * t) * (0.0003032 * t));

@@ -17,12 +17,12 @@ struct TerminatorSun
 
 // Device local time less the device offset: minutes carry at 60 and below 0, and the date moves with
 // the hour when it leaves [0, 24).
-[[nodiscard]] SystemTime utcInstant(const SystemTime& localTime, DeviceOffset utcOffset);
+[[nodiscard]] SystemTime UtcInstant(const SystemTime& localTime, DeviceOffset utcOffset);
 
 // Julian day of a calendar day that may carry a fraction; Gregorian from 15 October 1582 on.
-[[nodiscard]] double julianDay(double day, int month, int year);
+[[nodiscard]] double JulianDay(double day, int month, int year);
 // Julian centuries since 1 January 2000, 12:00 UTC.
-[[nodiscard]] double julianCenturies(double julianDay);
+[[nodiscard]] double JulianCenturies(double julianDay);
 
 // The Sun's right ascension, declination and the sidereal angle at the device's instant.
 [[nodiscard]] TerminatorSun computeSunForTerminator(const SystemTime& localTime, DeviceOffset utcOffset);

@@ -5,6 +5,7 @@
 #include "cli/DialCommand.h"
 #include "cli/SizesCommand.h"
 #include "cli/SunCommand.h"
+#include "cli/UnitCommands.h"
 
 #include <functional>
 #include <map>
@@ -21,10 +22,12 @@ const std::map<std::string, Command>& commands()
     static const std::map<std::string, Command> table {
         {"cities", RunCitiesCommand},
         {"city", RunCityCommand},
+        {"convert", RunConvertCommand},
         {"dial", RunDialCommand},
         {"sizes", RunSizesCommand},
         {"sun", RunSunCommand},
         {"time", RunTimeCommand},
+        {"units", RunUnitsCommand},
     };
     return table;
 }

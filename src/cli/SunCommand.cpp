@@ -86,7 +86,7 @@ int RunSunCommand(const CommandRequest& command, std::ostream& out, std::ostream
     const DeviceOffset device
         = HomeCity::deviceOffset(cities, HomeCity::position(session->settings()), session->clock());
     const CitySunTimes sun
-        = computeCitySunTimes(cities.Record(*position), device, onDate(session->clock().localTime(), request->date));
+        = ComputeCitySunTimes(cities.Record(*position), device, onDate(session->clock().localTime(), request->date));
     out << WideToUtf8(sun.times.sunriseText) << '\t' << WideToUtf8(sun.times.sunsetText) << '\t'
         << WideToUtf8(sun.times.dayLengthText) << '\t' << sun.utcHours << '\n';
     return 0;

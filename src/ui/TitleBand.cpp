@@ -3,6 +3,8 @@
 
 #include "ui/Painting.h"
 
+#include <QPainter>
+
 TitleBand::TitleBand(const QColor& fill, int titleId)
     : TitleBand(fill, titleId, Painting::makeFont(24, Painting::Bold))
 { }
@@ -15,5 +17,13 @@ TitleBand::TitleBand(const QColor& fill, int titleId, const QFont& font)
 
 void TitleBand::paint(QPainter& painter) const
 {
-    Painting::drawBand(painter, m_rect, m_fill, Painting::loadString(m_titleId), m_font);
+    if (!m_origin) {
+        Painting::drawBand(painter, m_rect, m_fill, Painting::loadString(m_titleId), m_font);
+        return;
+    }
+    painter.fillRect(m_rect, m_fill);
+    painter.setFont(m_font);
+    painter.setPen(Painting::White);
+    painter.drawText(
+        QRect(*m_origin, m_rect.bottomRight()), Qt::AlignLeft | Qt::AlignTop, Painting::loadString(m_titleId));
 }

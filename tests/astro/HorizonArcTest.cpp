@@ -50,9 +50,9 @@ TEST(HorizonArc, PolarDayAndPolarNight)
     };
     for (const Case& c : cases) {
         const TerminatorSun sun = sunAt(c.month, 21, 12);
-        EXPECT_EQ(horizonArc(sun, 0, 138).kind, c.north) << c.month;
-        EXPECT_EQ(horizonArc(sun, 138, 138).kind, c.south) << c.month;
-        EXPECT_EQ(horizonArc(sun, 69, 138).kind, Kind::Crossing) << c.month;
+        EXPECT_EQ(RowHorizonArc(sun, 0, 138).kind, c.north) << c.month;
+        EXPECT_EQ(RowHorizonArc(sun, 138, 138).kind, c.south) << c.month;
+        EXPECT_EQ(RowHorizonArc(sun, 69, 138).kind, Kind::Crossing) << c.month;
         for (const double lonW : {-150.0, -30.0, 45.0, 170.0}) {
             EXPECT_EQ(isNight(sun, lonW, 0, 138), c.north == Kind::AlwaysNight);
             EXPECT_EQ(isNight(sun, lonW, 138, 138), c.south == Kind::AlwaysNight);
@@ -64,7 +64,7 @@ TEST(HorizonArc, TheEquatorHasHalfADayAndAHorizonMargin)
 {
     // On the equator at the equinox cos H0 = sin(-0.8333 x 3.14/180) / cos(dec) = -0.014544, so
     // H0 = acos(-0.014544) x 180/3.14 = 90.88 degrees: the day is a little longer than half.
-    const HorizonArc arc = horizonArc(sunAt(3, 20, 12), 69, 138);
+    const HorizonArc arc = RowHorizonArc(sunAt(3, 20, 12), 69, 138);
     ASSERT_EQ(arc.kind, HorizonArc::Kind::Crossing);
     EXPECT_NEAR(arc.halfDay, 90.88 / 360, 0.00005);
 }
@@ -87,5 +87,5 @@ TEST(HorizonArc, TransitWrapsIntoOneDay)
         {90, 0.751722405},
     };
     for (const Case& c : cases)
-        EXPECT_NEAR(transitFraction(sun, c.lonW), c.transit, 1e-8) << c.lonW;
+        EXPECT_NEAR(TransitFraction(sun, c.lonW), c.transit, 1e-8) << c.lonW;
 }

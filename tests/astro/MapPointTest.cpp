@@ -8,7 +8,7 @@ TEST(MapPoint, MapHeightOfTheWorkArea)
     // (268 - 25) x 4 / 7 = 972 / 7 = 138.9, truncated; rotated, (240 - 25) x 4 / 7 = 122.9.
     const std::pair<int, int> cases[] = {{268, 138}, {240, 122}, {320, 168}, {25, 0}, {31, 3}};
     for (const auto& [workArea, map] : cases)
-        EXPECT_EQ(mapHeightFor(workArea), map) << workArea;
+        EXPECT_EQ(MapHeightFor(workArea), map) << workArea;
 }
 
 TEST(MapPoint, PointsOfWholeDegrees)
@@ -29,7 +29,7 @@ TEST(MapPoint, PointsOfWholeDegrees)
         {139, 35, 1920, 1080, {1701, 330}}, // Tokyo: 960 + 741.33, 540 - 210
     };
     for (const Case& c : cases)
-        EXPECT_EQ(mapPoint(c.longitude, c.latitude, c.width, c.height), c.point) << c.longitude << ',' << c.latitude;
+        EXPECT_EQ(MapPointOf(c.longitude, c.latitude, c.width, c.height), c.point) << c.longitude << ',' << c.latitude;
 }
 
 TEST(MapPoint, LabelSideByQuarter)
@@ -38,8 +38,8 @@ TEST(MapPoint, LabelSideByQuarter)
     const std::pair<int, bool> cases[] = {{0, false}, {59, false}, {60, true}, {120, true}, {121, false}, {179, false},
         {180, true}, {239, true}, {240, true}, {-5, false}};
     for (const auto& [x, left] : cases)
-        EXPECT_EQ(labelOnLeft(x, 240), left) << x;
+        EXPECT_EQ(LabelOnLeft(x, 240), left) << x;
     // 241 / 4 = 60 and 241 x 3 / 4 = 180 in integers.
-    EXPECT_TRUE(labelOnLeft(60, 241));
-    EXPECT_FALSE(labelOnLeft(179, 241));
+    EXPECT_TRUE(LabelOnLeft(60, 241));
+    EXPECT_FALSE(LabelOnLeft(179, 241));
 }

@@ -27,7 +27,7 @@ TEST(SunTimes, FormatterTruncatesHoursAndMinutes)
         {3e9, L"0-2147483648:0-2147483648"},
     };
     for (const Case& c : cases)
-        EXPECT_EQ(formatHoursMinutes(c.hours), c.text) << c.hours;
+        EXPECT_EQ(FormatHoursMinutes(c.hours), c.text) << c.hours;
 }
 
 TEST(SunTimes, OffsetHoursDropTheMinutes)
@@ -45,7 +45,7 @@ TEST(SunTimes, OffsetHoursDropTheMinutes)
         {1245, 12}, // Chatham Islands
     };
     for (const Case& c : cases)
-        EXPECT_EQ(sunOffsetHours(c.offset), c.hours) << c.offset;
+        EXPECT_EQ(SunOffsetHours(c.offset), c.hours) << c.offset;
 }
 
 TEST(SunTimes, SunriseSunsetAndDayLength)
@@ -84,7 +84,7 @@ TEST(SunTimes, SunriseSunsetAndDayLength)
 TEST(SunTimes, TheOffsetShiftsBothTimesByWholeHours)
 {
     const SunTimes utc = computeSunTimes(1, 1, 2026, 28, 77, 0);
-    const SunTimes india = computeSunTimes(1, 1, 2026, 28, 77, sunOffsetHours(530));
+    const SunTimes india = computeSunTimes(1, 1, 2026, 28, 77, SunOffsetHours(530));
     EXPECT_DOUBLE_EQ(india.sunrise - utc.sunrise, 5.0);
     EXPECT_DOUBLE_EQ(india.sunset - utc.sunset, 5.0);
     EXPECT_EQ(india.dayLength, utc.dayLength);

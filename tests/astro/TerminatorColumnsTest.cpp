@@ -58,7 +58,7 @@ TEST(TerminatorColumns, SamplesMatchAScanOfEveryRow)
     for (const Instant& at : instants) {
         const TerminatorSun sun = sunAt(at.month, at.day, at.hour, at.minute);
         for (const Size& size : sizes) {
-            const TerminatorColumns columns = computeTerminatorColumns(sun, size.width, size.height, at.month);
+            const TerminatorColumns columns = ComputeTerminatorColumns(sun, size.width, size.height, at.month);
             for (const NightSpan& sample : columns.samples)
                 ASSERT_EQ(sample, bruteForce(sun, sample.column, size.width, size.height))
                     << at.month << '-' << at.day << ' ' << at.hour << ':' << at.minute << ' ' << size.width << 'x'
@@ -87,7 +87,7 @@ TEST(TerminatorColumns, ColumnStepAndExtent)
         {6, 242, 3, 82, 243, 244},
     };
     for (const Case& c : cases) {
-        const TerminatorColumns columns = computeTerminatorColumns(sunAt(c.month, 10, 12), c.width, 138, c.month);
+        const TerminatorColumns columns = ComputeTerminatorColumns(sunAt(c.month, 10, 12), c.width, 138, c.month);
         EXPECT_EQ(columns.step, c.step) << c.month;
         EXPECT_EQ(columns.samples.size(), c.samples) << c.month;
         EXPECT_EQ(columns.samples.back().column, c.lastSample) << c.month;
@@ -95,8 +95,8 @@ TEST(TerminatorColumns, ColumnStepAndExtent)
         for (std::size_t i = 0; i < columns.spans.size(); ++i)
             EXPECT_EQ(columns.spans[i].column, static_cast<int>(i)) << c.month;
     }
-    EXPECT_TRUE(computeTerminatorColumns(sunAt(6, 1, 0), 0, 138, 6).spans.empty());
-    EXPECT_TRUE(computeTerminatorColumns(sunAt(6, 1, 0), 240, 0, 6).spans.empty());
+    EXPECT_TRUE(ComputeTerminatorColumns(sunAt(6, 1, 0), 0, 138, 6).spans.empty());
+    EXPECT_TRUE(ComputeTerminatorColumns(sunAt(6, 1, 0), 240, 0, 6).spans.empty());
 }
 
 TEST(TerminatorColumns, PolarDayAndPolarNightColumns)
@@ -105,18 +105,18 @@ TEST(TerminatorColumns, PolarDayAndPolarNightColumns)
     const int height = 138;
     // June: the south pole is in night in every column, so each span ends on row mapHeight, one row past
     // the picture; the north pole never is.
-    for (const NightSpan& s : computeTerminatorColumns(sunAt(6, 21, 6), width, height, 6).samples) {
+    for (const NightSpan& s : ComputeTerminatorColumns(sunAt(6, 21, 6), width, height, 6).samples) {
         EXPECT_EQ(s.last, height) << s.column;
         EXPECT_GT(s.first, 0) << s.column;
     }
     // December: the other way round.
-    for (const NightSpan& s : computeTerminatorColumns(sunAt(12, 21, 18), width, height, 12).samples) {
+    for (const NightSpan& s : ComputeTerminatorColumns(sunAt(12, 21, 18), width, height, 12).samples) {
         EXPECT_EQ(s.first, 0) << s.column;
         EXPECT_LT(s.last, height) << s.column;
     }
     // At the March equinox at noon UTC both poles are in day: the columns around longitude 0 hold no
     // night and store -1, and the antimeridian is night from pole to pole but for the poles themselves.
-    const TerminatorColumns march = computeTerminatorColumns(sunAt(3, 20, 12), width, height, 3);
+    const TerminatorColumns march = ComputeTerminatorColumns(sunAt(3, 20, 12), width, height, 3);
     for (const int column : {90, 120, 150})
         EXPECT_EQ(sampleAt(march, column), (NightSpan {column, -1, -1}));
     EXPECT_LE(sampleAt(march, 0).first, 2);
@@ -127,7 +127,7 @@ TEST(TerminatorColumns, InterpolationBetweenThreePixelSamples)
 {
     // 10 April 2026 at 12:00 UTC on the 240 x 138 map. The samples are checked against a full scan above;
     // here the columns between them follow in whole-row steps of (current - previous) / 3, truncated.
-    const TerminatorColumns columns = computeTerminatorColumns(sunAt(4, 10, 12), 240, 138, 4);
+    const TerminatorColumns columns = ComputeTerminatorColumns(sunAt(4, 10, 12), 240, 138, 4);
     ASSERT_EQ(columns.step, 3);
     for (std::size_t i = 1; i < columns.samples.size(); ++i) {
         const NightSpan& previous = columns.samples[i - 1];

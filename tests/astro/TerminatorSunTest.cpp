@@ -34,12 +34,12 @@ TEST(TerminatorSun, JulianDayAndCenturies)
         {1.0, 3, 1900, 2415079.5}, // 1900 is not: 59 days after 1 January 1900 0h (2415020.5)
     };
     for (const Case& c : cases)
-        EXPECT_DOUBLE_EQ(julianDay(c.day, c.month, c.year), c.julianDay) << c.year << '-' << c.month << '-' << c.day;
+        EXPECT_DOUBLE_EQ(JulianDay(c.day, c.month, c.year), c.julianDay) << c.year << '-' << c.month << '-' << c.day;
 
     // T in Julian centuries of 36525 days from J2000.0.
-    EXPECT_DOUBLE_EQ(julianCenturies(2451545.0), 0.0);
-    EXPECT_DOUBLE_EQ(julianCenturies(2469807.5), 0.5);
-    EXPECT_DOUBLE_EQ(julianCenturies(2415020.0), -1.0); // 1900 January 0.5, 36525 days before
+    EXPECT_DOUBLE_EQ(JulianCenturies(2451545.0), 0.0);
+    EXPECT_DOUBLE_EQ(JulianCenturies(2469807.5), 0.5);
+    EXPECT_DOUBLE_EQ(JulianCenturies(2415020.0), -1.0); // 1900 January 0.5, 36525 days before
 }
 
 TEST(TerminatorSun, UtcInstantCarriesMinutesAndMovesTheDate)
@@ -59,7 +59,7 @@ TEST(TerminatorSun, UtcInstantCarriesMinutesAndMovesTheDate)
         {at(2024, 2, 28, 23, 30, 0), {-1, -30}, at(2024, 2, 29, 1, 0, 0)}, // a leap day
     };
     for (const Case& c : cases) {
-        const SystemTime utc = utcInstant(c.local, c.offset);
+        const SystemTime utc = UtcInstant(c.local, c.offset);
         EXPECT_EQ(std::tuple(utc.year, utc.month, utc.day, utc.hour, utc.minute, utc.second),
             std::tuple(c.utc.year, c.utc.month, c.utc.day, c.utc.hour, c.utc.minute, c.utc.second));
     }

@@ -9,7 +9,36 @@
 #include "ui/Commands.h"
 #include "ui/SoftKeyBar.h"
 
+#include <QPaintEvent>
 #include <QTest>
+
+#include <array>
+
+namespace {
+
+// Collects the areas a widget actually repaints, as the screen would show them.
+class PaintedArea final : public QObject
+{
+public:
+    explicit PaintedArea(QWidget& widget) { widget.installEventFilter(this); }
+    QRegion region;
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint)
+            region += static_cast<QPaintEvent*>(event)->region();
+        return false;
+    }
+};
+
+// The label band between the two arrows (left arrow ends at x = 20 + 24, right one starts at 240 - 35).
+QImage labelBetweenArrows(const QImage& window)
+{
+    return window.copy(45, 228, 240 - 35 - 45, 40);
+}
+
+} // namespace
 
 class LauncherTest : public QObject
 {
@@ -51,6 +80,55 @@ private slots:
         });
     }
 
+    void aLetterSelectsLikeAStepWithoutArrowsAndTheActionKeyOpensWhatIsShown()
+    {
+        ScreenTestBench bench;
+        ServicesApp launcher(bench.environment, bench.window);
+        bool dialingOpened = false;
+        withLauncher(bench, launcher, [&] {
+            const QImage worldClocks = bench.render();
+            QVERIFY(QTest::qWaitForWindowExposed(&bench.window));
+            QCoreApplication::processEvents();
+            PaintedArea painted(launcher);
+            QCoreApplication::processEvents();
+            QVERIFY(painted.region.isEmpty()); // nothing left to paint before the key
+            bench.press(Qt::Key_D);
+            QCOMPARE(launcher.selection(), 6);
+            QVERIFY(!launcher.leftArrowPressed() && !launcher.rightArrowPressed());
+            // The highlight and the label band are repainted at once, as after a step.
+            QTRY_VERIFY_WITH_TIMEOUT(painted.region.contains(QRect(0, 228, 240, 40)), 1000);
+            QVERIFY(painted.region.contains(launcher.highlightRect()));
+            const QImage byLetter = bench.render();
+            QVERIFY(labelBetweenArrows(byLetter) != labelBetweenArrows(worldClocks));
+
+            bench.whenShown(*launcher.serviceScreen(6), [&] {
+                dialingOpened = true;
+                launcher.serviceScreen(6)->endScreen();
+            });
+            bench.press(Qt::Key_Return);
+            QVERIFY(dialingOpened);
+
+            // Back to "World Clocks" and six steps to "Dialing codes": the same label is painted.
+            for (int i = 0; i < 6; ++i)
+                bench.press(Qt::Key_Left);
+            for (int i = 0; i < 6; ++i)
+                bench.press(Qt::Key_Right);
+            bench.advance(250);
+            QVERIFY(!launcher.rightArrowPressed());
+            QCOMPARE(labelBetweenArrows(bench.render()), labelBetweenArrows(byLetter));
+            QCOMPARE(bench.render(), byLetter);
+
+            // A letter looks from the next service on, wrapping: "Dialing codes" is the only "D";
+            // the "C"s are "Currency Converter" (3) and "Clothing sizes" (5); no service starts with "Q".
+            const std::pair<Qt::Key, int> letters[]
+                = {{Qt::Key_D, 6}, {Qt::Key_C, 3}, {Qt::Key_C, 5}, {Qt::Key_C, 3}, {Qt::Key_Q, 3}, {Qt::Key_W, 0}};
+            for (const auto& [key, selection] : letters) {
+                bench.press(key);
+                QCOMPARE(launcher.selection(), selection);
+            }
+        });
+    }
+
     void anArrowStaysLargeUntil250msAfterTheLastPress()
     {
         ScreenTestBench bench;
@@ -76,16 +154,24 @@ private slots:
 
     void theHighlightFramesTheSelectedIcon()
     {
+        // Icons sit centred in four columns of W / 4: at 240 wide x = 22, 82, 142, 202; at 268 wide the
+        // columns are 67 wide, so x = 25, 92, 159, 226. The frame is 2 pixels outside, at y 48 or 78.
+        using Case = std::pair<QSize, std::array<int, 4>>;
+        const Case cases[] = {{{240, 268}, {22, 82, 142, 202}}, {{268, 240}, {25, 92, 159, 226}}};
         ScreenTestBench bench;
         ServicesApp launcher(bench.environment, bench.window);
         withLauncher(bench, launcher, [&] {
-            for (const QSize area : {QSize(240, 268), QSize(268, 240)}) {
-                const int cell = area.width() / 4;
+            for (const auto& [area, columns] : cases) {
+                QCOMPARE(bench.window.workArea(), area);
                 for (int i = 0; i < 8; ++i) {
-                    const int x = (i % 4) * area.width() / 4 + (cell - 16) / 2;
+                    const int x = columns[static_cast<std::size_t>(i % 4)];
                     const int top = i < 4 ? 48 : 78;
                     QCOMPARE(launcher.selection(), i);
                     QCOMPARE(launcher.highlightRect(), QRect(x - 2, top, 20, 20));
+                    // The raised edge is painted there: light on its top side, dark on its right side.
+                    const QImage image = bench.render();
+                    QCOMPARE(image.pixelColor(x + 8, top), QColor(230, 230, 230));
+                    QCOMPARE(image.pixelColor(x + 17, top + 10), QColor(64, 64, 64));
                     bench.press(Qt::Key_Right);
                 }
                 bench.press(Qt::Key_R, Qt::ControlModifier);

@@ -53,7 +53,7 @@ private slots:
         for (const int month : {3, 6, 12}) {
             const QSize size(240, 138);
             const QImage day = patterned(size);
-            const TerminatorColumns night = computeTerminatorColumns(sunAt(month, 21, 12), 240, 138, month);
+            const TerminatorColumns night = ComputeTerminatorColumns(sunAt(month, 21, 12), 240, 138, month);
             const QImage map = MapRenderer::render(day, size, MapRenderer::Stretch::Plain, night, nullptr);
             QCOMPARE(map.size(), size);
             for (const NightSpan& span : night.spans) {
@@ -106,7 +106,7 @@ private slots:
             MapRenderer::MarkerSet set {
                 {{QStringLiteral("Wxyz"), c.longitude, c.latitude, false}}, Painting::makeFont(14, Painting::Bold), 1};
             const QImage map = MapRenderer::render(black, size, MapRenderer::Stretch::Plain, {}, &set);
-            const MapPoint point = mapPoint(c.longitude, c.latitude, size.width(), size.height());
+            const MapPoint point = MapPointOf(c.longitude, c.latitude, size.width(), size.height());
             // The square and the label's pixels are the marker colour; the square is the only block of it
             // on the point's side, and the label lies wholly on one side of the point.
             const QRect all = pixelsOf(map, Marker);
@@ -141,9 +141,9 @@ private slots:
         MapRenderer::MarkerSet set {{{QStringLiteral("A"), -100, 10, false}, {QStringLiteral("B"), 100, 10, true}},
             Painting::makeFont(14, Painting::Bold), 1};
         const QImage map = MapRenderer::render(black, size, MapRenderer::Stretch::Plain, {}, &set);
-        QCOMPARE(map.pixel(mapPoint(-100, 10, 240, 138).x, mapPoint(-100, 10, 240, 138).y), Marker);
-        QCOMPARE(
-            map.pixel(mapPoint(100, 10, 240, 138).x, mapPoint(100, 10, 240, 138).y), MapRenderer::SelectedColour.rgb());
+        QCOMPARE(map.pixel(MapPointOf(-100, 10, 240, 138).x, MapPointOf(-100, 10, 240, 138).y), Marker);
+        QCOMPARE(map.pixel(MapPointOf(100, 10, 240, 138).x, MapPointOf(100, 10, 240, 138).y),
+            MapRenderer::SelectedColour.rgb());
     }
 
     void pngFilesReadBackPixelForPixel()

@@ -20,7 +20,7 @@ constexpr int NameInset = 36; // the name is fitted to the width less twice this
 MapLayout MapLayout::of(int width, int height)
 {
     MapLayout layout;
-    layout.mapHeight = mapHeightFor(height);
+    layout.mapHeight = MapHeightFor(height);
     layout.map = QRect(0, 0, width, std::max(layout.mapHeight, 0));
     const int spare = height - layout.mapHeight - (ClockRow + NameRow + CityTimeRow + CoordinatesRow + SunRow);
     const int gap = std::clamp(spare / 5, 0, 8);

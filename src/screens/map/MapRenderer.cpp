@@ -13,8 +13,8 @@ namespace {
 void paintMarker(
     QPainter& painter, const MapRenderer::Marker& marker, QSize map, const QFontMetrics& metrics, int scale)
 {
-    const MapPoint point = mapPoint(marker.longitude, marker.latitude, map.width(), map.height());
-    const int left = labelOnLeft(point.x, map.width()) ? point.x - metrics.horizontalAdvance(marker.name) - 5 * scale
+    const MapPoint point = MapPointOf(marker.longitude, marker.latitude, map.width(), map.height());
+    const int left = LabelOnLeft(point.x, map.width()) ? point.x - metrics.horizontalAdvance(marker.name) - 5 * scale
                                                        : point.x + 5 * scale;
     const int baseline = point.y - 6 * scale + metrics.ascent(); // the label's top 6 pixels above the point
     const QColor& colour = marker.selected ? MapRenderer::SelectedColour : MapRenderer::MarkerColour;

@@ -78,7 +78,7 @@ void MapScreen::initialise()
     m_nameFont = Painting::makeFont(24, Painting::Bold);
     m_sunFont = Painting::makeFont(18, Painting::Bold);
     m_twelveHour = ReadSetting(m_settings, Settings::TwelveHour) == 1;
-    m_spinner->setItems({toQString(m_city.name)});
+    m_spinner->setItems({ToQString(m_city.name)});
     m_spinner->setCurrentIndex(0);
     m_spinner->setFocus();
     loadPictures();
@@ -103,25 +103,25 @@ void MapScreen::computeCity()
     const SystemTime now = environment().clock.localTime();
     m_city = m_cities.Record(static_cast<std::uint32_t>(m_selected));
     m_citySlot = ComputeCitySlot(zoneTexts(m_city), m_device, now);
-    m_sun = computeCitySunTimes(m_city, m_device, now);
+    m_sun = ComputeCitySunTimes(m_city, m_device, now);
 }
 
 void MapScreen::formatTimes()
 {
     const SystemTime now = environment().clock.localTime();
-    m_localTime = toQString(FormatText(L"%02d:%02d:%02d", now.hour, now.minute, now.second));
-    m_cityTime = toQString(FormatCityTime(m_citySlot.offset, m_device, false, now));
+    m_localTime = ToQString(FormatText(L"%02d:%02d:%02d", now.hour, now.minute, now.second));
+    m_cityTime = ToQString(FormatCityTime(m_citySlot.offset, m_device, false, now));
 }
 
 QString MapScreen::shownLocalTime() const
 {
-    return m_twelveHour ? toQString(MapTwelveHour(toWide(m_localTime))) : m_localTime;
+    return m_twelveHour ? ToQString(MapTwelveHour(ToWide(m_localTime))) : m_localTime;
 }
 
 QString MapScreen::shownCityName() const
 {
     QFontMetrics metrics(m_nameFont);
-    return Painting::shortenToFit(metrics, toQString(m_city.name), workWidth() - 72);
+    return Painting::shortenToFit(metrics, ToQString(m_city.name), workWidth() - 72);
 }
 
 void MapScreen::layout(int width, int height)
@@ -176,7 +176,7 @@ void MapScreen::selectCity(std::int32_t city)
     WriteSetting(m_settings, Settings::MapClock, static_cast<std::uint32_t>(m_selected));
     computeCity();
     formatTimes();
-    m_spinner->setItems({toQString(m_city.name)});
+    m_spinner->setItems({ToQString(m_city.name)});
     m_spinner->setCurrentIndex(0);
     m_redrawMap = true;
     update();
@@ -242,7 +242,7 @@ MapRenderer::MarkerSet MapScreen::markers()
             continue;
         const CityRecord city = m_cities.Record(position);
         set.markers.push_back(
-            {toQString(city.name), Wtol(city.coordinate1), Wtol(city.coordinate2), city.name == m_city.name});
+            {ToQString(city.name), Wtol(city.coordinate1), Wtol(city.coordinate2), city.name == m_city.name});
     }
     return set;
 }
@@ -256,7 +256,7 @@ void MapScreen::drawMap()
         return;
     }
     const SystemTime now = environment().clock.localTime();
-    const TerminatorColumns night = computeTerminatorColumns(
+    const TerminatorColumns night = ComputeTerminatorColumns(
         computeSunForTerminator(now, m_device), m_layout.map.width(), m_layout.map.height(), now.month);
     QImage base = m_dayPicture;
     if (base.isNull()) {
@@ -317,17 +317,17 @@ void MapScreen::paintCity(QPainter& painter) const
 
     painter.setFont(m_smallFont);
     painter.drawText(m_layout.coordinates, Qt::AlignLeft | Qt::AlignVCenter,
-        Painting::loadString(LongLatString) + QStringLiteral(": ") + toQString(m_city.coordinate1) + QLatin1Char('/')
-            + toQString(m_city.coordinate2));
+        Painting::loadString(LongLatString) + QStringLiteral(": ") + ToQString(m_city.coordinate1) + QLatin1Char('/')
+            + ToQString(m_city.coordinate2));
 
     const QRect& sun = m_layout.sun;
     painter.setFont(m_sunFont);
-    const QString sunrise = toQString(m_sun.times.sunriseText);
+    const QString sunrise = ToQString(m_sun.times.sunriseText);
     const int sunriseWidth = QFontMetrics(m_sunFont).horizontalAdvance(sunrise);
     painter.drawText(sun, Qt::AlignLeft | Qt::AlignVCenter, sunrise);
     Icons::draw(painter, Icons::Service, sun.left() + sunriseWidth + 6, sun.top() + (sun.height() - 16) / 2, 16);
     painter.drawText(
-        sun.adjusted(sunriseWidth + 28, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, toQString(m_sun.times.sunsetText));
+        sun.adjusted(sunriseWidth + 28, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, ToQString(m_sun.times.sunsetText));
 
     painter.setPen(Painting::White);
     painter.setFont(m_nameFont);
