@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QEventLoop>
+
 #include <benchmark/benchmark.h>
 
 namespace {
