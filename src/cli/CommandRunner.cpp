@@ -5,6 +5,7 @@
 #include "cli/DialCommand.h"
 #include "cli/ForecastCommand.h"
 #include "cli/SizesCommand.h"
+#include "cli/SunCommand.h"
 #include "cli/UnitCommands.h"
 #include "cli/WeatherCommands.h"
 
@@ -28,6 +29,7 @@ const std::map<std::string, Command>& commands()
         {"favourites", RunFavouritesCommand},
         {"forecast", RunForecastCommand},
         {"sizes", RunSizesCommand},
+        {"sun", RunSunCommand},
         {"time", RunTimeCommand},
         {"units", RunUnitsCommand},
         {"weather", RunWeatherCommand},
