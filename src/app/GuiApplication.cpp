@@ -69,6 +69,8 @@ int GuiApplication::run(int& argc, char** argv)
 {
     chooseScale(argc, argv, m_options);
     QApplication app(argc, argv);
+    // Wayland shells match the window to the installed desktop entry (and its icon) by this id.
+    QGuiApplication::setDesktopFileName(QStringLiteral("io.github.wanderkit.Wanderkit"));
     // Numbers in the data files and in printed results always use a decimal point.
     std::setlocale(LC_NUMERIC, "C");
 
