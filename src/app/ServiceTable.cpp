@@ -3,6 +3,8 @@
 
 #include "screens/clothing/ClothingScreen.h"
 #include "screens/dialing/DialingScreen.h"
+#include "screens/measure/MeasureScreen.h"
+#include "screens/weather/WeatherScreen.h"
 #include "screens/worldclock/WorldClockScreen.h"
 #include "ui/Icons.h"
 
@@ -10,7 +12,19 @@ namespace {
 
 std::unique_ptr<Screen> worldClocks(ServiceContext& c)
 {
-    return std::make_unique<WorldClockScreen>(c.environment, c.window, c.cities, c.favourites);
+    auto screen = std::make_unique<WorldClockScreen>(c.environment, c.window, c.cities, c.favourites);
+    screen->setWeatherOpener(&c.weather);
+    return screen;
+}
+
+std::unique_ptr<Screen> worldWeather(ServiceContext& c)
+{
+    return std::make_unique<WeatherScreen>(c.environment, c.window, c.favourites);
+}
+
+std::unique_ptr<Screen> measurements(ServiceContext& c)
+{
+    return std::make_unique<MeasureScreen>(c.environment, c.window);
 }
 
 std::unique_ptr<Screen> clothingSizes(ServiceContext& c)
@@ -29,10 +43,10 @@ const std::array<Service, ServiceCount>& Services()
 {
     static const std::array<Service, ServiceCount> table {{
         {40008, Icons::Service, worldClocks}, // "World Clocks"
-        {40009, Icons::Service, nullptr}, // "World Weather"
+        {40009, Icons::Service, worldWeather}, // "World Weather"
         {40025, Icons::Service, nullptr}, // "World Map"
         {40034, Icons::Service, nullptr}, // "Currency Converter"
-        {40044, Icons::Service, nullptr}, // "Measurements"
+        {40044, Icons::Service, measurements}, // "Measurements"
         {40045, Icons::Service, clothingSizes}, // "Clothing sizes"
         {40046, Icons::Service, dialingCodes}, // "Dialing codes"
         {40047, Icons::Service, nullptr}, // "Todo List": listed and selectable, opens nothing

@@ -3,7 +3,10 @@
 
 #include "cli/CityCommands.h"
 #include "cli/DialCommand.h"
+#include "cli/ForecastCommand.h"
 #include "cli/SizesCommand.h"
+#include "cli/UnitCommands.h"
+#include "cli/WeatherCommands.h"
 
 #include <functional>
 #include <map>
@@ -20,9 +23,14 @@ const std::map<std::string, Command>& commands()
     static const std::map<std::string, Command> table {
         {"cities", RunCitiesCommand},
         {"city", RunCityCommand},
+        {"convert", RunConvertCommand},
         {"dial", RunDialCommand},
+        {"favourites", RunFavouritesCommand},
+        {"forecast", RunForecastCommand},
         {"sizes", RunSizesCommand},
         {"time", RunTimeCommand},
+        {"units", RunUnitsCommand},
+        {"weather", RunWeatherCommand},
     };
     return table;
 }

@@ -3,6 +3,7 @@
 
 #include "device/DeviceClock.h"
 #include "screens/select/SelectDialog.h"
+#include "screens/weather/WeatherOpener.h"
 #include "settings/SettingsTable.h"
 #include "store/CityCatalogue.h"
 #include "store/CountryCityList.h"
@@ -94,7 +95,7 @@ void WorldClockScreen::computeOffsets()
     for (std::size_t i = 0; i < SlotCount; ++i) {
         const CityRecord city = m_cities.Record(m_cityOf[i]);
         zones[i] = zoneTexts(city);
-        m_names[i] = toQString(city.name);
+        m_names[i] = ToQString(city.name);
         m_standardOffsets[i] = Wtol(city.timeZone);
         m_favourite[i] = !city.name.empty() && m_favourites.findByName(city.name) != 0;
     }
@@ -146,9 +147,9 @@ ClockView WorldClockScreen::view(int slot) const
     const TwelveHourTime twelve = ToTwelveHour(time);
     ClockView view;
     view.name = m_names[index];
-    view.time = toQString(m_twelveHour ? twelve.time : time);
-    view.suffix = m_twelveHour ? toQString(twelve.suffix) : QString();
-    view.date = toQString(m_texts[index].date);
+    view.time = ToQString(m_twelveHour ? twelve.time : time);
+    view.suffix = m_twelveHour ? ToQString(twelve.suffix) : QString();
+    view.date = ToQString(m_texts[index].date);
     view.daylightNow = m_slots[index].observes && m_slots[index].offset != m_standardOffsets[index];
     view.favourite = m_favourite[index];
     view.hands = m_handTimes[index];
@@ -334,15 +335,20 @@ void WorldClockScreen::changeCity(int slot)
     update();
 }
 
+// A city that is not a favourite yet becomes one first; the weather screen then shows its forecast.
 void WorldClockScreen::showWeather(int slot)
 {
     const auto index = static_cast<std::size_t>(slot);
-    if (m_favourite[index])
-        return;
-    const bool added = addFavourite(m_cityOf[index]);
-    environment().boxes.show(this, Painting::loadString(added ? 40041 : 40039), QStringLiteral("Wanderkit"),
-        QMessageBox::Ok, QMessageBox::Information);
-    update();
+    if (!m_favourite[index]) {
+        const bool added = addFavourite(m_cityOf[index]);
+        environment().boxes.show(this, Painting::loadString(added ? 40041 : 40039), QStringLiteral("Wanderkit"),
+            QMessageBox::Ok, QMessageBox::Information);
+        update();
+        if (!added)
+            return;
+    }
+    if (m_weatherOpener)
+        m_weatherOpener->openWeather(*this, m_cities.CityName(m_cityOf[index]));
 }
 
 void WorldClockScreen::destroyWork()
