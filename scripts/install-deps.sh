@@ -10,6 +10,7 @@ packages=(
     fonts-liberation2 fontconfig
     xvfb xauth
     tzdata
+    help2man lintian desktop-file-utils appstream
 )
 
 missing=()

@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
-# Builds Wanderkit and starts it. Without a display, renders every screen to PNG files instead.
+# Builds the program alone (no tests) and starts it. Without a display, renders every screen to PNG files instead.
 # Extra arguments go to the program (for example --size 320x240 or --state-dir DIR).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 scripts/install-deps.sh
-cmake -S . -B build -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null
-cmake --build build -j"$(nproc)"
+cmake -S . -B build -DCMAKE_BUILD_TYPE=RelWithDebInfo -DWANDERKIT_TESTS=OFF >/dev/null
+cmake --build build -j"$(nproc)" --target wanderkit
 
 if [ -n "${DISPLAY:-}" ] || [ -n "${WAYLAND_DISPLAY:-}" ]; then
     exec build/bin/wanderkit "$@"

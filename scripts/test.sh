@@ -10,7 +10,7 @@ jobs=$(nproc)
 run_suite() {
     local dir=$1
     shift
-    cmake -S . -B "$dir" -DWANDERKIT_WERROR=ON "$@" >/dev/null
+    cmake -S . -B "$dir" -DWANDERKIT_WERROR=ON -DWANDERKIT_TESTS=ON "$@" >/dev/null
     cmake --build "$dir" -j"$jobs"
     (cd "$dir" && ctest --output-on-failure -j"$jobs")
 }
@@ -19,6 +19,9 @@ echo "== Core and command line, without the GUI"
 run_suite build-core -DCMAKE_BUILD_TYPE=Debug -DWANDERKIT_GUI=OFF
 echo "== Release build and tests"
 run_suite build -DCMAKE_BUILD_TYPE=RelWithDebInfo -DWANDERKIT_BENCH=ON
+echo "== Debian package"
+(cd build && cpack -G DEB >/dev/null)
+lintian --fail-on error build/wanderkit_*.deb
 echo "== Sanitizer build and tests"
 ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
     run_suite build-asan -DCMAKE_BUILD_TYPE=Debug -DWANDERKIT_SANITIZE=ON

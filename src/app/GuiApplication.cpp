@@ -10,8 +10,11 @@
 #include "ui/QtMessageSink.h"
 #include "ui/QtScreenTimers.h"
 #include "ui/ScreenEnvironment.h"
+#include "ui/SoftKeyBar.h"
+#include "ui/WindowFit.h"
 
 #include <QApplication>
+#include <QScreen>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -21,13 +24,30 @@
 
 namespace {
 
-// Qt scales the whole window, so text and icons stay sharp at any scale.
-void chooseScale(const StartOptions& options)
+constexpr qreal DesktopScale = 2;
+
+// The scale that fills the screen the window will open on, asked of a short-lived connection to the
+// display: Qt fixes its scale factor before the application object exists.
+qreal screenFillingScale(int& argc, char** argv, const StartOptions& options)
+{
+    const QGuiApplication probe(argc, argv);
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    if (!screen)
+        return DesktopScale;
+    return FitScale(
+        screen->availableGeometry().size(), QSize(options.width, options.height), SoftKeyBar::BarHeight, DesktopScale);
+}
+
+// Qt scales the whole window, so text and icons stay sharp at any scale. --scale and QT_SCALE_FACTOR
+// win over the screen's size.
+void chooseScale(int& argc, char** argv, const StartOptions& options)
 {
     if (options.tourDir)
         qputenv("QT_SCALE_FACTOR", "1");
-    else if (qEnvironmentVariableIsEmpty("QT_SCALE_FACTOR"))
+    else if (options.scale > 0)
         qputenv("QT_SCALE_FACTOR", QByteArray::number(options.scale));
+    else if (qEnvironmentVariableIsEmpty("QT_SCALE_FACTOR"))
+        qputenv("QT_SCALE_FACTOR", QByteArray::number(screenFillingScale(argc, argv, options)));
 }
 
 // Says why the program cannot start: on standard error, and in a box when someone can see it.
@@ -47,8 +67,10 @@ GuiApplication::GuiApplication(StartOptions options)
 
 int GuiApplication::run(int& argc, char** argv)
 {
-    chooseScale(m_options);
+    chooseScale(argc, argv, m_options);
     QApplication app(argc, argv);
+    // Wayland shells match the window to the installed desktop entry (and its icon) by this id.
+    QGuiApplication::setDesktopFileName(QStringLiteral("io.github.wanderkit.Wanderkit"));
     // Numbers in the data files and in printed results always use a decimal point.
     std::setlocale(LC_NUMERIC, "C");
 

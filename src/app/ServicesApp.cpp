@@ -121,6 +121,56 @@ QRect ServicesApp::highlightRect() const
     return QRect(x - 2, iconY(index) - 2, 20, 20);
 }
 
+QRect ServicesApp::iconTarget(int index) const
+{
+    const int width = workWidth();
+    const int column = index % Columns;
+    const int left = column * width / Columns;
+    return QRect(left, iconY(index) - 7, (column + 1) * width / Columns - left, 30);
+}
+
+QRect ServicesApp::bigIconTarget() const
+{
+    return QRect((workWidth() - 32) / 2, workHeight() - 124, 32, 32).adjusted(-8, -8, 8, 8);
+}
+
+QRect ServicesApp::labelTarget() const
+{
+    return m_labelBand.adjusted(arrowTarget(-1).width(), 0, -arrowTarget(1).width(), 0);
+}
+
+QRect ServicesApp::arrowTarget(int step) const
+{
+    // The arrows' pressed size, widened to a fingertip.
+    constexpr int Width = 48;
+    return QRect(step < 0 ? 0 : workWidth() - Width, m_labelBand.top(), Width, m_labelBand.height());
+}
+
+// A tap picks a service as the arrows would (same feedback); on the chosen one, the big icon or the
+// label it is the action key.
+void ServicesApp::tap(QPoint at)
+{
+    for (const int step : {-1, 1}) {
+        if (arrowTarget(step).contains(at)) {
+            m_selector->step(step);
+            return;
+        }
+    }
+    if (bigIconTarget().contains(at) || labelTarget().contains(at)) {
+        sendCommand(Commands::Ok);
+        return;
+    }
+    for (int i = 0; i < ServiceCount; ++i) {
+        if (!iconTarget(i).contains(at))
+            continue;
+        if (i == selection())
+            sendCommand(Commands::Ok);
+        else
+            m_selector->step(i - selection());
+        return;
+    }
+}
+
 void ServicesApp::paint(QPainter& painter)
 {
     const int width = workWidth();

@@ -34,6 +34,12 @@ public:
     QRect highlightRect() const;
     // The screen a service opens; nullptr for "Todo List" and services not built yet.
     Screen* serviceScreen(int index) const;
+    // Where a finger picks service `index`: its cell of the icon grid.
+    QRect iconTarget(int index) const;
+    // The big icon, the label and the two arrows, as tap targets.
+    QRect bigIconTarget() const;
+    QRect labelTarget() const;
+    QRect arrowTarget(int step) const;
     void openWeather(Screen& opener, const std::wstring& cityName) override;
 
 protected:
@@ -45,6 +51,7 @@ protected:
     void command(int id) override;
     void spinnerDelta(Spinner& spinner, int delta) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void tap(QPoint at) override;
 
 private:
     static constexpr int LeftArrowTimer = 1;

@@ -17,7 +17,7 @@ struct StartOptions
     bool version = false;
     int width = 240; // work area, logical pixels
     int height = 268;
-    int scale = 2;
+    int scale = 0; // 0: as large as the screen allows
     DeviceOptions device; // state folder, device root, --now
     std::optional<std::filesystem::path> tourDir;
     bool exitAfterFirstPaint = false;

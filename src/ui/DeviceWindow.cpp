@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QEventLoop>
 #include <QKeyEvent>
+#include <QScreen>
 
 DeviceWindow::DeviceWindow(QSize workArea)
     : m_workArea(workArea)
@@ -19,6 +20,8 @@ DeviceWindow::DeviceWindow(QSize workArea)
     m_workAreaWidget->setObjectName(QStringLiteral("workArea"));
     placeChildren();
     qApp->installEventFilter(this);
+    if (QScreen* screen = QGuiApplication::primaryScreen())
+        connect(screen, &QScreen::orientationChanged, this, &DeviceWindow::followOrientation);
 }
 
 DeviceWindow::~DeviceWindow()
@@ -40,6 +43,15 @@ void DeviceWindow::placeChildren()
         run.screen->setGeometry(0, 0, m_workArea.width(), m_workArea.height());
         run.softKeys->setGeometry(0, m_workArea.height(), m_workArea.width(), SoftKeyBar::BarHeight);
     }
+}
+
+void DeviceWindow::followOrientation(Qt::ScreenOrientation orientation)
+{
+    const bool landscape = orientation == Qt::LandscapeOrientation || orientation == Qt::InvertedLandscapeOrientation;
+    const bool portrait = orientation == Qt::PortraitOrientation || orientation == Qt::InvertedPortraitOrientation;
+    const bool wide = m_workArea.width() > m_workArea.height();
+    if ((landscape && !wide) || (portrait && wide))
+        rotate();
 }
 
 Screen* DeviceWindow::topScreen() const

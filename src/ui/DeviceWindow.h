@@ -25,6 +25,8 @@ public:
     void setWorkArea(QSize size);
     // Swaps the work area's width and height; every running screen lays itself out again.
     void rotate() { setWorkArea(m_workArea.transposed()); }
+    // Turns the work area to lie as the screen now does (a phone turned on its side).
+    void followOrientation(Qt::ScreenOrientation orientation);
 
     // Shows `screen` above the current one until it ends; returns its result.
     int run(Screen& screen);

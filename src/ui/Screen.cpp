@@ -10,6 +10,7 @@
 
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 
@@ -57,6 +58,14 @@ void Screen::paint(QPainter&) { }
 void Screen::timerTick(int) { }
 
 void Screen::spinnerDelta(Spinner&, int) { }
+
+void Screen::tap(QPoint) { }
+
+void Screen::swipe(int delta)
+{
+    if (auto* spinner = qobject_cast<Spinner*>(focusWidget()); spinner && isAncestorOf(spinner))
+        spinner->step(delta);
+}
 
 void Screen::eraseBackground(QPainter& painter)
 {
@@ -189,4 +198,26 @@ void Screen::keyPressEvent(QKeyEvent* event)
         return;
     }
     QWidget::keyPressEvent(event);
+}
+
+void Screen::mousePressEvent(QMouseEvent* event)
+{
+    m_swipe.press(event->position());
+}
+
+void Screen::mouseMoveEvent(QMouseEvent* event)
+{
+    if (const int delta = m_swipe.move(event->position()); delta != 0 && m_running && !m_ended)
+        swipe(delta);
+}
+
+void Screen::mouseReleaseEvent(QMouseEvent* event)
+{
+    const int delta = m_swipe.release(event->position());
+    if (!m_running || m_ended)
+        return;
+    if (delta != 0)
+        swipe(delta);
+    else if (m_swipe.wasTap())
+        tap(event->position().toPoint());
 }

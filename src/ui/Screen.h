@@ -3,6 +3,7 @@
 
 #include "ui/MenuBars.h"
 #include "ui/ScreenEnvironment.h"
+#include "ui/SwipeRecogniser.h"
 
 #include <QImage>
 #include <QPixmap>
@@ -62,6 +63,11 @@ protected:
     // Default: "Services" and "Done" end the screen, "Exit" ends the program.
     virtual void command(int id);
     virtual void spinnerDelta(Spinner& spinner, int delta);
+    // A tap on the screen away from its controls, in work-area pixels. Default: nothing.
+    virtual void tap(QPoint at);
+    // A sideways swipe over the screen away from its controls (+1: the finger went left). Default: the
+    // focused spinner steps, as Left/Right would step it.
+    virtual void swipe(int delta);
 
     ScreenEnvironment& environment() const { return m_environment; }
     DeviceWindow& window() const { return m_window; }
@@ -85,6 +91,9 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
 
 signals:
     void painted();
@@ -110,4 +119,5 @@ private:
     QPixmap m_background;
     QRect m_dirty;
     std::set<int> m_timers; // ids of the timers started and not stopped
+    SwipeRecogniser m_swipe;
 };

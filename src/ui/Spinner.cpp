@@ -129,6 +129,22 @@ void Spinner::mousePressEvent(QMouseEvent* event)
     const int x = qRound(event->position().x());
     if (x >= buttonsLeft)
         step(x < buttonsLeft + ButtonWidth / 2 ? -1 : 1);
+    else
+        m_swipe.press(event->position());
+}
+
+void Spinner::mouseMoveEvent(QMouseEvent* event)
+{
+    if (const int delta = m_swipe.move(event->position()))
+        step(delta);
+}
+
+void Spinner::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (const int delta = m_swipe.release(event->position()))
+        step(delta);
+    else if (m_swipe.wasTap())
+        emit boxTapped();
 }
 
 void Spinner::wheelEvent(QWheelEvent* event)

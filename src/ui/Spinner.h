@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "ui/SwipeRecogniser.h"
+
 #include <QStringList>
 #include <QWidget>
 
 // A one-line list with stepping: the handheld's list box and up-down pair. Left/Right step it
 // (Up/Down too when it is vertical). Each step first reports its delta, then moves the selection
 // (wrapping when asked). A letter jumps to the next item starting with it and reports a step of 0.
-// Hidden spinners are only there to catch the keys.
+// A tap on an arrow steps as its key does; a sideways swipe over the spinner steps it too (the finger
+// going left is Right). Hidden spinners are only there to catch the keys.
 class Spinner final : public QWidget
 {
     Q_OBJECT
@@ -42,10 +45,14 @@ public:
 signals:
     void deltaRequested(int delta);
     void currentChanged(int index);
+    // A tap on the box, away from the arrows.
+    void boxTapped();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
@@ -59,4 +66,5 @@ private:
     int m_current = -1;
     bool m_wrapping = false;
     Orientation m_orientation;
+    SwipeRecogniser m_swipe;
 };

@@ -34,6 +34,8 @@ SelectDialog::SelectDialog(ScreenEnvironment& environment, DeviceWindow& window)
 {
     m_list->setObjectName(QStringLiteral("choiceSpinner"));
     connect(m_list, &Spinner::currentChanged, this, &SelectDialog::listChanged);
+    // A tap on the list steps it on, as Down does.
+    connect(m_list, &Spinner::boxTapped, this, [this] { m_list->step(1); });
 }
 
 void SelectDialog::initialise()

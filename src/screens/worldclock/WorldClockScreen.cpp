@@ -217,8 +217,7 @@ void WorldClockScreen::paintFocus(QPainter& painter) const
     const int entry = m_focusList->currentIndex();
     if (entry < 0)
         return;
-    const ClockCell& cell = m_cells[static_cast<std::size_t>(entry / 2)];
-    const QRect target = (entry % 2 == 0 ? cell.dial() : cell.weather()).adjusted(-3, -3, 3, 3);
+    const QRect target = entryRect(entry).adjusted(-3, -3, 3, 3);
     Painting::drawRaisedEdge(
         painter, target.left(), target.top(), target.left() + target.width(), target.top() + target.height());
 }
@@ -256,6 +255,39 @@ void WorldClockScreen::spinnerDelta(Spinner&, int delta)
     m_movedLeft = delta < 0;
     m_movedRight = delta > 0;
     update();
+}
+
+QRect WorldClockScreen::entryRect(int entry) const
+{
+    const ClockCell& cell = m_cells[static_cast<std::size_t>(entry / 2)];
+    return entry % 2 == 0 ? cell.dial() : cell.weather();
+}
+
+int WorldClockScreen::entryAt(QPoint at) const
+{
+    const int entries = 2 * static_cast<int>(m_cells.size());
+    for (int entry = 0; entry < entries; ++entry) {
+        if (entryRect(entry).contains(at))
+            return entry;
+    }
+    return -1;
+}
+
+// The title's arrows step the focus as Left/Right do; a clock face or weather icon takes the focus
+// and gets the action key.
+void WorldClockScreen::tap(QPoint at)
+{
+    const int width = workWidth();
+    if (m_title.rect().contains(at) && at.x() >= width - 64) {
+        m_focusList->step(at.x() < width - 38 ? -1 : 1);
+        return;
+    }
+    const int entry = entryAt(at);
+    if (entry < 0)
+        return;
+    m_focusList->setCurrentIndex(entry);
+    update();
+    command(Commands::Ok);
 }
 
 void WorldClockScreen::command(int id)

@@ -38,6 +38,8 @@ public:
     QString shownDate(int slot) const;
     QString shownName(int slot) const;
     bool twelveHour() const { return m_twelveHour; }
+    // Where focus entry `entry` is drawn: even entries are clock faces, odd ones weather icons.
+    QRect entryRect(int entry) const;
     // One tick of the clock: new texts from the device clock, and a repaint of what changed.
     void refresh();
     void tourVisit() override;
@@ -52,6 +54,7 @@ protected:
     void destroyWork() override;
     void command(int id) override;
     void spinnerDelta(Spinner& spinner, int delta) override;
+    void tap(QPoint at) override;
 
 private:
     void readSettings();
@@ -65,6 +68,8 @@ private:
     ClockView view(int slot) const;
     void paintTitle(QPainter& painter) const;
     void paintFocus(QPainter& painter) const;
+    // The focus entry (0 home dial, 1 home weather, 2 first city's dial, ...) under `at`, or -1.
+    int entryAt(QPoint at) const;
 
     CityCatalogue& m_cities;
     WeatherFavourites& m_favourites;
