@@ -2,6 +2,7 @@
 #include "cli/CommandRunner.h"
 
 #include "cli/CityCommands.h"
+#include "cli/CurrencyCommands.h"
 #include "cli/DialCommand.h"
 #include "cli/SizesCommand.h"
 
@@ -20,7 +21,9 @@ const std::map<std::string, Command>& commands()
     static const std::map<std::string, Command> table {
         {"cities", RunCitiesCommand},
         {"city", RunCityCommand},
+        {"currency", RunCurrencyCommand},
         {"dial", RunDialCommand},
+        {"rates", RunRatesCommand},
         {"sizes", RunSizesCommand},
         {"time", RunTimeCommand},
     };

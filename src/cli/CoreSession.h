@@ -26,6 +26,8 @@ public:
     const DevicePaths& paths() const { return m_paths; }
     RegistrySettings& settings() { return m_registry; }
     CityCatalogue& cities() { return m_cities; }
+    ObjectStore& objects() { return *m_objects; }
+    MessageSink& messages() { return m_messages; }
 
 private:
     class ErrorStreamSink final : public MessageSink

@@ -8,7 +8,7 @@
 
 namespace {
 
-const std::set<std::string> Commands {"cities", "time", "city", "sizes", "dial"};
+const std::set<std::string> Commands {"cities", "time", "city", "sizes", "dial", "currency", "rates"};
 
 bool parseInt(const std::string& text, int low, int high, int& value)
 {
@@ -128,8 +128,14 @@ Commands (print to standard output, no window):
                           clothing size tables
   dial [TEXT]             international dialing codes of countries containing TEXT
   dial --us [TEXT]        US area codes of cities or states containing TEXT
+  currency AMOUNT FROM [TO...]
+                          AMOUNT of FROM in each TO (default: the converter's three)
+  rates                   every currency's code, name and rate, and the last update
+  rates import FILE       the ECB's daily reference rates (eurofxref-daily.xml;
+                          FILE - reads standard input)
 
-CITY is a catalogue position or a name ("Paris" or "Paris:France").
+CITY is a catalogue position or a name ("Paris" or "Paris:France"); FROM and TO
+are currency codes or names ("eur", "US Dollar").
 
 Keys: Left/Right move the selection, Return is the action key, F1 and F2 press
 the soft keys, Escape is Back, Ctrl+R rotates the work area.
