@@ -186,12 +186,13 @@ private:
     {
         if (m_rates.rates.size() + m_rates.skipped.size() >= MaxRates)
             return fail("it lists more than " + std::to_string(MaxRates) + " rates");
-        const auto value = text ? parseDecimal(*text) : std::nullopt;
+        // Not a plain decimal number reads as 0, which is refused like a zero rate.
+        const double value = text ? parseDecimal(*text).value_or(0) : 0;
         if (!isCurrencyCode(code))
             m_rates.skipped.push_back("skipped the rate of " + quoted(code) + ": not a three-letter currency code");
         else if (!text)
             m_rates.skipped.push_back("skipped " + std::string(code) + ": it has no rate");
-        else if (!value || !(*value > 0))
+        else if (!(value > 0))
             m_rates.skipped.push_back(
                 "skipped " + std::string(code) + ": its rate " + quoted(*text) + " is not a positive decimal number");
         else if (code == "EUR")
@@ -199,7 +200,7 @@ private:
         else if (m_rates.find(code))
             m_rates.skipped.push_back("skipped the second rate of " + std::string(code));
         else
-            m_rates.rates.push_back({std::string(code), std::string(*text), *value});
+            m_rates.rates.push_back({std::string(code), std::string(*text), value});
     }
 
     XML_Parser m_parser;
