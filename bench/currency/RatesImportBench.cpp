@@ -55,13 +55,12 @@ private:
 
 int runCommand(const Workspace& workspace, std::vector<std::string> args)
 {
-    StartOptions options;
-    options.stateDir = workspace.state();
-    options.deviceRoot = WANDERKIT_DEVICE_ROOT;
-    options.command = "rates";
-    options.commandArgs = std::move(args);
+    CommandRequest request;
+    request.device.stateDir = workspace.state();
+    request.device.deviceRoot = WANDERKIT_DEVICE_ROOT;
+    request.args = std::move(args);
     std::ostringstream out, err;
-    return RunCommand(options, out, err);
+    return RunCommand("rates", request, out, err);
 }
 
 // What the converter's Open reads, from a state opened afresh.

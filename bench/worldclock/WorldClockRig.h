@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "device/DevicePaths.h"
-#include "device/SystemDeviceClock.h"
 #include "screens/worldclock/WorldClockScreen.h"
-#include "settings/SettingsHive.h"
+#include "session/DeviceSession.h"
 #include "store/CityCatalogue.h"
-#include "store/ObjectStore.h"
 #include "store/WeatherFavourites.h"
 #include "ui/DeviceWindow.h"
+#include "ui/QtMessageBox.h"
 #include "ui/QtMessageSink.h"
+#include "ui/ScreenEnvironment.h"
 
 #include <QTemporaryDir>
 #include <QTimer>
@@ -20,13 +19,12 @@
 struct WorldClockRig
 {
     WorldClockRig()
-        : paths(WANDERKIT_DEVICE_ROOT)
-        , settings(SettingsHive::open(state.path().toStdString() + "/registry.db", messages))
-        , objects(ObjectStore::open(state.path().toStdString() + "/objectstore.db", messages))
-        , environment {clock, paths, *settings, *objects, messages}
+        : messages(boxes)
+        , device(openDevice(state, messages))
+        , environment {device->clock(), device->paths(), device->settings(), device->objects(), messages, boxes}
         , window(QSize(240, 268))
-        , cities(*objects, paths, messages)
-        , favourites(*objects, paths, messages)
+        , cities(device->objects(), device->paths(), messages)
+        , favourites(device->objects(), device->paths(), messages)
         , screen(environment, window, cities, favourites)
     {
         cities.Load();
@@ -46,12 +44,20 @@ struct WorldClockRig
         window.run(screen);
     }
 
+    // The shipped device root and a fresh state folder, on the system clock.
+    static std::unique_ptr<DeviceSession> openDevice(const QTemporaryDir& state, MessageSink& messages)
+    {
+        std::string error;
+        auto device = DeviceSession::open({state.path().toStdString(), WANDERKIT_DEVICE_ROOT, {}}, messages, error);
+        if (!device)
+            qFatal("%s", error.c_str());
+        return device;
+    }
+
     QTemporaryDir state;
-    SystemDeviceClock clock;
-    DevicePaths paths;
+    QtMessageBox boxes;
     QtMessageSink messages;
-    std::unique_ptr<SettingsHive> settings;
-    std::unique_ptr<ObjectStore> objects;
+    std::unique_ptr<DeviceSession> device;
     ScreenEnvironment environment;
     DeviceWindow window;
     CityCatalogue cities;

@@ -4,14 +4,11 @@
 #include "app/ServicesApp.h"
 #include "app/SingleInstance.h"
 #include "app/TourDriver.h"
-#include "device/DevicePaths.h"
-#include "device/StateFolder.h"
-#include "device/SystemDeviceClock.h"
-#include "settings/SettingsHive.h"
-#include "store/ObjectStore.h"
+#include "session/DeviceSession.h"
 #include "ui/DeviceWindow.h"
-#include "ui/MessageBox.h"
+#include "ui/QtMessageBox.h"
 #include "ui/QtMessageSink.h"
+#include "ui/ScreenEnvironment.h"
 
 #include <QApplication>
 #include <QTemporaryDir>
@@ -33,11 +30,11 @@ void chooseScale(const StartOptions& options)
 }
 
 // Says why the program cannot start: on standard error, and in a box when someone can see it.
-int fail(const std::string& message)
+int fail(MessageBox& boxes, const std::string& message)
 {
     std::cerr << "wanderkit: " << message << '\n';
     if (QGuiApplication::platformName() != QLatin1String("offscreen"))
-        MessageBox::show(nullptr, QString::fromStdString(message), QStringLiteral("Wanderkit"));
+        boxes.show(nullptr, QString::fromStdString(message), QStringLiteral("Wanderkit"));
     return 1;
 }
 
@@ -60,26 +57,21 @@ int GuiApplication::run(int& argc, char** argv)
 
     // A tour renders a fresh device unless a state folder is named, and never touches the user's.
     QTemporaryDir tourState;
-    std::optional<std::filesystem::path> chosen = m_options.stateDir;
-    if (m_options.tourDir && !chosen)
-        chosen = tourState.path().toStdString();
-    const auto stateFolder = StateFolder::locate(chosen);
-    std::string error;
-    if (!StateFolder::prepare(stateFolder, error))
-        return fail(error);
+    DeviceOptions device = m_options.device;
+    if (m_options.tourDir && !device.stateDir)
+        device.stateDir = tourState.path().toStdString();
 
-    QtMessageSink messages;
-    const std::unique_ptr<SystemDeviceClock> clock
-        = m_options.now ? std::make_unique<SystemDeviceClock>(*m_options.now) : std::make_unique<SystemDeviceClock>();
-    const DevicePaths paths(StateFolder::locateDeviceRoot(m_options.deviceRoot));
-    const auto settings = SettingsHive::open(stateFolder / "registry.db", messages);
-    const auto objects = ObjectStore::open(stateFolder / "objectstore.db", messages);
-    if (!settings || !objects)
-        return fail("Cannot create the state files in " + stateFolder.string());
+    QtMessageBox boxes;
+    QtMessageSink messages(boxes);
+    std::string error;
+    const auto session = DeviceSession::open(device, messages, error);
+    if (!session)
+        return fail(boxes, error);
 
     DeviceWindow window(QSize(m_options.width, m_options.height));
     messages.setParentWidget(&window);
-    ScreenEnvironment environment {*clock, paths, *settings, *objects, messages};
+    ScreenEnvironment environment {
+        session->clock(), session->paths(), session->settings(), session->objects(), messages, boxes};
     ServicesApp launcher(environment, window);
 
     QObject::connect(&instance, &SingleInstance::raiseRequested, &window, [&window] {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "cli/StartOptions.h"
+#include "app/StartOptions.h"
 
 // Starts the program's window: single-instance check, state folder and stores, the device window
 // and the launcher; or, with --tour, renders every screen to PNG files.

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/ServicesApp.h"
 
-#include "screens/clothing/ClothingScreen.h"
-#include "screens/dialing/DialingScreen.h"
-#include "screens/worldclock/WorldClockScreen.h"
+#include "app/ServiceTable.h"
 #include "settings/SettingsTable.h"
 #include "ui/BusyCursor.h"
 #include "ui/Commands.h"
@@ -17,18 +15,12 @@
 
 namespace {
 
-constexpr int LauncherMenuBar = 107;
 constexpr int Columns = 4;
-constexpr std::size_t WorldClocksService = 0;
-constexpr std::size_t ClothingService = 5;
-constexpr std::size_t DialingService = 6;
-// String ids of the service labels, in selection order.
-constexpr std::array<int, ServicesApp::ServiceCount> LabelIds {40008, 40009, 40025, 40034, 40044, 40045, 40046, 40047};
 
 } // namespace
 
 ServicesApp::ServicesApp(ScreenEnvironment& environment, DeviceWindow& window)
-    : Screen(environment, window, LauncherMenuBar, QStringLiteral("launcher"))
+    : Screen(environment, window, MenuBarId::Launcher, QStringLiteral("launcher"))
     , m_selector(new Spinner(this))
     , m_settings(environment.settings)
     , m_cities(environment.objects, environment.paths, environment.messages)
@@ -38,9 +30,11 @@ ServicesApp::ServicesApp(ScreenEnvironment& environment, DeviceWindow& window)
     m_selector->setObjectName(QStringLiteral("serviceSpinner"));
     m_selector->setWrapping(true);
     watchSpinner(*m_selector);
-    m_screens[WorldClocksService] = std::make_unique<WorldClockScreen>(environment, window, m_cities, m_favourites);
-    m_screens[ClothingService] = std::make_unique<ClothingScreen>(environment, window);
-    m_screens[DialingService] = std::make_unique<DialingScreen>(environment, window);
+    ServiceContext context {environment, window, m_cities, m_favourites, m_currencies, m_initialCurrencies};
+    for (std::size_t i = 0; i < m_screens.size(); ++i) {
+        if (const auto make = Services()[i].makeScreen)
+            m_screens[i] = make(context);
+    }
 }
 
 ServicesApp::~ServicesApp() = default;
@@ -62,8 +56,8 @@ void ServicesApp::initialise()
     loadStores();
     m_labelFont = Painting::makeFont(25, Painting::Bold);
     m_selector->clear();
-    for (std::size_t i = 0; i < LabelIds.size(); ++i) {
-        m_labels[i] = Painting::loadString(LabelIds[i]);
+    for (std::size_t i = 0; i < m_labels.size(); ++i) {
+        m_labels[i] = Painting::loadString(Services()[i].labelId);
         m_selector->addItem(m_labels[i]);
     }
     m_selector->setCurrentIndex(0);
@@ -121,7 +115,7 @@ void ServicesApp::paint(QPainter& painter)
     const int width = workWidth();
     const int height = workHeight();
     for (int i = 0; i < ServiceCount; ++i)
-        Icons::draw(painter, Icons::Service, iconX(i), iconY(i), 16);
+        Icons::draw(painter, Services()[static_cast<std::size_t>(i)].iconId, iconX(i), iconY(i), 16);
     Icons::draw(painter, Icons::Service, (width - 32) / 2, height - 124, 32);
     Icons::draw(painter, Icons::LeftArrow, 20, m_leftPressed ? height - 34 : height - 30, m_leftPressed ? 24 : 16);
     Icons::draw(
@@ -170,7 +164,7 @@ void ServicesApp::keyPressEvent(QKeyEvent* event)
         Screen::keyPressEvent(event);
         return;
     }
-    MessageBox::show(this, QStringLiteral("e"), QString());
+    environment().boxes.show(this, QStringLiteral("e"), QString());
     update();
 }
 
@@ -184,8 +178,10 @@ void ServicesApp::command(int id)
 
 void ServicesApp::openService(int index)
 {
-    if (Screen* screen = serviceScreen(index))
+    if (Screen* screen = serviceScreen(index)) {
+        screen->openedAsService();
         runModal(*screen);
+    }
 }
 
 void ServicesApp::destroyWork()

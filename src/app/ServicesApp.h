@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/ServiceTable.h"
 #include "settings/RegistrySettings.h"
 #include "store/CityCatalogue.h"
 #include "store/CurrencyStore.h"
@@ -22,8 +23,6 @@ class ServicesApp final : public Screen
     Q_OBJECT
 
 public:
-    static constexpr int ServiceCount = 8;
-
     ServicesApp(ScreenEnvironment& environment, DeviceWindow& window);
     ~ServicesApp() override;
 

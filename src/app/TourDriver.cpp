@@ -36,9 +36,9 @@ void TourDriver::visit(Screen& screen)
 
 void TourDriver::nextService()
 {
-    while (m_nextService < ServicesApp::ServiceCount && !m_launcher.serviceScreen(m_nextService))
+    while (m_nextService < ServiceCount && !m_launcher.serviceScreen(m_nextService))
         ++m_nextService;
-    if (m_nextService >= ServicesApp::ServiceCount) {
+    if (m_nextService >= ServiceCount) {
         m_launcher.sendCommand(Commands::Exit);
         return;
     }

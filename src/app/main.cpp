@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/GuiApplication.h"
+#include "app/StartOptions.h"
 #include "cli/CommandRunner.h"
-#include "cli/StartOptions.h"
+#ifdef WANDERKIT_WITH_GUI
+#include "app/GuiApplication.h"
+#endif
 
 #include <iostream>
 
@@ -22,6 +24,11 @@ int main(int argc, char** argv)
         return 0;
     }
     if (!options->command.empty())
-        return RunCommand(*options, std::cout, std::cerr);
+        return RunCommand(options->command, {options->device, options->commandArgs}, std::cout, std::cerr);
+#ifdef WANDERKIT_WITH_GUI
     return GuiApplication(*options).run(argc, argv);
+#else
+    std::cerr << "wanderkit: this build has no window; run one of the commands of wanderkit --help\n";
+    return 2;
+#endif
 }

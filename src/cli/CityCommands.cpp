@@ -2,8 +2,9 @@
 #include "cli/CityCommands.h"
 
 #include "cli/CityLookup.h"
-#include "cli/CoreSession.h"
-#include "store/HomeCity.h"
+#include "cli/CommandSession.h"
+#include "device/DeviceClock.h"
+#include "session/HomeCity.h"
 #include "text/WideText.h"
 #include "time/CalendarDays.h"
 #include "time/CityInformation.h"
@@ -26,7 +27,7 @@ std::string joined(const std::vector<std::string>& words)
 }
 
 // Resolves one CITY word; prints the reason and gives nothing when it names no single city.
-std::optional<std::uint32_t> findCity(CoreSession& session, const std::string& word, std::ostream& err)
+std::optional<std::uint32_t> findCity(CommandSession& session, const std::string& word, std::ostream& err)
 {
     std::string error;
     const auto position = CityLookup(session.cities()).find(word, error);
@@ -74,12 +75,12 @@ std::string dayMonthYear(const ClockSlot& slot, const SystemTime& date)
 
 } // namespace
 
-int RunCitiesCommand(const StartOptions& options, std::ostream& out, std::ostream& err)
+int RunCitiesCommand(const CommandRequest& request, std::ostream& out, std::ostream& err)
 {
-    auto session = CoreSession::open(options, err);
+    auto session = CommandSession::open(request, err);
     if (!session)
         return 1;
-    const std::wstring text = FoldLatin1(Utf8ToWide(joined(options.commandArgs)));
+    const std::wstring text = FoldLatin1(Utf8ToWide(joined(request.args)));
     CityCatalogue& cities = session->cities();
     const std::uint32_t count = cities.Count();
     for (std::uint32_t i = 0; i < count; ++i) {
@@ -93,23 +94,23 @@ int RunCitiesCommand(const StartOptions& options, std::ostream& out, std::ostrea
     return 0;
 }
 
-int RunTimeCommand(const StartOptions& options, std::ostream& out, std::ostream& err)
+int RunTimeCommand(const CommandRequest& request, std::ostream& out, std::ostream& err)
 {
-    const auto request = parseTimeRequest(options.commandArgs, err);
-    if (!request)
+    const auto wanted = parseTimeRequest(request.args, err);
+    if (!wanted)
         return UsageError;
-    auto session = CoreSession::open(options, err);
+    auto session = CommandSession::open(request, err);
     if (!session)
         return 1;
     std::uint32_t home = HomeCity::position(session->settings());
-    if (request->home) {
-        const auto found = findCity(*session, *request->home, err);
+    if (wanted->home) {
+        const auto found = findCity(*session, *wanted->home, err);
         if (!found)
             return UsageError;
         home = *found;
     }
     std::vector<std::uint32_t> positions;
-    for (const std::string& word : request->cities) {
+    for (const std::string& word : wanted->cities) {
         const auto found = findCity(*session, word, err);
         if (!found)
             return UsageError;
@@ -122,7 +123,7 @@ int RunTimeCommand(const StartOptions& options, std::ostream& out, std::ostream&
         const CityRecord city = cities.Record(position);
         const ClockSlot slot = ComputeCitySlot({city.timeZone, city.daylightRule}, device, now);
         const ClockSlotText text = FormatCitySlot(slot, device, now);
-        const std::wstring time = request->twelveHour ? ToTwelveHour(text.time).withSuffix() : text.time;
+        const std::wstring time = wanted->twelveHour ? ToTwelveHour(text.time).withSuffix() : text.time;
         out << position << '\t' << WideToUtf8(city.name) << '\t' << WideToUtf8(time) << '\t' << WideToUtf8(text.date)
             << '\t' << slot.offset << '\t' << slot.observes << '\t' << dayMonthYear(slot, slot.start) << '\t'
             << dayMonthYear(slot, slot.end) << '\n';
@@ -130,16 +131,16 @@ int RunTimeCommand(const StartOptions& options, std::ostream& out, std::ostream&
     return 0;
 }
 
-int RunCityCommand(const StartOptions& options, std::ostream& out, std::ostream& err)
+int RunCityCommand(const CommandRequest& request, std::ostream& out, std::ostream& err)
 {
-    if (options.commandArgs.size() != 1 || options.commandArgs[0].starts_with("-")) {
+    if (request.args.size() != 1 || request.args[0].starts_with("-")) {
         err << "wanderkit: city: name one city\nUsage: wanderkit city CITY\n";
         return UsageError;
     }
-    auto session = CoreSession::open(options, err);
+    auto session = CommandSession::open(request, err);
     if (!session)
         return 1;
-    const auto position = findCity(*session, options.commandArgs[0], err);
+    const auto position = findCity(*session, request.args[0], err);
     if (!position)
         return UsageError;
     CityCatalogue& cities = session->cities();

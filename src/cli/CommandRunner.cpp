@@ -13,7 +13,7 @@
 
 namespace {
 
-using Command = std::function<int(const StartOptions&, std::ostream&, std::ostream&)>;
+using Command = std::function<int(const CommandRequest&, std::ostream&, std::ostream&)>;
 
 // Every text command, by the word that names it on the command line.
 const std::map<std::string, Command>& commands()
@@ -32,13 +32,18 @@ const std::map<std::string, Command>& commands()
 
 } // namespace
 
-int RunCommand(const StartOptions& options, std::ostream& out, std::ostream& err)
+bool IsCommand(const std::string& name)
+{
+    return commands().contains(name);
+}
+
+int RunCommand(const std::string& name, const CommandRequest& request, std::ostream& out, std::ostream& err)
 {
     const auto& table = commands();
-    const auto it = table.find(options.command);
+    const auto it = table.find(name);
     if (it == table.end()) {
-        err << "wanderkit: the command \"" << options.command << "\" is not available\n";
+        err << "wanderkit: the command \"" << name << "\" is not available\n";
         return 2;
     }
-    return it->second(options, out, err);
+    return it->second(request, out, err);
 }

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/CurrencyCommands.h"
 
-#include "cli/CoreSession.h"
+#include "cli/CommandSession.h"
 #include "currency/CurrencyConversion.h"
 #include "currency/RatesImport.h"
+#include "device/SystemDeviceClock.h"
 #include "settings/SettingsTable.h"
 #include "store/CurrencyStore.h"
 #include "text/WideText.h"
@@ -18,9 +19,9 @@ constexpr const char* CurrencyUsage = "Usage: wanderkit currency AMOUNT FROM [TO
 constexpr const char* RatesUsage = "Usage: wanderkit rates [import FILE]   (FILE \"-\" reads standard input)\n";
 
 // The currency store, filled from "\currs.lst" on a first start as the launcher fills it.
-std::unique_ptr<CurrencyStore> openCurrencies(CoreSession& session)
+std::unique_ptr<CurrencyStore> openCurrencies(CommandSession& session)
 {
-    auto store = std::make_unique<CurrencyStore>(session.objects());
+    auto store = std::make_unique<CurrencyStore>(session.device().objects());
     store->SetInitialList(ReadInitialCurrencies(session.paths(), session.messages()));
     store->Load();
     return store;
@@ -48,9 +49,9 @@ std::vector<std::uint32_t> converterCurrencies(RegistrySettings& settings)
         ReadSetting(settings, Settings::Currency3)};
 }
 
-int listRates(const StartOptions& options, std::ostream& out, std::ostream& err)
+int listRates(const CommandRequest& request, std::ostream& out, std::ostream& err)
 {
-    auto session = CoreSession::open(options, err);
+    auto session = CommandSession::open(request, err);
     if (!session)
         return Unusable;
     auto store = openCurrencies(*session);
@@ -77,7 +78,7 @@ void reportImport(const RatesImport::Plan& plan, const EcbRates& rates, std::uin
 }
 
 int importRates(
-    const StartOptions& options, const std::string& source, std::istream& in, std::ostream& out, std::ostream& err)
+    const CommandRequest& request, const std::string& source, std::istream& in, std::ostream& out, std::ostream& err)
 {
     const std::string prefix = "wanderkit: rates import: " + (source == "-" ? "standard input" : source) + ": ";
     const auto refuse = [&](const std::string& reason) {
@@ -91,11 +92,11 @@ int importRates(
         return refuse(error);
     for (const std::string& skipped : rates->skipped)
         err << prefix << skipped << '\n';
-    const SystemDeviceClock clock = options.now ? SystemDeviceClock(*options.now) : SystemDeviceClock();
+    const SystemDeviceClock clock = request.device.now ? SystemDeviceClock(*request.device.now) : SystemDeviceClock();
     if (const std::string reason = RatesImport::refusal(*rates, clock.localTime()); !reason.empty())
         return refuse(reason);
 
-    auto session = CoreSession::open(options, err);
+    auto session = CommandSession::open(request, err);
     if (!session)
         return Unusable;
     auto store = openCurrencies(*session);
@@ -105,7 +106,7 @@ int importRates(
         return Unusable;
     }
     const RatesImport::Plan plan = RatesImport::plan(*store, *rates);
-    if (!RatesImport::apply(session->objects(), *store, plan)) {
+    if (!RatesImport::apply(session->device().objects(), *store, plan)) {
         err << prefix << "the currency store could not be written; it is unchanged\n";
         return Unusable;
     }
@@ -115,14 +116,14 @@ int importRates(
 
 } // namespace
 
-int RunCurrencyCommand(const StartOptions& options, std::ostream& out, std::ostream& err)
+int RunCurrencyCommand(const CommandRequest& request, std::ostream& out, std::ostream& err)
 {
-    const std::vector<std::string>& args = options.commandArgs;
+    const std::vector<std::string>& args = request.args;
     if (args.size() < 2) {
         err << "wanderkit: currency: give an amount and the currency it is in\n" << CurrencyUsage;
         return UsageError;
     }
-    auto session = CoreSession::open(options, err);
+    auto session = CommandSession::open(request, err);
     if (!session)
         return Unusable;
     auto store = openCurrencies(*session);
@@ -147,18 +148,18 @@ int RunCurrencyCommand(const StartOptions& options, std::ostream& out, std::ostr
     return 0;
 }
 
-int RunRatesCommand(const StartOptions& options, std::ostream& out, std::ostream& err)
+int RunRatesCommand(const CommandRequest& request, std::ostream& out, std::ostream& err)
 {
-    return RunRatesCommandWithInput(options, std::cin, out, err);
+    return RunRatesCommandWithInput(request, std::cin, out, err);
 }
 
-int RunRatesCommandWithInput(const StartOptions& options, std::istream& in, std::ostream& out, std::ostream& err)
+int RunRatesCommandWithInput(const CommandRequest& request, std::istream& in, std::ostream& out, std::ostream& err)
 {
-    const std::vector<std::string>& args = options.commandArgs;
+    const std::vector<std::string>& args = request.args;
     if (args.empty())
-        return listRates(options, out, err);
+        return listRates(request, out, err);
     if (args.size() == 2 && args[0] == "import")
-        return importRates(options, args[1], in, out, err);
+        return importRates(request, args[1], in, out, err);
     err << "wanderkit: rates: unexpected " << (args[0] == "import" ? "arguments" : "\"" + args[0] + "\"") << '\n'
         << RatesUsage;
     return UsageError;

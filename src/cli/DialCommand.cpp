@@ -34,9 +34,9 @@ bool PrintAreaCodes(std::ostream& out, const std::wstring& text)
 
 } // namespace
 
-int RunDialCommand(const StartOptions& options, std::ostream& out, std::ostream& err)
+int RunDialCommand(const CommandRequest& request, std::ostream& out, std::ostream& err)
 {
-    const CommandWords args = CommandWords::split(options.commandArgs);
+    const CommandWords args = CommandWords::split(request.args);
     bool us = false;
     for (const std::string& option : args.options) {
         if (option != "--us") {

@@ -62,9 +62,9 @@ void PrintWearer(std::ostream& out, int wearer, std::optional<int> garment, bool
 
 } // namespace
 
-int RunSizesCommand(const StartOptions& options, std::ostream& out, std::ostream& err)
+int RunSizesCommand(const CommandRequest& request, std::ostream& out, std::ostream& err)
 {
-    const CommandWords args = CommandWords::split(options.commandArgs);
+    const CommandWords args = CommandWords::split(request.args);
     if (!args.options.empty()) {
         err << "wanderkit sizes: unknown option " << args.options.front() << '\n' << Usage;
         return 2;

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settings/MappingFile.h"
 
+#include "device/DeviceFile.h"
 #include "settings/SettingsTable.h"
-#include "store/DeviceFile.h"
 #include "text/WideText.h"
 
 namespace {

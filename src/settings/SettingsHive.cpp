@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settings/SettingsHive.h"
 
-#include "store/SqliteConnection.h"
-#include "store/SqliteTransaction.h"
-#include "store/StateFile.h"
+#include "sqlite/SqliteConnection.h"
+#include "sqlite/SqliteTransaction.h"
+#include "sqlite/StateFile.h"
 #include "text/WideText.h"
 
 #include <array>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "store/CityCatalogue.h"
 
+#include "device/DeviceFile.h"
 #include "device/MessageSink.h"
 #include "store/DelimitedFieldReader.h"
-#include "store/DeviceFile.h"
 #include "store/FirstStartLoad.h"
 #include "text/StringTable.h"
 #include "text/WideText.h"

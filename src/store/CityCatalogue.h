@@ -3,8 +3,8 @@
 
 #include "device/DevicePaths.h"
 #include "device/MessageSink.h"
-#include "store/CityRecord.h"
 #include "store/PropertyDatabase.h"
+#include "time/CityRecord.h"
 
 #include <cstdint>
 #include <string>

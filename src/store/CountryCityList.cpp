@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "store/CountryCityList.h"
 
+#include "device/DeviceFile.h"
 #include "device/DevicePaths.h"
-#include "store/DeviceFile.h"
 #include "text/WideText.h"
 
 CountryCityList CountryCityList::read(const DevicePaths& paths, std::wstring_view country)

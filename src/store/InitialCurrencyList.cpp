@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "store/InitialCurrencyList.h"
 
+#include "device/DeviceFile.h"
 #include "device/MessageSink.h"
 #include "store/DelimitedFieldReader.h"
-#include "store/DeviceFile.h"
 #include "text/StringTable.h"
 #include "text/WideText.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "store/ObjectStore.h"
 
-#include "store/StateFile.h"
+#include "sqlite/StateFile.h"
 #include "text/WideText.h"
 
 #include <array>

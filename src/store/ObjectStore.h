@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "sqlite/SqliteConnection.h"
+#include "sqlite/SqliteTransaction.h"
 #include "store/Property.h"
 #include "store/RecordIndex.h"
-#include "store/SqliteConnection.h"
-#include "store/SqliteTransaction.h"
 
 #include <chrono>
 #include <cstdint>

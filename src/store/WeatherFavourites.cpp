@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "store/WeatherFavourites.h"
 
+#include "device/DeviceFile.h"
 #include "device/MessageSink.h"
-#include "store/DeviceFile.h"
 #include "store/FirstStartLoad.h"
 #include "text/WideText.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "store/CityRecord.h"
+#include "time/CityRecord.h"
 #include "time/SystemTime.h"
 #include "time/ZoneOffset.h"
 

@@ -56,7 +56,7 @@ int DeviceWindow::run(Screen& screen)
 {
     if (m_exiting)
         return 0;
-    const MenuBarSpec* bar = MenuBars::find(screen.menuBarId());
+    const MenuBarLayout* bar = MenuBars::find(screen.menuBarId());
     Q_ASSERT(bar);
     auto* softKeys = new SoftKeyBar(*bar, this);
     connect(softKeys, &SoftKeyBar::commandTriggered, &screen, &Screen::sendCommand);

@@ -4,9 +4,8 @@
 #include <QMessageBox>
 #include <QString>
 
-#include <functional>
-
-// Every message box of the program goes through here, so that tests can answer them.
+// How screens show a message box. The program shows real boxes (QtMessageBox); tests answer them. Screens
+// reach it through their environment, never through a global, so each test has its own.
 class MessageBox
 {
 public:
@@ -17,11 +16,15 @@ public:
         QMessageBox::StandardButtons buttons;
         QMessageBox::Icon icon;
     };
-    using Interceptor = std::function<QMessageBox::StandardButton(const Request&)>;
 
-    // Shows a modal message box over `parent` and returns the button pressed.
-    static QMessageBox::StandardButton show(QWidget* parent, const QString& text, const QString& caption,
-        QMessageBox::StandardButtons buttons = QMessageBox::Ok, QMessageBox::Icon icon = QMessageBox::NoIcon);
-    // While set, boxes are not shown: the interceptor sees each request and answers it.
-    static void setInterceptor(Interceptor interceptor);
+    virtual ~MessageBox() = default;
+
+    // Shows a modal box over `parent` and returns the button pressed.
+    virtual QMessageBox::StandardButton ask(QWidget* parent, const Request& request) = 0;
+
+    QMessageBox::StandardButton show(QWidget* parent, const QString& text, const QString& caption,
+        QMessageBox::StandardButtons buttons = QMessageBox::Ok, QMessageBox::Icon icon = QMessageBox::NoIcon)
+    {
+        return ask(parent, {text, caption, buttons, icon});
+    }
 };

@@ -2,6 +2,7 @@
 #include "ui/Painting.h"
 
 #include "text/StringTable.h"
+#include "ui/WideString.h"
 
 #include <QFontMetrics>
 #include <QPainter>
@@ -55,5 +56,5 @@ QString Painting::shortenToFit(const QFontMetrics& metrics, QString text, int wi
 QString Painting::loadString(int id)
 {
     const auto text = StringTable::Load(id);
-    return QString::fromWCharArray(text.data(), static_cast<qsizetype>(text.size()));
+    return toQString(text);
 }

@@ -2,9 +2,9 @@
 #include "ui/QtMessageSink.h"
 
 #include "ui/MessageBox.h"
+#include "ui/WideString.h"
 
 void QtMessageSink::showMessage(std::wstring_view text, std::wstring_view caption)
 {
-    MessageBox::show(m_parent, QString::fromWCharArray(text.data(), static_cast<qsizetype>(text.size())),
-        QString::fromWCharArray(caption.data(), static_cast<qsizetype>(caption.size())));
+    m_boxes.show(m_parent, toQString(text), toQString(caption));
 }

@@ -12,7 +12,7 @@
 #include <QPainter>
 #include <QTimer>
 
-Screen::Screen(ScreenEnvironment& environment, DeviceWindow& window, int menuBarId, QString name)
+Screen::Screen(ScreenEnvironment& environment, DeviceWindow& window, MenuBarId menuBarId, QString name)
     : m_environment(environment)
     , m_window(window)
     , m_menuBarId(menuBarId)

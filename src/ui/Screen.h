@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "ui/MenuBars.h"
 #include "ui/ScreenEnvironment.h"
 
 #include <QImage>
@@ -23,10 +24,10 @@ class Screen : public QWidget
     Q_OBJECT
 
 public:
-    Screen(ScreenEnvironment& environment, DeviceWindow& window, int menuBarId, QString name);
+    Screen(ScreenEnvironment& environment, DeviceWindow& window, MenuBarId menuBarId, QString name);
     ~Screen() override;
 
-    int menuBarId() const { return m_menuBarId; }
+    MenuBarId menuBarId() const { return m_menuBarId; }
     // Short name, used for the rendered tour ("launcher", "worldclock", ...).
     const QString& screenName() const { return m_name; }
     bool isRunning() const { return m_running; }
@@ -41,6 +42,8 @@ public:
     void endScreen(int result = 0);
     // What a rendered tour does on this screen after taking its picture (open a dialog, say).
     virtual void tourVisit() { }
+    // Called by the launcher just before it opens this screen as one of its services.
+    virtual void openedAsService() { }
 
 protected:
     // Hooks each screen states. A screen that cannot open calls endScreen() from initialise().
@@ -88,7 +91,7 @@ private:
 
     ScreenEnvironment& m_environment;
     DeviceWindow& m_window;
-    int m_menuBarId;
+    MenuBarId m_menuBarId;
     QString m_name;
     SoftKeyBar* m_softKeys = nullptr;
     bool m_running = false;

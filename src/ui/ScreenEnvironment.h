@@ -3,12 +3,14 @@
 
 class DeviceClock;
 class DevicePaths;
+class MessageBox;
 class MessageSink;
 class ObjectStore;
 class SettingsHive;
 
-// What every screen is given: the device's clock and files, the two state stores and the way to
-// tell the user something. Passed by reference; the application owns them.
+// What every screen is given: the device's clock and files, the two state stores, and the ways to
+// tell the user something. Passed by reference; the application (or a test) owns them, so screens and
+// their timers never reach for globals and tests drive the clock by hand.
 struct ScreenEnvironment
 {
     const DeviceClock& clock;
@@ -16,4 +18,5 @@ struct ScreenEnvironment
     SettingsHive& settings;
     ObjectStore& objects;
     MessageSink& messages;
+    MessageBox& boxes;
 };

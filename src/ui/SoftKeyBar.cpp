@@ -2,12 +2,13 @@
 #include "ui/SoftKeyBar.h"
 
 #include "ui/Painting.h"
+#include "ui/WideString.h"
 
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
 
-SoftKeyBar::SoftKeyBar(const MenuBarSpec& layout, QWidget* parent)
+SoftKeyBar::SoftKeyBar(const MenuBarLayout& layout, QWidget* parent)
     : QWidget(parent)
 {
     setObjectName(QStringLiteral("softKeyBar"));
@@ -17,7 +18,7 @@ SoftKeyBar::SoftKeyBar(const MenuBarSpec& layout, QWidget* parent)
         setUpKey(1, *layout.right);
 }
 
-void SoftKeyBar::setUpKey(int index, const SoftKeySpec& layout)
+void SoftKeyBar::setUpKey(int index, const SoftKeyLayout& layout)
 {
     Key& key = m_keys[static_cast<std::size_t>(index)];
     key.present = true;
@@ -28,13 +29,12 @@ void SoftKeyBar::setUpKey(int index, const SoftKeySpec& layout)
         return;
     key.menu = new QMenu(this);
     key.menu->setObjectName(QStringLiteral("softKeyMenu"));
-    for (const MenuItemSpec& item : layout.popup) {
+    for (const MenuItem& item : layout.popup) {
         if (item.command == 0) {
             key.menu->addSeparator();
             continue;
         }
-        QAction* action
-            = key.menu->addAction(QString::fromWCharArray(item.text.data(), static_cast<qsizetype>(item.text.size())));
+        QAction* action = key.menu->addAction(toQString(item.text));
         action->setData(item.command);
         connect(action, &QAction::triggered, this, [this, command = item.command] { emit commandTriggered(command); });
     }

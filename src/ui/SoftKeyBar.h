@@ -19,7 +19,7 @@ class SoftKeyBar final : public QWidget
 public:
     static constexpr int BarHeight = 26;
 
-    explicit SoftKeyBar(const MenuBarSpec& layout, QWidget* parent = nullptr);
+    explicit SoftKeyBar(const MenuBarLayout& layout, QWidget* parent = nullptr);
 
     void pressLeft() { press(0); }
     void pressRight() { press(1); }
@@ -56,7 +56,7 @@ private:
         QMenu* menu = nullptr;
     };
 
-    void setUpKey(int index, const SoftKeySpec& layout);
+    void setUpKey(int index, const SoftKeyLayout& layout);
     void press(int index);
     QRect keyRect(int index) const;
     QAction* findItem(int command) const;

@@ -23,7 +23,7 @@ protected:
     CommandResult run(
         const std::string& command, const std::vector<std::string>& args, const char* now = "2026-07-13 09:05:00")
     {
-        StartOptions options;
+        DeviceOptions options;
         options.stateDir = state.path();
         options.deviceRoot = device.path();
         options.now = SystemDeviceClock::parseLocalTime(now);
@@ -87,7 +87,7 @@ TEST_F(CityCommands, UnknownAndAmbiguousCitiesAreUsageErrors)
     // Two cities of the same name in two countries.
     TempDir twins;
     twins.write("cities.lst", "h\n2\nx;Twin;Alpha;0;0;0;0;0;0;0;0\nx;Twin;Beta;0;0;0;0;0;0;0;0\n");
-    StartOptions options;
+    DeviceOptions options;
     options.stateDir = twins.path() / "state";
     options.deviceRoot = twins.path();
     const CommandResult ambiguous = CommandResult::of("city", {"twin"}, options);

@@ -37,20 +37,18 @@ protected:
         device.write("currs.lst", Currencies);
     }
 
-    StartOptions options(const std::string& command, const std::vector<std::string>& args) const
+    DeviceOptions options() const
     {
-        StartOptions o;
+        DeviceOptions o;
         o.stateDir = state.path();
         o.deviceRoot = device.path();
         o.now = SystemDeviceClock::parseLocalTime("2024-05-20 10:00:00");
-        o.command = command;
-        o.commandArgs = args;
         return o;
     }
 
     CommandResult run(const std::string& command, const std::vector<std::string>& args) const
     {
-        return CommandResult::of(command, args, options(command, args));
+        return CommandResult::of(command, args, options());
     }
 
     void setPositions(std::uint32_t first, std::uint32_t second, std::uint32_t third) const
@@ -97,7 +95,7 @@ TEST_F(CurrencyCommands, CurrencyDefaultsToTheConvertersThreeCurrencies)
     // With nothing saved, the shipped list's euro, dollar and pound; the defaults are written as the screen
     // writes them.
     TempDir fresh;
-    StartOptions shipped;
+    DeviceOptions shipped;
     shipped.stateDir = fresh.path();
     shipped.deviceRoot = WANDERKIT_SHIPPED_DEVICE_ROOT;
     const CommandResult r = CommandResult::of("currency", {"1", "usd"}, shipped);
@@ -159,7 +157,7 @@ TEST_F(CurrencyCommands, ImportRewritesTheListedRatesAndTheStamp)
     // "-" reads standard input.
     std::istringstream in(EcbFile("2024-05-20", {{"USD", "1.0"}}));
     std::ostringstream out, err;
-    EXPECT_EQ(RunRatesCommandWithInput(options("rates", {"import", "-"}), in, out, err), 0);
+    EXPECT_EQ(RunRatesCommandWithInput({options(), {"import", "-"}}, in, out, err), 0);
     EXPECT_EQ(out.str(), "Rates of 20/5/2024: 2 currencies updated, 2 keep their rates\n");
     EXPECT_TRUE(run("rates", {})
                     .out.ends_with("EUR\tEuro\t1\nJPY\tJapanese Yen\t0.006646153846153847\nUSD\tUS "

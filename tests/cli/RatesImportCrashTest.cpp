@@ -45,25 +45,24 @@ std::string ratesFile()
     return EcbFile("2024-05-17", rates);
 }
 
-StartOptions importOptions(
+CommandRequest importRequest(
     const std::filesystem::path& state, const std::filesystem::path& device, const std::filesystem::path& file)
 {
-    StartOptions options;
-    options.stateDir = state;
-    options.deviceRoot = device;
-    options.now = SystemDeviceClock::parseLocalTime("2024-05-20 10:00:00");
-    options.command = "rates";
-    options.commandArgs = {"import", file.string()};
-    return options;
+    CommandRequest request;
+    request.device.stateDir = state;
+    request.device.deviceRoot = device;
+    request.device.now = SystemDeviceClock::parseLocalTime("2024-05-20 10:00:00");
+    request.args = {"import", file.string()};
+    return request;
 }
 
 // A process that runs `wanderkit rates import` on `state`, as the program's command would.
-pid_t startImport(const StartOptions& options)
+pid_t startImport(const CommandRequest& request)
 {
     const pid_t child = fork();
     if (child == 0) {
         std::ostringstream out, err;
-        _exit(RunCommand(options, out, err));
+        _exit(RunCommand("rates", request, out, err));
     }
     return child;
 }
@@ -98,9 +97,7 @@ TEST(RatesImportCrash, AKilledImportLeavesOldOrNewRatesNeverAMix)
     const auto file = work.write("eurofxref-daily.xml", ratesFile());
     // A filled state, copied for every run.
     const auto seed = work.path() / "seed";
-    StartOptions fill = importOptions(seed, device.path(), file);
-    fill.commandArgs = {};
-    ASSERT_EQ(CommandResult::of("rates", {}, fill).code, 0);
+    ASSERT_EQ(CommandResult::of("rates", {}, importRequest(seed, device.path(), file).device).code, 0);
 
     const auto fresh = [&](const std::string& name) {
         const auto state = work.path() / name;
@@ -110,7 +107,7 @@ TEST(RatesImportCrash, AKilledImportLeavesOldOrNewRatesNeverAMix)
     const auto timed = fresh("timing");
     const auto started = std::chrono::steady_clock::now();
     int status = 0;
-    waitpid(startImport(importOptions(timed, device.path(), file)), &status, 0);
+    waitpid(startImport(importRequest(timed, device.path(), file)), &status, 0);
     const auto duration = std::chrono::steady_clock::now() - started;
     ASSERT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
     ASSERT_EQ(outcome(timed), std::make_pair(std::string("0.5"), true));
@@ -123,7 +120,7 @@ TEST(RatesImportCrash, AKilledImportLeavesOldOrNewRatesNeverAMix)
     for (int run = 0; run < 24; ++run) {
         SCOPED_TRACE(run);
         const auto state = fresh("run" + std::to_string(run));
-        const pid_t child = startImport(importOptions(state, device.path(), file));
+        const pid_t child = startImport(importRequest(state, device.path(), file));
         std::this_thread::sleep_for(std::chrono::microseconds(moment(random)));
         kill(child, SIGKILL);
         waitpid(child, &status, 0);

@@ -3,11 +3,10 @@
 
 #include <sstream>
 
-CommandResult CommandResult::of(const std::string& command, const std::vector<std::string>& args, StartOptions options)
+CommandResult CommandResult::of(
+    const std::string& command, const std::vector<std::string>& args, const DeviceOptions& device)
 {
-    options.command = command;
-    options.commandArgs = args;
     std::ostringstream out, err;
-    const int code = RunCommand(options, out, err);
+    const int code = RunCommand(command, {device, args}, out, err);
     return {code, out.str(), err.str()};
 }

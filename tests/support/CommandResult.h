@@ -13,7 +13,7 @@ struct CommandResult
     std::string out;
     std::string err;
 
-    // Runs `command` with `args` and the rest of `options`.
+    // Runs `command` with `args` on the device `device`.
     static CommandResult of(
-        const std::string& command, const std::vector<std::string>& args, StartOptions options = {});
+        const std::string& command, const std::vector<std::string>& args, const DeviceOptions& device = {});
 };

@@ -8,6 +8,7 @@
 #include "ui/Commands.h"
 #include "ui/SoftKeyBar.h"
 #include "ui/Spinner.h"
+#include "ui/WideString.h"
 
 #include <QTest>
 
@@ -25,7 +26,7 @@ QStringList texts(std::span<const int> ids)
 {
     QStringList result;
     for (const int id : ids)
-        result << ScreenTestBench::fromWide(StringTable::Load(id));
+        result << toQString(StringTable::Load(id));
     return result;
 }
 
@@ -35,14 +36,14 @@ std::pair<QString, QStringList> table(int wearer, int garment)
     const ClothingSizes::Table* found = ClothingSizes::Find(wearer, garment);
     QStringList rows;
     for (const std::wstring_view row : found->rows)
-        rows << ScreenTestBench::fromWide(row);
-    return {ScreenTestBench::fromWide(StringTable::Load(found->titleId)), rows};
+        rows << toQString(row);
+    return {toQString(StringTable::Load(found->titleId)), rows};
 }
 
 // Stores "who" and "cloth"; nothing stored for an empty value.
 void store(ScreenTestBench& bench, std::optional<std::uint32_t> who, std::optional<std::uint32_t> cloth)
 {
-    RegistrySettings settings(*bench.settings);
+    RegistrySettings settings(bench.settings);
     if (who)
         WriteSetting(settings, Settings::ClothesWho, *who);
     if (cloth)
@@ -53,7 +54,7 @@ constexpr std::uint32_t NotStored = 0xFFFFFFFFu;
 
 std::uint32_t stored(ScreenTestBench& bench, const DwordSetting& setting)
 {
-    RegistrySettings settings(*bench.settings);
+    RegistrySettings settings(bench.settings);
     const std::uint32_t value = settings.GetDWORD(setting.subkey, setting.name);
     return settings.Status() == RegistrySettings::Read ? value : NotStored;
 }

@@ -5,6 +5,7 @@
 #include "reference/DialingCodes.h"
 #include "ui/ReportList.h"
 #include "ui/Spinner.h"
+#include "ui/WideString.h"
 
 #include <QTest>
 
@@ -34,7 +35,7 @@ QStringList row(const ReportList& list, int index)
 
 QStringList row(std::wstring_view a, std::wstring_view b, std::wstring_view c)
 {
-    return {ScreenTestBench::fromWide(a), ScreenTestBench::fromWide(b), ScreenTestBench::fromWide(c)};
+    return {toQString(a), toQString(b), toQString(c)};
 }
 
 QList<int> columnWidths(const ReportList& list)

@@ -41,13 +41,13 @@ private slots:
             QCOMPARE(launcher.selection(), 7);
             bench.press(Qt::Key_Return); // "Todo List"
             QCOMPARE(bench.window.topScreen(), &launcher);
-            QVERIFY(bench.boxes.empty());
+            QVERIFY(bench.boxes.shown.empty());
             QVERIFY(!launcher.serviceScreen(7));
             // Any other key reaching the launcher itself shows "e".
             QTest::keyClick(&launcher, Qt::Key_A);
-            QCOMPARE(bench.boxes.size(), std::size_t(1));
-            QCOMPARE(bench.boxes[0].text, QStringLiteral("e"));
-            QCOMPARE(bench.boxes[0].caption, QString());
+            QCOMPARE(bench.boxes.shown.size(), std::size_t(1));
+            QCOMPARE(bench.boxes.shown[0].text, QStringLiteral("e"));
+            QCOMPARE(bench.boxes.shown[0].caption, QString());
         });
     }
 
@@ -146,7 +146,7 @@ private slots:
             QVERIFY(exitEnded);
             QVERIFY(!screen->isRunning() && !launcher.isRunning());
             if (service == 5) { // the clothing screen saved the wearer chosen before "Exit"
-                RegistrySettings settings(*bench.settings);
+                RegistrySettings settings(bench.settings);
                 QCOMPARE(ReadSetting(settings, Settings::ClothesWho), 1u);
             }
         }
@@ -178,10 +178,10 @@ private slots:
         // A filled store is not loaded again, but a missing currency file is still reported.
         std::filesystem::remove(bench.root.path() / "currs.lst");
         QCOMPARE(start(), std::vector<std::wstring> {L"Wanderkit: Initial Currencies File not found!"});
-        CityCatalogue cities(*bench.objects, bench.paths, bench.messages);
+        CityCatalogue cities(bench.objects, bench.paths, bench.messages);
         cities.Load();
         QCOMPARE(cities.CityName(1), std::wstring(L"Paris"));
-        CurrencyStore currencies(*bench.objects);
+        CurrencyStore currencies(bench.objects);
         currencies.Load();
         QCOMPARE(currencies.RecordCount(), 2);
     }
@@ -189,7 +189,7 @@ private slots:
     void leavingForgetsTheTypedAmounts()
     {
         ScreenTestBench bench;
-        RegistrySettings registry(*bench.settings);
+        RegistrySettings registry(bench.settings);
         registry.SetString(L"Wanderkit\\currencies", L"curval", L"12.5");
         registry.SetString(L"Wanderkit\\measurs", L"convval", L"3");
         ServicesApp launcher(bench.environment, bench.window);

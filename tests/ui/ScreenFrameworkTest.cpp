@@ -16,7 +16,7 @@ namespace {
 class ProbeScreen final : public Screen
 {
 public:
-    ProbeScreen(ScreenEnvironment& environment, DeviceWindow& window, int menuBar, const QString& name)
+    ProbeScreen(ScreenEnvironment& environment, DeviceWindow& window, MenuBarId menuBar, const QString& name)
         : Screen(environment, window, menuBar, name)
     { }
 
@@ -56,7 +56,7 @@ private slots:
     void servicesEndsTheScreenAndRunsItsDestroyWorkOnce()
     {
         ScreenTestBench bench;
-        ProbeScreen screen(bench.environment, bench.window, 101, QStringLiteral("probe"));
+        ProbeScreen screen(bench.environment, bench.window, MenuBarId::WorldClocks, QStringLiteral("probe"));
         for (int visit = 1; visit <= 3; ++visit) {
             const int result = bench.run(screen, [&] { bench.window.topSoftKeys()->pressLeft(); });
             QCOMPARE(result, 0);
@@ -70,9 +70,9 @@ private slots:
     void exitFromANestedDialogUnwindsEveryRunInnermostFirst()
     {
         ScreenTestBench bench;
-        ProbeScreen outer(bench.environment, bench.window, 107, QStringLiteral("outer"));
-        ProbeScreen middle(bench.environment, bench.window, 101, QStringLiteral("middle"));
-        ProbeScreen inner(bench.environment, bench.window, 112, QStringLiteral("inner"));
+        ProbeScreen outer(bench.environment, bench.window, MenuBarId::Launcher, QStringLiteral("outer"));
+        ProbeScreen middle(bench.environment, bench.window, MenuBarId::WorldClocks, QStringLiteral("middle"));
+        ProbeScreen inner(bench.environment, bench.window, MenuBarId::Converter, QStringLiteral("inner"));
         QStringList order;
         outer.onDestroy = [&] { order << QStringLiteral("outer"); };
         middle.onDestroy = [&] { order << QStringLiteral("middle"); };
@@ -97,7 +97,7 @@ private slots:
     void softKeysAndDeviceKeysGreyAndCheck()
     {
         ScreenTestBench bench;
-        ProbeScreen screen(bench.environment, bench.window, 101, QStringLiteral("probe"));
+        ProbeScreen screen(bench.environment, bench.window, MenuBarId::WorldClocks, QStringLiteral("probe"));
         bench.run(screen, [&] {
             SoftKeyBar* keys = screen.softKeys();
             QVERIFY(!keys->isItemChecked(Commands::TwelveHourClocks));
@@ -115,7 +115,7 @@ private slots:
         QCOMPARE(screen.commands, (QList<int> {Commands::Ok, Commands::Services}));
 
         // F2 presses a right key that is a plain key ("Add"), not a menu.
-        ProbeScreen dialog(bench.environment, bench.window, 111, QStringLiteral("dialog"));
+        ProbeScreen dialog(bench.environment, bench.window, MenuBarId::Favourites, QStringLiteral("dialog"));
         bench.run(dialog, [&] {
             QTest::keyClick(&dialog, Qt::Key_F2);
             QTest::keyClick(&dialog, Qt::Key_F1); // "Done"
@@ -126,17 +126,17 @@ private slots:
     void everyMenuBarHasItsKeysAndPopups()
     {
         // The popup's items are separated by "|", a separator is empty.
-        using Case = std::tuple<int, const char*, bool, const char*, const char*>;
+        using Case = std::tuple<MenuBarId, const char*, bool, const char*, const char*>;
         const Case cases[] = {
-            {101, "Services", true, "Menu", "Twelve Hours Clocks||Exit"},
-            {106, "Done", true, "", ""},
-            {107, "Services", false, "Menu", "Exit"},
-            {111, "Done", true, "Add", ""},
-            {112, "Services", true, "Menu", "Undo|Clear||Exit"},
+            {MenuBarId::WorldClocks, "Services", true, "Menu", "Twelve Hours Clocks||Exit"},
+            {MenuBarId::Select, "Done", true, "", ""},
+            {MenuBarId::Launcher, "Services", false, "Menu", "Exit"},
+            {MenuBarId::Favourites, "Done", true, "Add", ""},
+            {MenuBarId::Converter, "Services", true, "Menu", "Undo|Clear||Exit"},
         };
         for (const auto& [id, left, leftEnabled, right, popup] : cases) {
-            const MenuBarSpec* barLayout = MenuBars::find(id);
-            QVERIFY2(barLayout, qPrintable(QString::number(id)));
+            const MenuBarLayout* barLayout = MenuBars::find(id);
+            QVERIFY2(barLayout, qPrintable(QString::number(static_cast<int>(id))));
             SoftKeyBar bar(*barLayout);
             QCOMPARE(bar.keyText(0), QString::fromUtf8(left));
             QCOMPARE(bar.keyText(1), QString::fromUtf8(right));
@@ -149,14 +149,14 @@ private slots:
             const QString expected = QString::fromUtf8(popup);
             QCOMPARE(items, expected.isEmpty() ? QStringList() : expected.split(QLatin1Char('|')));
         }
-        QVERIFY(!MenuBars::find(100));
+        QVERIFY(!MenuBars::find(static_cast<MenuBarId>(100)));
     }
 
     void rotationLaysEveryRunningScreenOutAgain()
     {
         ScreenTestBench bench;
-        ProbeScreen outer(bench.environment, bench.window, 107, QStringLiteral("outer"));
-        ProbeScreen inner(bench.environment, bench.window, 106, QStringLiteral("inner"));
+        ProbeScreen outer(bench.environment, bench.window, MenuBarId::Launcher, QStringLiteral("outer"));
+        ProbeScreen inner(bench.environment, bench.window, MenuBarId::Select, QStringLiteral("inner"));
         bench.visit(outer, [&] {
             bench.visit(inner, [&] {
                 QTest::keyClick(&inner, Qt::Key_R, Qt::ControlModifier);
@@ -171,7 +171,7 @@ private slots:
     void theGradientShowsWithoutAPictureAndAPictureIsFoundByItsJoinedName()
     {
         ScreenTestBench bench;
-        ProbeScreen screen(bench.environment, bench.window, 112, QStringLiteral("probe"));
+        ProbeScreen screen(bench.environment, bench.window, MenuBarId::Converter, QStringLiteral("probe"));
         screen.setBackgroundPicture(L"back.jpg"); // not in the device root yet
         QImage image;
         bench.visit(screen, [&] { image = bench.render(); });
@@ -192,7 +192,7 @@ private slots:
     void timersTickOnlyWhileTheScreenRuns()
     {
         ScreenTestBench bench;
-        ProbeScreen screen(bench.environment, bench.window, 101, QStringLiteral("probe"));
+        ProbeScreen screen(bench.environment, bench.window, MenuBarId::WorldClocks, QStringLiteral("probe"));
         bench.visit(screen, [&] {
             screen.startScreenTimer(1, 10);
             QTRY_VERIFY(screen.ticks >= 2);

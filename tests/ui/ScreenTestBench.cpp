@@ -9,23 +9,17 @@
 #include <memory>
 
 ScreenTestBench::ScreenTestBench(QSize workArea)
-    : paths(root.path())
-    , settings(SettingsHive::openInMemory())
-    , objects(ObjectStore::openInMemory())
-    , environment {clock, paths, *settings, *objects, messages}
+    : device(DeviceSession::openInMemory(root.path(), clock))
+    , paths(device->paths())
+    , settings(device->settings())
+    , objects(device->objects())
+    , environment {clock, paths, settings, objects, messages, boxes}
     , window(workArea)
 {
-    MessageBox::setInterceptor([this](const MessageBox::Request& request) {
-        boxes.push_back(request);
-        return boxAnswer;
-    });
     window.show();
 }
 
-ScreenTestBench::~ScreenTestBench()
-{
-    MessageBox::setInterceptor({});
-}
+ScreenTestBench::~ScreenTestBench() = default;
 
 int ScreenTestBench::run(Screen& screen, const std::function<void()>& drive)
 {
@@ -63,11 +57,6 @@ void ScreenTestBench::whenShown(Screen& screen, const std::function<void()>& dri
 void ScreenTestBench::press(Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
     QTest::keyClick(window.focusWidget(), key, modifiers);
-}
-
-QString ScreenTestBench::fromWide(std::wstring_view text)
-{
-    return QString::fromWCharArray(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 QImage ScreenTestBench::render()

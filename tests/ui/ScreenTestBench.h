@@ -2,13 +2,11 @@
 #pragma once
 
 #include "FakeDeviceClock.h"
+#include "RecordingMessageBox.h"
 #include "RecordingMessageSink.h"
 #include "TempDir.h"
-#include "device/DevicePaths.h"
-#include "settings/SettingsHive.h"
-#include "store/ObjectStore.h"
+#include "session/DeviceSession.h"
 #include "ui/DeviceWindow.h"
-#include "ui/MessageBox.h"
 #include "ui/ScreenEnvironment.h"
 
 #include <functional>
@@ -35,16 +33,15 @@ public:
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     // The whole device window, rendered.
     QImage render();
-    static QString fromWide(std::wstring_view text);
 
     TempDir root;
     FakeDeviceClock clock;
-    DevicePaths paths;
-    std::unique_ptr<SettingsHive> settings;
-    std::unique_ptr<ObjectStore> objects;
+    std::unique_ptr<DeviceSession> device;
+    const DevicePaths& paths;
+    SettingsHive& settings;
+    ObjectStore& objects;
     RecordingMessageSink messages;
+    RecordingMessageBox boxes;
     ScreenEnvironment environment;
     DeviceWindow window;
-    std::vector<MessageBox::Request> boxes; // message boxes shown, answered with `boxAnswer`
-    QMessageBox::StandardButton boxAnswer = QMessageBox::Ok;
 };

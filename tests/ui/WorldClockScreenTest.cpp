@@ -42,10 +42,10 @@ struct WorldClockBench
     }
 
     ScreenTestBench bench;
-    CityCatalogue cities {*bench.objects, bench.paths, bench.messages};
-    WeatherFavourites favourites {*bench.objects, bench.paths, bench.messages};
+    CityCatalogue cities {bench.objects, bench.paths, bench.messages};
+    WeatherFavourites favourites {bench.objects, bench.paths, bench.messages};
     WorldClockScreen screen {bench.environment, bench.window, cities, favourites};
-    RegistrySettings registry {*bench.settings};
+    RegistrySettings registry {bench.settings};
 };
 
 // Runs a city dialog starting at `selection` and returns its panel lines as shown.
@@ -189,8 +189,8 @@ private slots:
             t.bench.press(Qt::Key_Return);
             QCOMPARE(t.favourites.count(), 2);
             QVERIFY(t.favourites.findByName(L"C0684") != 0);
-            QCOMPARE(t.bench.boxes.size(), std::size_t(1));
-            QCOMPARE(t.bench.boxes[0].text, QStringLiteral("This city has been added to the Favorites List."));
+            QCOMPARE(t.bench.boxes.shown.size(), std::size_t(1));
+            QCOMPARE(t.bench.boxes.shown[0].text, QStringLiteral("This city has been added to the Favorites List."));
             // A favourite already: nothing more is added.
             t.bench.press(Qt::Key_Return);
             QCOMPARE(t.favourites.count(), 2);
@@ -256,7 +256,7 @@ private slots:
         ScreenTestBench bench;
         // The count promises a third currency the file does not hold: it is stored empty.
         bench.root.write("currs.lst", "3\nEUR_Euro_1.1#USD_US Dollar_1#");
-        CurrencyStore store(*bench.objects);
+        CurrencyStore store(bench.objects);
         store.SetInitialList(ReadInitialCurrencies(bench.paths, bench.messages));
         store.Load();
         QCOMPARE(store.RecordCount(), 3);

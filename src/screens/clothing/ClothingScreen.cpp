@@ -4,6 +4,7 @@
 #include "settings/SettingsTable.h"
 #include "ui/Painting.h"
 #include "ui/Spinner.h"
+#include "ui/WideString.h"
 
 #include <QPainter>
 
@@ -11,7 +12,6 @@
 
 namespace {
 
-constexpr int ClothingMenuBar = 112;
 constexpr int ScreenTitle = 40045; // "Clothing sizes"
 
 // Layout, b being the title band's height: the wearer and garment spinners one above the other at
@@ -25,11 +25,6 @@ constexpr int TableTitleTop = Band + 70;
 constexpr int FirstRowTop = Band + 100;
 constexpr int RowPitch = 28;
 constexpr int TextLeft = 5;
-
-QString fromWide(std::wstring_view text)
-{
-    return QString::fromWCharArray(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 // A stored list position, or 0 when it is not one of `count` positions.
 int positionOrFirst(std::uint32_t stored, std::size_t count)
@@ -46,7 +41,7 @@ void drawTextAt(QPainter& painter, const QFont& font, int left, int top, const Q
 } // namespace
 
 ClothingScreen::ClothingScreen(ScreenEnvironment& environment, DeviceWindow& window)
-    : Screen(environment, window, ClothingMenuBar, QStringLiteral("clothing"))
+    : Screen(environment, window, MenuBarId::Converter, QStringLiteral("clothing"))
     , m_settings(environment.settings)
     , m_wearerSpinner(new Spinner(this))
     , m_garmentSpinner(new Spinner(this))
@@ -79,7 +74,7 @@ QStringList ClothingScreen::shownRows() const
     QStringList rows;
     if (m_table) {
         for (const std::wstring_view row : m_table->rows)
-            rows << fromWide(ClothingSizes::Shifted(row, m_shift));
+            rows << toQString(ClothingSizes::Shifted(row, m_shift));
     }
     return rows;
 }

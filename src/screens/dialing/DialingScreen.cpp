@@ -8,12 +8,12 @@
 #include "ui/ReportList.h"
 #include "ui/SoftKeyBar.h"
 #include "ui/Spinner.h"
+#include "ui/WideString.h"
 
 #include <QPainter>
 
 namespace {
 
-constexpr int DialingMenuBar = 107;
 constexpr int ScreenTitle = 40046; // "Dialing codes"
 constexpr int InternationalItem = 40082;
 constexpr int AreaCodesItem = 40078;
@@ -31,11 +31,6 @@ constexpr int ListTop = Band + 36;
 // The chooser's longest item, "International Dialing Codes", fits its box at this height.
 constexpr int ListFontHeight = 15;
 
-QString fromWide(std::wstring_view text)
-{
-    return QString::fromWCharArray(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 ReportList* makeList(QWidget* parent, const QString& name, std::vector<ReportList::Column> columns)
 {
     auto* list = new ReportList(parent);
@@ -47,7 +42,7 @@ ReportList* makeList(QWidget* parent, const QString& name, std::vector<ReportLis
 } // namespace
 
 DialingScreen::DialingScreen(ScreenEnvironment& environment, DeviceWindow& window)
-    : Screen(environment, window, DialingMenuBar, QStringLiteral("dialing"))
+    : Screen(environment, window, MenuBarId::Launcher, QStringLiteral("dialing"))
     , m_chooser(new Spinner(this))
 {
     setBackgroundPicture(L"bconv.jpg");
@@ -94,11 +89,11 @@ void DialingScreen::fillLists()
     int row = 0;
     for (const DialingCodes::Country& country : DialingCodes::International())
         m_international->insertRow(
-            row++, {fromWide(country.country), fromWide(DialingCodes::ShownCode(country)), fromWide(country.gmt)});
+            row++, {toQString(country.country), toQString(DialingCodes::ShownCode(country)), toQString(country.gmt)});
     m_areaCodes->clearRows();
     row = 0;
     for (const DialingCodes::AreaCode& area : DialingCodes::UsAreaCodes())
-        m_areaCodes->insertRow(row++, {fromWide(area.city), fromWide(area.state), fromWide(area.code)});
+        m_areaCodes->insertRow(row++, {toQString(area.city), toQString(area.state), toQString(area.code)});
 }
 
 void DialingScreen::showChosenList()

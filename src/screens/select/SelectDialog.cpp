@@ -2,23 +2,18 @@
 #include "screens/select/SelectDialog.h"
 
 #include "device/DeviceClock.h"
-#include "store/HomeCity.h"
+#include "session/HomeCity.h"
 #include "time/CityInformation.h"
 #include "ui/Painting.h"
 #include "ui/Spinner.h"
+#include "ui/WideString.h"
 
 #include <QPainter>
 
 namespace {
 
-constexpr int SelectMenuBar = 106;
 constexpr int TitleHeight = 25; // T
 constexpr int SpinnerSize = 25; // S
-
-QString fromWide(const std::wstring& text)
-{
-    return QString::fromStdWString(text);
-}
 
 // The panel font, made smaller for a line that would not fit the screen's width.
 QFont fittedFont(QFont font, const QString& text, int width)
@@ -31,7 +26,7 @@ QFont fittedFont(QFont font, const QString& text, int width)
 } // namespace
 
 SelectDialog::SelectDialog(ScreenEnvironment& environment, DeviceWindow& window)
-    : Screen(environment, window, SelectMenuBar, QStringLiteral("select"))
+    : Screen(environment, window, MenuBarId::Select, QStringLiteral("select"))
     , m_cities(environment.objects, environment.paths, environment.messages)
     , m_currencies(environment.objects)
     , m_settings(environment.settings)
@@ -60,7 +55,7 @@ void SelectDialog::fillCities()
     const int count = m_cities.Count();
     names.reserve(count);
     for (int i = 0; i < count; ++i)
-        names << fromWide(m_cities.CityName(static_cast<std::uint32_t>(i)));
+        names << toQString(m_cities.CityName(static_cast<std::uint32_t>(i)));
     m_list->setItems(names);
 }
 
@@ -71,7 +66,7 @@ void SelectDialog::fillCurrencies()
     const int count = m_currencies.RecordCount();
     for (int i = 0; i < count; ++i) {
         const auto position = static_cast<std::uint32_t>(i);
-        const QString item = fromWide(m_currencies.Code(position) + L" - " + m_currencies.Name(position));
+        const QString item = toQString(m_currencies.Code(position) + L" - " + m_currencies.Name(position));
         // A currency whose code and name are both empty is left out of the list.
         if (item != QLatin1String(" - "))
             items << item;
@@ -99,7 +94,7 @@ void SelectDialog::computePanel()
     const DeviceOffset device = HomeCity::deviceOffset(m_cities, HomeCity::position(m_settings), clock);
     const CityRecord city = m_cities.Record(static_cast<std::uint32_t>(index));
     for (const std::wstring& line : CityInformationLines(city, device, clock.localTime()))
-        m_panelLines << QString::fromStdWString(line);
+        m_panelLines << toQString(line);
 }
 
 void SelectDialog::layout(int width, int)

@@ -16,12 +16,12 @@
 #include "ui/Painting.h"
 #include "ui/SoftKeyBar.h"
 #include "ui/Spinner.h"
+#include "ui/WideString.h"
 
 #include <QPainter>
 
 namespace {
 
-constexpr int WorldClockMenuBar = 101;
 constexpr int TickTimer = 1;
 constexpr int TitleHeight = 25;
 const QColor TitleBand(0, 178, 235); // colour value 15446528
@@ -48,7 +48,7 @@ SystemTime handTime(const std::wstring& text, const SystemTime& now)
 
 WorldClockScreen::WorldClockScreen(
     ScreenEnvironment& environment, DeviceWindow& window, CityCatalogue& cities, WeatherFavourites& favourites)
-    : Screen(environment, window, WorldClockMenuBar, QStringLiteral("worldclock"))
+    : Screen(environment, window, MenuBarId::WorldClocks, QStringLiteral("worldclock"))
     , m_cities(cities)
     , m_favourites(favourites)
     , m_settings(environment.settings)
@@ -94,7 +94,7 @@ void WorldClockScreen::computeOffsets()
     for (std::size_t i = 0; i < SlotCount; ++i) {
         const CityRecord city = m_cities.Record(m_cityOf[i]);
         zones[i] = zoneTexts(city);
-        m_names[i] = QString::fromStdWString(city.name);
+        m_names[i] = toQString(city.name);
         m_standardOffsets[i] = Wtol(city.timeZone);
         m_favourite[i] = !city.name.empty() && m_favourites.findByName(city.name) != 0;
     }
@@ -146,9 +146,9 @@ ClockView WorldClockScreen::view(int slot) const
     const TwelveHourTime twelve = ToTwelveHour(time);
     ClockView view;
     view.name = m_names[index];
-    view.time = QString::fromStdWString(m_twelveHour ? twelve.time : time);
-    view.suffix = m_twelveHour ? QString::fromStdWString(twelve.suffix) : QString();
-    view.date = QString::fromStdWString(m_texts[index].date);
+    view.time = toQString(m_twelveHour ? twelve.time : time);
+    view.suffix = m_twelveHour ? toQString(twelve.suffix) : QString();
+    view.date = toQString(m_texts[index].date);
     view.daylightNow = m_slots[index].observes && m_slots[index].offset != m_standardOffsets[index];
     view.favourite = m_favourite[index];
     view.hands = m_handTimes[index];
@@ -308,8 +308,8 @@ void WorldClockScreen::showWeather(int slot)
     if (m_favourite[index])
         return;
     const bool added = addFavourite(m_cityOf[index]);
-    MessageBox::show(this, Painting::loadString(added ? 40041 : 40039), QStringLiteral("Wanderkit"), QMessageBox::Ok,
-        QMessageBox::Information);
+    environment().boxes.show(this, Painting::loadString(added ? 40041 : 40039), QStringLiteral("Wanderkit"),
+        QMessageBox::Ok, QMessageBox::Information);
     update();
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "store/SqliteTransaction.h"
+#include "sqlite/SqliteTransaction.h"
 
-#include "store/SqliteConnection.h"
+#include "sqlite/SqliteConnection.h"
 
 SqliteTransaction::SqliteTransaction(SqliteConnection& connection)
     : m_connection(connection)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "store/SqliteConnection.h"
+#include "sqlite/SqliteConnection.h"
 
-#include "store/SqliteTransaction.h"
+#include "sqlite/SqliteTransaction.h"
 
 #include <sqlite3.h>
 

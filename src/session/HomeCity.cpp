@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "store/HomeCity.h"
+#include "session/HomeCity.h"
 
 #include "device/DeviceClock.h"
 #include "settings/RegistrySettings.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "store/SqliteQuery.h"
+#include "sqlite/SqliteQuery.h"
 
 #include <sqlite3.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "store/SqliteConnection.h"
+#include "sqlite/SqliteConnection.h"
 
 #include <ctime>
 #include <filesystem>

@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "time/SystemTime.h"
+#include "session/DeviceOptions.h"
 
 #include <filesystem>
 #include <optional>
 #include <string>
 #include <vector>
 
-// What the command line asked for. Options may stand before or after a command; the words after
-// the command that are not options of the program belong to the command.
+// What the program's command line asked for: the window's options, the device's, and a text command.
+// Options may stand before or after a command; the words after the command that are not options of
+// the program belong to the command.
 struct StartOptions
 {
     bool help = false;
@@ -17,9 +18,7 @@ struct StartOptions
     int width = 240; // work area, logical pixels
     int height = 268;
     int scale = 2;
-    std::optional<std::filesystem::path> stateDir;
-    std::optional<std::filesystem::path> deviceRoot;
-    std::optional<SystemTime> now;
+    DeviceOptions device; // state folder, device root, --now
     std::optional<std::filesystem::path> tourDir;
     bool exitAfterFirstPaint = false;
     std::string command; // empty: start the program's window

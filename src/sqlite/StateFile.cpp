@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "store/StateFile.h"
+#include "sqlite/StateFile.h"
 
 #include "device/MessageSink.h"
 #include "text/WideText.h"

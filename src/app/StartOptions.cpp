@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "cli/StartOptions.h"
+#include "app/StartOptions.h"
 
+#include "cli/CommandRunner.h"
 #include "device/SystemDeviceClock.h"
 
 #include <charconv>
 #include <set>
 
 namespace {
-
-const std::set<std::string> Commands {"cities", "time", "city", "sizes", "dial", "currency", "rates"};
 
 bool parseInt(const std::string& text, int low, int high, int& value)
 {
@@ -43,14 +42,14 @@ bool applyValueOption(StartOptions& o, const std::string& name, const std::strin
         if (!parseInt(value, 1, 8, o.scale))
             return error = "--scale wants a whole number from 1 to 8", false;
     } else if (name == "--state-dir") {
-        o.stateDir = value;
+        o.device.stateDir = value;
     } else if (name == "--device-root") {
-        o.deviceRoot = value;
+        o.device.deviceRoot = value;
     } else if (name == "--tour") {
         o.tourDir = value;
     } else if (name == "--now") {
-        o.now = SystemDeviceClock::parseLocalTime(value.c_str());
-        if (!o.now)
+        o.device.now = SystemDeviceClock::parseLocalTime(value.c_str());
+        if (!o.device.now)
             return error = "--now wants a local time \"YYYY-MM-DD HH:MM:SS\"", false;
     }
     return true;
@@ -88,7 +87,7 @@ std::optional<StartOptions> StartOptions::parse(const std::vector<std::string>& 
             o.exitAfterFirstPaint = true;
         } else if (!o.command.empty()) {
             o.commandArgs.push_back(args[i]);
-        } else if (Commands.contains(arg)) {
+        } else if (IsCommand(arg)) {
             o.command = arg;
         } else {
             return error = arg.starts_with("-") ? "unknown option " + args[i] : "unknown command " + args[i],

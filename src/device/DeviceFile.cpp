@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "store/DeviceFile.h"
+#include "device/DeviceFile.h"
 
 #include <fstream>
 #include <iterator>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "store/SqliteQuery.h"
+#include "sqlite/SqliteQuery.h"
 
 #include <cstdint>
 #include <filesystem>

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/ServiceTable.h"
+
+#include "screens/clothing/ClothingScreen.h"
+#include "screens/dialing/DialingScreen.h"
+#include "screens/worldclock/WorldClockScreen.h"
+#include "ui/Icons.h"
+
+namespace {
+
+std::unique_ptr<Screen> worldClocks(ServiceContext& c)
+{
+    return std::make_unique<WorldClockScreen>(c.environment, c.window, c.cities, c.favourites);
+}
+
+std::unique_ptr<Screen> clothingSizes(ServiceContext& c)
+{
+    return std::make_unique<ClothingScreen>(c.environment, c.window);
+}
+
+std::unique_ptr<Screen> dialingCodes(ServiceContext& c)
+{
+    return std::make_unique<DialingScreen>(c.environment, c.window);
+}
+
+} // namespace
+
+const std::array<Service, ServiceCount>& Services()
+{
+    static const std::array<Service, ServiceCount> table {{
+        {40008, Icons::Service, worldClocks}, // "World Clocks"
+        {40009, Icons::Service, nullptr}, // "World Weather"
+        {40025, Icons::Service, nullptr}, // "World Map"
+        {40034, Icons::Service, nullptr}, // "Currency Converter"
+        {40044, Icons::Service, nullptr}, // "Measurements"
+        {40045, Icons::Service, clothingSizes}, // "Clothing sizes"
+        {40046, Icons::Service, dialingCodes}, // "Dialing codes"
+        {40047, Icons::Service, nullptr}, // "Todo List": listed and selectable, opens nothing
+    }};
+    return table;
+}

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <array>
+#include <memory>
+
+class CityCatalogue;
+class CurrencyStore;
+class DeviceWindow;
+class Screen;
+class WeatherFavourites;
+struct InitialCurrencyList;
+struct ScreenEnvironment;
+
+// What a service's screen is built from: the shared environment and the launcher's stores.
+struct ServiceContext
+{
+    ScreenEnvironment& environment;
+    DeviceWindow& window;
+    CityCatalogue& cities;
+    WeatherFavourites& favourites;
+    CurrencyStore& currencies;
+    const InitialCurrencyList& initialCurrencies;
+};
+
+// One entry of the launcher, in selection order: its label, its icon, and the screen it opens.
+struct Service
+{
+    int labelId; // string table id
+    int iconId;
+    std::unique_ptr<Screen> (*makeScreen)(ServiceContext& context); // nullptr: the entry opens nothing
+};
+
+inline constexpr int ServiceCount = 8;
+
+// The launcher's eight services. Adding a screen is one row here and the screen's own class.
+const std::array<Service, ServiceCount>& Services();
