@@ -8,6 +8,7 @@
 #include "ui/DeviceWindow.h"
 #include "ui/QtMessageBox.h"
 #include "ui/QtMessageSink.h"
+#include "ui/QtScreenTimers.h"
 #include "ui/ScreenEnvironment.h"
 
 #include <QTemporaryDir>
@@ -21,7 +22,7 @@ struct WorldClockRig
     WorldClockRig()
         : messages(boxes)
         , device(openDevice(state, messages))
-        , environment {device->clock(), device->paths(), device->settings(), device->objects(), messages, boxes}
+        , environment {device->clock(), device->paths(), device->settings(), device->objects(), messages, boxes, timers}
         , window(QSize(240, 268))
         , cities(device->objects(), device->paths(), messages)
         , favourites(device->objects(), device->paths(), messages)
@@ -58,6 +59,7 @@ struct WorldClockRig
     QtMessageBox boxes;
     QtMessageSink messages;
     std::unique_ptr<DeviceSession> device;
+    QtScreenTimers timers;
     ScreenEnvironment environment;
     DeviceWindow window;
     CityCatalogue cities;

@@ -8,6 +8,7 @@
 #include "ui/DeviceWindow.h"
 #include "ui/QtMessageBox.h"
 #include "ui/QtMessageSink.h"
+#include "ui/QtScreenTimers.h"
 #include "ui/ScreenEnvironment.h"
 
 #include <QApplication>
@@ -70,8 +71,9 @@ int GuiApplication::run(int& argc, char** argv)
 
     DeviceWindow window(QSize(m_options.width, m_options.height));
     messages.setParentWidget(&window);
+    QtScreenTimers timers;
     ScreenEnvironment environment {
-        session->clock(), session->paths(), session->settings(), session->objects(), messages, boxes};
+        session->clock(), session->paths(), session->settings(), session->objects(), messages, boxes, timers};
     ServicesApp launcher(environment, window);
 
     QObject::connect(&instance, &SingleInstance::raiseRequested, &window, [&window] {

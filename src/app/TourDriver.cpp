@@ -49,9 +49,18 @@ void TourDriver::nextService()
 
 void TourDriver::capture(const Screen& screen)
 {
-    const QString file = m_folder + QLatin1Char('/') + screen.screenName() + QStringLiteral(".png");
-    if (m_written.contains(file))
+    const QString base = m_folder + QLatin1Char('/') + screen.screenName();
+    if (m_written.contains(base + QStringLiteral(".png")))
         return;
+    save(base + QStringLiteral(".png"));
+    // The same screen turned on its side, so that a layout fault in either orientation shows.
+    m_window.rotate();
+    save(base + QStringLiteral("-landscape.png"));
+    m_window.rotate();
+}
+
+void TourDriver::save(const QString& file)
+{
     if (m_window.grab().save(file))
         m_written.append(file);
     else

@@ -10,7 +10,7 @@ class Screen;
 class ServicesApp;
 
 // Walks through every screen that exists, saving each as DIR/<screen name>.png (the whole device
-// window), then leaves the program by "Exit".
+// window) and, rotated, as DIR/<screen name>-landscape.png, then leaves the program by "Exit".
 class TourDriver final : public QObject
 {
     Q_OBJECT
@@ -25,6 +25,7 @@ public:
 private:
     void visit(Screen& screen);
     void capture(const Screen& screen);
+    void save(const QString& file);
     void nextService();
 
     DeviceWindow& m_window;

@@ -48,8 +48,9 @@ DaylightRule ParseDaylightRule(std::wstring_view text)
 DaylightPeriod DaylightPeriodOf(const DaylightRule& rule, int year)
 {
     DaylightPeriod period {Boundary(year, rule.startDay, rule.startHour), Boundary(year, rule.endDay, rule.endHour)};
+    // Only the year field moves: day and month stay as counted in this year, leap day included.
     if (period.end.month < period.start.month)
-        period.end = Boundary(year + 1, rule.endDay, rule.endHour);
+        period.end.year = static_cast<std::uint16_t>(year + 1);
     return period;
 }
 

@@ -139,6 +139,9 @@ bool DeviceWindow::handleDeviceKey(int key, Qt::KeyboardModifiers modifiers)
     case Qt::Key_F2:
         softKeys->pressRight();
         return true;
+    case Qt::Key_Escape:
+        topScreen()->backKey();
+        return true;
     case Qt::Key_Return:
     case Qt::Key_Enter:
         topScreen()->sendCommand(Commands::Ok);

@@ -11,7 +11,8 @@ class SoftKeyBar;
 
 // The device: a work area of W x H logical pixels with the soft-key bar below it. Screens run
 // modally on a stack inside the work area; runs nest, and "Exit" unwinds them all.
-// Keys: F1/F2 press the soft keys, Return/Enter is the action key, Ctrl+R rotates the work area.
+// Keys: F1/F2 press the soft keys, Return/Enter is the action key, Escape is the Back key, Ctrl+R rotates
+// the work area.
 class DeviceWindow final : public QWidget
 {
     Q_OBJECT

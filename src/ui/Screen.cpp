@@ -5,12 +5,13 @@
 #include "ui/Commands.h"
 #include "ui/DeviceWindow.h"
 #include "ui/Painting.h"
+#include "ui/ScreenTimers.h"
 #include "ui/Spinner.h"
 
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QPaintEvent>
 #include <QPainter>
-#include <QTimer>
 
 Screen::Screen(ScreenEnvironment& environment, DeviceWindow& window, MenuBarId menuBarId, QString name)
     : m_environment(environment)
@@ -25,12 +26,23 @@ Screen::Screen(ScreenEnvironment& environment, DeviceWindow& window, MenuBarId m
     hide();
 }
 
-Screen::~Screen() = default;
+Screen::~Screen()
+{
+    stopAllTimers();
+}
 
 void Screen::sendCommand(int command)
 {
     if (m_running && !m_ended)
         this->command(command);
+}
+
+void Screen::backKey()
+{
+    if (!m_running || m_ended || !m_backKeyTakenOver)
+        return;
+    if (auto* edit = qobject_cast<QLineEdit*>(focusWidget()); edit && isAncestorOf(edit) && !edit->isReadOnly())
+        edit->backspace();
 }
 
 int Screen::runModal(Screen& screen)
@@ -81,21 +93,24 @@ int Screen::workHeight() const
 
 void Screen::startScreenTimer(int id, int milliseconds)
 {
-    QTimer*& timer = m_timers[id];
-    if (!timer) {
-        timer = new QTimer(this);
-        connect(timer, &QTimer::timeout, this, [this, id] {
-            if (m_running && !m_ended)
-                timerTick(id);
-        });
-    }
-    timer->start(milliseconds);
+    m_timers.insert(id);
+    m_environment.timers.start(this, id, milliseconds, [this, id] {
+        if (m_running && !m_ended)
+            timerTick(id);
+    });
 }
 
 void Screen::stopScreenTimer(int id)
 {
-    if (const auto it = m_timers.find(id); it != m_timers.end())
-        it->second->stop();
+    m_timers.erase(id);
+    m_environment.timers.stop(this, id);
+}
+
+void Screen::stopAllTimers()
+{
+    for (const int id : m_timers)
+        m_environment.timers.stop(this, id);
+    m_timers.clear();
 }
 
 void Screen::endScreen(int result)
@@ -125,6 +140,7 @@ bool Screen::beginRun(SoftKeyBar& softKeys)
     m_softKeys = &softKeys;
     m_running = true;
     m_ended = false;
+    m_backKeyTakenOver = false;
     m_result = 0;
     m_picture = QImage();
     m_background = QPixmap();
@@ -140,8 +156,7 @@ bool Screen::beginRun(SoftKeyBar& softKeys)
 
 int Screen::finishRun()
 {
-    for (auto& [id, timer] : m_timers)
-        timer->stop();
+    stopAllTimers();
     destroyWork();
     m_running = false;
     m_softKeys = nullptr;

@@ -8,10 +8,9 @@
 #include <QPixmap>
 #include <QWidget>
 
-#include <map>
+#include <set>
 
 class DeviceWindow;
-class QTimer;
 class SoftKeyBar;
 class Spinner;
 
@@ -36,6 +35,9 @@ public:
 
     // Delivers a command, as the soft keys, their popups and the action key do.
     void sendCommand(int command);
+    // The Back key (Escape on a desktop keyboard): on a screen that has taken it over, it erases the
+    // character before the cursor in the focused edit box; elsewhere it does nothing.
+    void backKey();
     // Opens `screen` modally over this one and returns its result once it has ended.
     int runModal(Screen& screen);
     // Ends this screen's run with `result`; its destroy work follows once.
@@ -67,11 +69,14 @@ protected:
     // A one-shot or repeating timer by id; starting a running id restarts it.
     void startScreenTimer(int id, int milliseconds);
     void stopScreenTimer(int id);
+    void stopAllTimers();
     void exitProgram();
     // Reports the spinner's steps to spinnerDelta().
     void watchSpinner(Spinner& spinner);
     // The background picture, found beside the program by the joined-name rule; loaded by each run.
     void setBackgroundPicture(const wchar_t* fileName) { m_pictureName = fileName; }
+    // Screens with edit boxes call this while they initialise, so that the Back key edits.
+    void takeOverBackKey() { m_backKeyTakenOver = true; }
     // The area being repainted, for screens that skip what lies outside it.
     const QRect& dirtyRect() const { return m_dirty; }
 
@@ -96,10 +101,11 @@ private:
     SoftKeyBar* m_softKeys = nullptr;
     bool m_running = false;
     bool m_ended = false;
+    bool m_backKeyTakenOver = false;
     int m_result = 0;
     const wchar_t* m_pictureName = nullptr;
     QImage m_picture;
     QPixmap m_background;
     QRect m_dirty;
-    std::map<int, QTimer*> m_timers;
+    std::set<int> m_timers; // ids of the timers started and not stopped
 };

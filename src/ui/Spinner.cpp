@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/Spinner.h"
 
-#include <QDateTime>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
@@ -71,23 +70,17 @@ void Spinner::select(int index)
     emit currentChanged(m_current);
 }
 
-bool Spinner::typeAhead(const QString& text)
+void Spinner::jumpToLetter(QChar letter)
 {
-    if (text.isEmpty() || !text.at(0).isPrint() || count() == 0)
-        return false;
-    const qint64 now = QDateTime::currentMSecsSinceEpoch();
-    m_typed = now - m_typedAt < 1000 ? m_typed + text : text;
-    m_typedAt = now;
-    // A new first letter looks from the next item on, so repeating it walks through the matches.
-    const int from = m_typed.size() == 1 ? m_current + 1 : std::max(m_current, 0);
-    for (int k = 0; k < count(); ++k) {
-        const int index = (from + k) % count();
-        if (m_items.at(index).startsWith(m_typed, Qt::CaseInsensitive)) {
+    // From the item after the current one, so repeating a letter walks through its items.
+    for (int k = 1; k <= count(); ++k) {
+        const int index = (std::max(m_current, -1) + k) % count();
+        if (m_items.at(index).startsWith(letter, Qt::CaseInsensitive)) {
             select(index);
-            return true;
+            emit deltaRequested(0);
+            return;
         }
     }
-    return true;
 }
 
 void Spinner::hideAt(int x, int y)
@@ -122,8 +115,8 @@ void Spinner::keyPressEvent(QKeyEvent* event)
             select(std::clamp(m_current + (event->key() == Qt::Key_PageUp ? -10 : 10), 0, count() - 1));
         return;
     default:
-        if (typeAhead(event->text()))
-            return;
+        if (const QString text = event->text(); !text.isEmpty() && text.at(0).isLetterOrNumber() && count() > 0)
+            jumpToLetter(text.at(0));
         // Like a focused list box, the spinner keeps the keys it does not use.
         event->accept();
     }

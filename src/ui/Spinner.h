@@ -6,7 +6,8 @@
 
 // A one-line list with stepping: the handheld's list box and up-down pair. Left/Right step it
 // (Up/Down too when it is vertical). Each step first reports its delta, then moves the selection
-// (wrapping when asked). Hidden spinners are only there to catch the keys.
+// (wrapping when asked). A letter jumps to the next item starting with it and reports a step of 0.
+// Hidden spinners are only there to catch the keys.
 class Spinner final : public QWidget
 {
     Q_OBJECT
@@ -49,13 +50,12 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    // Typing letters jumps to the next item that starts with what was typed, as in a list box.
-    bool typeAhead(const QString& text);
+    // A letter selects the next item starting with it, then reports a step of 0: the screen repaints
+    // as after a step, without arrow feedback.
+    void jumpToLetter(QChar letter);
     void select(int index);
 
     QStringList m_items;
-    QString m_typed;
-    qint64 m_typedAt = 0;
     int m_current = -1;
     bool m_wrapping = false;
     Orientation m_orientation;

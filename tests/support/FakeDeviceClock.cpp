@@ -27,8 +27,10 @@ SystemTime FakeDeviceClock::at(int year, int month, int day, int hour, int minut
     return SystemDeviceClock::fromTm(tm, ms);
 }
 
-void FakeDeviceClock::advanceSeconds(long long seconds)
+void FakeDeviceClock::advanceMilliseconds(long long milliseconds)
 {
+    const long long total = m_now.milliseconds + milliseconds;
+    const long long seconds = total >= 0 ? total / 1000 : (total - 999) / 1000;
     m_now = at(m_now.year, m_now.month, m_now.day, m_now.hour, m_now.minute, static_cast<int>(m_now.second + seconds),
-        m_now.milliseconds);
+        static_cast<int>(total - seconds * 1000));
 }

@@ -19,7 +19,8 @@ public:
 
     void set(const SystemTime& now) { m_now = now; }
     void setBias(std::int32_t bias) { m_bias = bias; }
-    void advanceSeconds(long long seconds);
+    void advanceMilliseconds(long long milliseconds);
+    void advanceSeconds(long long seconds) { advanceMilliseconds(seconds * 1000); }
     void advanceMinutes(long long minutes) { advanceSeconds(minutes * 60); }
 
 private:

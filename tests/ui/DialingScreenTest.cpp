@@ -3,10 +3,12 @@
 
 #include "ScreenTestBench.h"
 #include "reference/DialingCodes.h"
+#include "ui/Painting.h"
 #include "ui/ReportList.h"
 #include "ui/Spinner.h"
 #include "ui/WideString.h"
 
+#include <QPainter>
 #include <QTest>
 
 #include <tuple>
@@ -71,6 +73,44 @@ private slots:
                 bench.press(Qt::Key_Right); // left on the area codes, the next visit starts international again
             });
         }
+    }
+
+    void aLetterChoosesTheListStartingWithIt()
+    {
+        ScreenTestBench bench;
+        DialingScreen screen(bench.environment, bench.window);
+        bench.visit(screen, [&] {
+            const QImage internationalShown = bench.render();
+            bench.press(Qt::Key_U); // "US Area Codes"
+            QCOMPARE(chooser(screen)->currentText(), QStringLiteral("US Area Codes"));
+            QVERIFY(areaCodes(screen)->isVisible() && !international(screen)->isVisible());
+            bench.press(Qt::Key_X); // nothing starts with it
+            QCOMPARE(chooser(screen)->currentIndex(), 1);
+            bench.press(Qt::Key_I);
+            QCOMPARE(chooser(screen)->currentIndex(), 0);
+            QVERIFY(international(screen)->isVisible() && !areaCodes(screen)->isVisible());
+            QCOMPARE(bench.render(), internationalShown);
+        });
+    }
+
+    void theTitleStartsAtTheBandsTopLeft()
+    {
+        // The text as the handheld writes it: its cell's top-left corner at (5, 0), baseline at the ascent.
+        const QFont font = Painting::makeFont(24, Painting::Bold);
+        QImage expected(240, 25, QImage::Format_RGB32);
+        expected.fill(QColor(0, 178, 235));
+        {
+            QPainter painter(&expected);
+            painter.setFont(font);
+            painter.setPen(Qt::white);
+            painter.drawText(5, QFontMetrics(font).ascent(), QStringLiteral("Dialing codes"));
+        }
+        ScreenTestBench bench;
+        DialingScreen screen(bench.environment, bench.window);
+        bench.visit(screen, [&] {
+            const QImage band = bench.render().copy(0, 0, 240, 25).convertToFormat(QImage::Format_RGB32);
+            QCOMPARE(band, expected);
+        });
     }
 
     void theListsHoldEveryRowInTableOrder()

@@ -2,6 +2,7 @@
 #include "ScreenTestBench.h"
 #include "ui/Commands.h"
 #include "ui/MenuBars.h"
+#include "ui/NumericEdit.h"
 #include "ui/Screen.h"
 #include "ui/SoftKeyBar.h"
 
@@ -25,12 +26,19 @@ public:
     QList<QSize> layouts;
     QList<int> commands;
     std::function<void()> onDestroy;
+    std::function<void()> onInitialise;
     using Screen::setBackgroundPicture;
     using Screen::startScreenTimer;
+    using Screen::takeOverBackKey;
     int ticks = 0;
 
 protected:
-    void initialise() override { ++initialised; }
+    void initialise() override
+    {
+        ++initialised;
+        if (onInitialise)
+            onInitialise();
+    }
     void layout(int width, int height) override { layouts.append(QSize(width, height)); }
     void destroyWork() override
     {
@@ -195,11 +203,36 @@ private slots:
         ProbeScreen screen(bench.environment, bench.window, MenuBarId::WorldClocks, QStringLiteral("probe"));
         bench.visit(screen, [&] {
             screen.startScreenTimer(1, 10);
-            QTRY_VERIFY(screen.ticks >= 2);
+            bench.advance(25);
+            QCOMPARE(screen.ticks, 2);
         });
-        const int ticks = screen.ticks;
-        QTest::qWait(50);
-        QCOMPARE(screen.ticks, ticks);
+        QVERIFY(!bench.timers.isRunning(&screen, 1));
+        bench.advance(50);
+        QCOMPARE(screen.ticks, 2);
+    }
+
+    void theBackKeyErasesInTheFocusedEditBoxOnlyWhereTakenOver()
+    {
+        ScreenTestBench bench;
+        ProbeScreen screen(bench.environment, bench.window, MenuBarId::Converter, QStringLiteral("probe"));
+        auto* amount = new NumericEdit(&screen);
+        for (const bool takenOver : {true, false}) {
+            screen.onInitialise = [&] {
+                if (takenOver)
+                    screen.takeOverBackKey();
+                amount->setGeometry(5, 40, 200, 25);
+                amount->setText(QString());
+                amount->setFocus();
+            };
+            bench.visit(screen, [&] {
+                QTest::keyClicks(amount, QStringLiteral("12x3.5"));
+                QCOMPARE(amount->text(), QStringLiteral("123.5")); // typing keeps to a number's characters
+                bench.press(Qt::Key_Escape);
+                bench.press(Qt::Key_Escape);
+                QCOMPARE(amount->text(), takenOver ? QStringLiteral("123") : QStringLiteral("123.5"));
+                QVERIFY(screen.isRunning()); // Back never leaves the screen
+            });
+        }
     }
 };
 

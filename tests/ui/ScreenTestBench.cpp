@@ -13,7 +13,7 @@ ScreenTestBench::ScreenTestBench(QSize workArea)
     , paths(device->paths())
     , settings(device->settings())
     , objects(device->objects())
-    , environment {clock, paths, settings, objects, messages, boxes}
+    , environment {clock, paths, settings, objects, messages, boxes, timers}
     , window(workArea)
 {
     window.show();
@@ -57,6 +57,11 @@ void ScreenTestBench::whenShown(Screen& screen, const std::function<void()>& dri
 void ScreenTestBench::press(Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
     QTest::keyClick(window.focusWidget(), key, modifiers);
+}
+
+void ScreenTestBench::advance(long long milliseconds)
+{
+    timers.advance(milliseconds, [this](long long step) { clock.advanceMilliseconds(step); });
 }
 
 QImage ScreenTestBench::render()

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "FakeDeviceClock.h"
+#include "ManualScreenTimers.h"
 #include "RecordingMessageBox.h"
 #include "RecordingMessageSink.h"
 #include "TempDir.h"
@@ -31,6 +32,8 @@ public:
     void whenShown(Screen& screen, const std::function<void()>& drive);
     // Presses `key` on the widget that has the focus.
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    // Moves the device clock and the screens' timers on together, firing the timers that fall due.
+    void advance(long long milliseconds);
     // The whole device window, rendered.
     QImage render();
 
@@ -42,6 +45,7 @@ public:
     ObjectStore& objects;
     RecordingMessageSink messages;
     RecordingMessageBox boxes;
+    ManualScreenTimers timers;
     ScreenEnvironment environment;
     DeviceWindow window;
 };

@@ -60,5 +60,7 @@ timeout 60 "$program" --tour "$work/tour" >"$work/out" 2>&1
 check "the tour exits 0" 0 $?
 test -s "$work/tour/launcher.png"
 check "the tour renders the launcher" 0 $?
+test -s "$work/tour/launcher-landscape.png"
+check "the tour renders the launcher in landscape" 0 $?
 
 exit $((failures > 0))

@@ -8,7 +8,7 @@ from wkdata.catalogue import read_catalogue
 from wkdata.checks import (country_list_problems, currency_order, mapping_problems, position_report,
                            read_currencies, rule_matches_tzdata)
 from wkdata.countries import SOVEREIGN, load_country_names
-from wkdata.zonerule import tzdata_version
+from wkdata.zonerule import tzdata_version, wtol, zone_offset_minutes
 
 DEVICE = paths.DEVICE_DIR
 
@@ -48,6 +48,25 @@ class CatalogueTest(unittest.TestCase):
             self.assertTrue(all(fields), f"empty field in {line}")
             self.assertFalse(any(":" in f for f in fields[1:3]), line)
         self.assertEqual(len({e.key for e in self.entries}), len(self.entries))
+
+    # Every kind of zone that a city of 100,000 people or more used in 2026 (GeoNames populations,
+    # tzdata 2026f), as (standard offset text, observes daylight saving). Read off the zones by hand:
+    # -3:30 is St. John's, +9:30 Darwin without and Adelaide with daylight saving.
+    ZONE_KINDS = [
+        ("-10", False), ("-9", True), ("-8", True), ("-7", False), ("-7", True), ("-6", False), ("-6", True),
+        ("-5", False), ("-5", True), ("-4", False), ("-4", True), ("-330", True), ("-3", False),
+        ("-1", False), ("0", False), ("0", True), ("1", False), ("1", True), ("2", False), ("2", True),
+        ("3", False), ("330", False), ("4", False), ("430", False), ("5", False), ("530", False),
+        ("545", False), ("6", False), ("630", False), ("7", False), ("8", False), ("9", False),
+        ("930", False), ("930", True), ("10", False), ("10", True), ("11", False), ("12", False),
+        ("12", True),
+    ]
+
+    def test_every_zone_kind_of_a_large_city_has_a_city(self):
+        present = sorted({(e.offset, e.rule[0] != "0") for e in self.entries},
+                         key=lambda kind: (zone_offset_minutes(wtol(kind[0])), kind[1]))
+        missing = [kind for kind in self.ZONE_KINDS if kind not in present]
+        self.assertEqual(missing, [], f"present: {present}")
 
     def test_every_sovereign_state_has_a_city(self):
         names = load_country_names()

@@ -1,8 +1,11 @@
-"""Chooses the catalogue's cities: every capital, well-known destinations and the largest cities,
-shaped so that the default world clocks land on London, New York, Paris and Tokyo."""
+"""Chooses the catalogue's cities: every capital, well-known destinations, a city for every kind of
+time zone that a large city uses, and the largest cities, shaped so that the default world clocks
+land on London, New York, Paris and Tokyo."""
 
 import math
 from collections import defaultdict
+
+from .zonerule import derive_rule
 
 # Positions of the default clocks in the catalogue's order (ascending bytes of "city:country").
 ANCHORS = (("London", "GB", 565), ("New York", "US", 684), ("Paris", "FR", 756), ("Tokyo", "JP", 988))
@@ -17,12 +20,16 @@ COUNTRY_DECAY = 0.9
 MIN_POPULATION = 50000
 SUBURB_RADIUS_KM = 20.0
 
+# Every kind of zone (standard offset, with or without daylight saving) that a city of at least this
+# many people uses gets its most populous such city, so that each offset can be picked in the clocks.
+ZONE_KIND_POPULATION = 100000
+
 # Destinations that travellers look for even where they are not among the largest cities.
 DESTINATIONS = [
     ("Agra", "IN"), ("Amsterdam", "NL"), ("Anchorage", "US"), ("Antalya", "TR"), ("Athens", "GR"),
     ("Auckland", "NZ"), ("Barcelona", "ES"), ("Bergen", "NO"), ("Bordeaux", "FR"),
     ("Boston", "US"), ("Bruges", "BE"), ("Cairns", "AU"), ("Cancun", "MX"), ("Cape Town", "ZA"),
-    ("Chiang Mai", "TH"), ("Chicago", "US"), ("Cusco", "PE"), ("Denpasar", "ID"), ("Dubai", "AE"),
+    ("Chiang Mai", "TH"), ("Chicago", "US"), ("Cusco", "PE"), ("Darwin", "AU"), ("Denpasar", "ID"), ("Dubai", "AE"),
     ("Dubrovnik", "HR"), ("Edinburgh", "GB"), ("Florence", "IT"), ("Geneva", "CH"), ("Granada", "ES"),
     ("Hamburg", "DE"), ("Hobart", "AU"), ("Honolulu", "US"), ("Innsbruck", "AT"), ("Istanbul", "TR"),
     ("Jerusalem", "IL"), ("Kyoto", "JP"), ("Krakow", "PL"), ("Las Vegas", "US"), ("Los Angeles", "US"),
@@ -31,7 +38,8 @@ DESTINATIONS = [
     ("New Orleans", "US"), ("New York", "US"), ("Nice", "FR"), ("Orlando", "US"), ("Osaka", "JP"),
     ("Palma", "ES"), ("Perth", "AU"), ("Phuket", "TH"), ("Porto", "PT"), ("Queenstown", "NZ"),
     ("Rio de Janeiro", "BR"), ("Saint Petersburg", "RU"), ("Salzburg", "AT"), ("San Francisco", "US"),
-    ("Seattle", "US"), ("Seville", "ES"), ("Siem Reap", "KH"), ("Split", "HR"), ("Sydney", "AU"),
+    ("Seattle", "US"), ("Seville", "ES"), ("Siem Reap", "KH"), ("Split", "HR"), ("St. John's", "CA"),
+    ("Sydney", "AU"),
     ("Toronto", "CA"), ("Valencia", "ES"), ("Vancouver", "CA"), ("Venice", "IT"), ("Zanzibar", "TZ"),
     ("Zurich", "CH"),
 ]
@@ -78,6 +86,21 @@ def notable_towns(cities, country_names, min_population):
     return {k: towns[k] for k in towns.keys() - suburbs(towns)}
 
 
+def zone_kind(zone):
+    """The standard offset in minutes of an IANA zone, and whether it has a daylight-saving shift."""
+    rule = derive_rule(zone)
+    return rule.standard_minutes, rule.shift_hours != 0
+
+
+def zone_kind_leaders(by_key, kind_of=zone_kind):
+    """Keys of the most populous city of each zone kind used by a city of ZONE_KIND_POPULATION or more."""
+    leaders = {}
+    for key, city in sorted(by_key.items(), key=lambda kv: (-kv[1].population, kv[1].geoname_id)):
+        if city.population >= ZONE_KIND_POPULATION:
+            leaders.setdefault(kind_of(city.zone), key)
+    return set(leaders.values())
+
+
 def _weights(by_key):
     """Population weighed down by the city's rank within its own country."""
     rank, weights = defaultdict(int), {}
@@ -94,13 +117,17 @@ def _segment(key, bounds):
     return sum(key > b for b in bounds)
 
 
-def select_cities(cities, country_names, size=CATALOGUE_SIZE):
-    """The catalogue's cities as {key: city}, with each anchor city at its fixed position."""
+def select_cities(cities, country_names, size=CATALOGUE_SIZE, kind_of=zone_kind):
+    """The catalogue's cities as {key: city}, with each anchor city at its fixed position.
+
+    The required cities (capitals, destinations, zone-kind leaders) come first in each stretch
+    between two anchors; the rest of its fixed quota goes to the heaviest towns, so that adding a
+    required city drops a lighter one from the same stretch and no anchor moves."""
     by_key = _unique_by_key(cities, country_names)
     bounds = [catalogue_key(name, country_names[cc]) for name, cc, _ in ANCHORS]
     quotas = [b - a - 1 for a, b in zip([-1] + [p for *_, p in ANCHORS], [p for *_, p in ANCHORS] + [size])]
     wanted = {catalogue_key(n, country_names[cc]) for n, cc in DESTINATIONS} | {
-        k for k, c in by_key.items() if c.is_capital}
+        k for k, c in by_key.items() if c.is_capital} | zone_kind_leaders(by_key, kind_of)
     missing = wanted - by_key.keys()
     if missing:
         raise ValueError(f"cities not found in the source: {sorted(missing)}")

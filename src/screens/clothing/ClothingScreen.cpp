@@ -17,7 +17,7 @@ constexpr int ScreenTitle = 40045; // "Clothing sizes"
 // Layout, b being the title band's height: the wearer and garment spinners one above the other at
 // (6, b+6) and (6, b+36), W-17 wide and 24 high; the table title at (5, b+70); the four rows from
 // (5, b+100), 28 pixels apart. The hidden shift spinner sits at (W-25, 10), 0 x 0.
-constexpr int Band = 25;
+constexpr int Band = TitleBand::Height;
 constexpr int SpinnerHeight = 24;
 constexpr int WearerTop = Band + 6;
 constexpr int GarmentTop = Band + 36;
@@ -42,6 +42,7 @@ void drawTextAt(QPainter& painter, const QFont& font, int left, int top, const Q
 
 ClothingScreen::ClothingScreen(ScreenEnvironment& environment, DeviceWindow& window)
     : Screen(environment, window, MenuBarId::Converter, QStringLiteral("clothing"))
+    , m_title(Painting::ConverterBand, ScreenTitle)
     , m_settings(environment.settings)
     , m_wearerSpinner(new Spinner(this))
     , m_garmentSpinner(new Spinner(this))
@@ -81,7 +82,6 @@ QStringList ClothingScreen::shownRows() const
 
 void ClothingScreen::initialise()
 {
-    m_titleFont = Painting::makeFont(24, Painting::Bold);
     m_labelFont = Painting::makeFont(21, Painting::Bold);
     m_listFont = Painting::makeFont(21, Painting::Normal);
     m_rowFont = Painting::makeFont(20, Painting::Bold);
@@ -121,6 +121,7 @@ void ClothingScreen::showTable()
 
 void ClothingScreen::layout(int width, int)
 {
+    m_title.layout(width);
     m_wearerSpinner->setGeometry(6, WearerTop, width - 17, SpinnerHeight);
     m_garmentSpinner->setGeometry(6, GarmentTop, width - 17, SpinnerHeight);
     m_shiftSpinner->hideAt(width - 25, 10);
@@ -128,8 +129,7 @@ void ClothingScreen::layout(int width, int)
 
 void ClothingScreen::paint(QPainter& painter)
 {
-    Painting::drawBand(painter, QRect(0, 0, workWidth(), Band), Painting::ConverterBand,
-        Painting::loadString(ScreenTitle), m_titleFont);
+    m_title.paint(painter);
     painter.setPen(Painting::White);
     drawTextAt(painter, m_labelFont, TextLeft, TableTitleTop, tableTitle());
     const QStringList rows = shownRows();

@@ -4,6 +4,7 @@
 #include "reference/ClothingSizes.h"
 #include "settings/RegistrySettings.h"
 #include "ui/Screen.h"
+#include "ui/TitleBand.h"
 
 #include <QFont>
 #include <QStringList>
@@ -36,11 +37,11 @@ private:
     void fillGarments(int garment);
     void showTable();
 
+    TitleBand m_title;
     RegistrySettings m_settings;
     Spinner* m_wearerSpinner;
     Spinner* m_garmentSpinner;
     Spinner* m_shiftSpinner;
-    QFont m_titleFont;
     QFont m_labelFont;
     QFont m_listFont;
     QFont m_rowFont;

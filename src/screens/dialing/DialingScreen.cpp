@@ -24,7 +24,7 @@ constexpr int GmtText = 40081;
 constexpr int RegionText = 40083;
 
 // The chooser at (6, b+6), W-17 wide and 24 high; both lists share (0, b+36) to the bottom right.
-constexpr int Band = 25;
+constexpr int Band = TitleBand::Height;
 constexpr int ChooserTop = Band + 6;
 constexpr int ChooserHeight = 24;
 constexpr int ListTop = Band + 36;
@@ -43,8 +43,10 @@ ReportList* makeList(QWidget* parent, const QString& name, std::vector<ReportLis
 
 DialingScreen::DialingScreen(ScreenEnvironment& environment, DeviceWindow& window)
     : Screen(environment, window, MenuBarId::Launcher, QStringLiteral("dialing"))
+    , m_title(Painting::ConverterBand, ScreenTitle)
     , m_chooser(new Spinner(this))
 {
+    m_title.setTextOrigin(QPoint(5, 0));
     setBackgroundPicture(L"bconv.jpg");
     m_chooser->setObjectName(QStringLiteral("chooserSpinner"));
     m_chooser->setItems({Painting::loadString(InternationalItem), Painting::loadString(AreaCodesItem)});
@@ -71,7 +73,6 @@ void DialingScreen::initialise()
         createLists();
     // Bar 107 greys "Services" for the launcher; here it must lead back to the launcher.
     softKeys()->setKeyEnabled(Commands::Services, true);
-    m_titleFont = Painting::makeFont(24, Painting::Bold);
     m_listFont = Painting::makeFont(ListFontHeight, Painting::Normal);
     m_chooser->setFont(m_listFont);
     m_international->setFont(m_listFont);
@@ -105,6 +106,7 @@ void DialingScreen::showChosenList()
 
 void DialingScreen::layout(int width, int height)
 {
+    m_title.layout(width);
     m_chooser->setGeometry(6, ChooserTop, width - 17, ChooserHeight);
     const QRect lists(0, ListTop, width, height - ListTop);
     m_international->setGeometry(lists);
@@ -113,8 +115,7 @@ void DialingScreen::layout(int width, int height)
 
 void DialingScreen::paint(QPainter& painter)
 {
-    Painting::drawBand(painter, QRect(0, 0, workWidth(), Band), Painting::ConverterBand,
-        Painting::loadString(ScreenTitle), m_titleFont);
+    m_title.paint(painter);
     // A frame one pixel outside the chooser.
     const QRect chooser = m_chooser->geometry();
     painter.setPen(Qt::black);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "ui/Screen.h"
+#include "ui/TitleBand.h"
 
 #include <QFont>
 
@@ -28,9 +29,9 @@ private:
     void fillLists();
     void showChosenList();
 
+    TitleBand m_title;
     Spinner* m_chooser;
     ReportList* m_international = nullptr;
     ReportList* m_areaCodes = nullptr;
-    QFont m_titleFont;
     QFont m_listFont;
 };

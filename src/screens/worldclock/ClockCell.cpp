@@ -10,6 +10,16 @@
 namespace {
 
 constexpr int WeatherIconSize = 18;
+constexpr int EdgeMargin = 6;
+// The home panel: the name on a line of its own across the panel, then the dial with the time and
+// the date beside it. The dial leaves room for "12:00:00 AM" at 240 pixels.
+constexpr int HomeNameLine = 26;
+constexpr int HomeDialSize = 52;
+// City rows at least this high carry the date under the name; from RoomyRow on in the larger name font.
+constexpr int TwoLineRow = 30;
+constexpr int RoomyRow = 36;
+// The home name steps down to this pixel size before it is shortened; the cities' names to the dates' size.
+constexpr int SmallestHomeNameSize = 12;
 const QColor DateColour(220, 232, 245);
 const QColor DaylightMark(255, 200, 60);
 
@@ -36,27 +46,27 @@ ClockCell::ClockCell(const ClockFonts& fonts)
     : m_fonts(&fonts)
 { }
 
-ClockCell ClockCell::home(int top, int width, int height, const ClockFonts& fonts)
+ClockCell ClockCell::home(int top, int width, const ClockFonts& fonts)
 {
-    const bool wide = width > height;
-    const int dialSize = wide ? 56 : 68;
     ClockCell home(fonts);
-    home.m_area = QRect(0, top, width, dialSize + 12);
-    home.m_dial = QRect(6, top + 6, dialSize, dialSize);
-    home.m_weather = QRect(width - WeatherIconSize - 6, top + 6, WeatherIconSize, WeatherIconSize);
-    home.m_name = QPoint(home.m_dial.right() + 11, top + 3);
+    home.m_name = QPoint(EdgeMargin, top + 1);
     home.m_nameFont = &fonts.normal;
-    home.m_time = QPoint(home.m_name.x(), top + (wide ? 22 : 26));
+    home.m_smallestNameSize = SmallestHomeNameSize;
+    home.m_time = QPoint(EdgeMargin + HomeDialSize + 10, top + 1 + HomeNameLine);
     home.m_timeFont = &fonts.big;
-    home.m_datePlace = wide ? DatePlace::RightOfName : DatePlace::Below;
-    home.m_date = wide ? QPoint(home.m_weather.left() - 6, top + 8) : QPoint(home.m_name.x(), top + 60);
+    home.m_date = QPoint(home.m_time.x(), home.m_time.y() + QFontMetrics(fonts.big).height());
+    home.m_dial = QRect(EdgeMargin, home.m_time.y() + 2, HomeDialSize, HomeDialSize);
+    home.m_weather = QRect(width - WeatherIconSize - EdgeMargin, home.m_date.y(), WeatherIconSize, WeatherIconSize);
+    home.m_area = QRect(0, top, width, home.m_date.y() + QFontMetrics(fonts.small).height() + 2 - top);
     return home;
 }
 
 std::array<ClockCell, 4> ClockCell::cityRows(int top, int width, int height, const ClockFonts& fonts)
 {
     const int rowHeight = (height - top) / 4;
-    const bool twoLines = rowHeight >= 36;
+    const bool twoLines = rowHeight >= TwoLineRow;
+    const bool roomy = rowHeight >= RoomyRow;
+    const int dateHeight = QFontMetrics(fonts.small).height();
     const auto centred
         = [rowHeight](int y, const QFont& font) { return y + (rowHeight - QFontMetrics(font).height()) / 2; };
     std::array<ClockCell, 4> rows {ClockCell(fonts), ClockCell(fonts), ClockCell(fonts), ClockCell(fonts)};
@@ -68,13 +78,15 @@ std::array<ClockCell, 4> ClockCell::cityRows(int top, int width, int height, con
         row.m_dial = QRect(5, y + (rowHeight - dialSize) / 2, dialSize, dialSize);
         row.m_weather = QRect(
             width - WeatherIconSize - 5, y + (rowHeight - WeatherIconSize) / 2, WeatherIconSize, WeatherIconSize);
-        row.m_nameFont = &fonts.name;
-        row.m_name = QPoint(row.m_dial.right() + 8, twoLines ? y + 2 : centred(y, fonts.name));
+        row.m_nameFont = twoLines && !roomy ? &fonts.small : &fonts.name;
+        row.m_smallestNameSize = fonts.small.pixelSize();
+        row.m_name = QPoint(row.m_dial.right() + 8, twoLines ? y + (roomy ? 2 : 0) : centred(y, fonts.name));
         row.m_timeFont = &fonts.normal;
         row.m_timeRightAligned = true;
         row.m_time = QPoint(row.m_weather.left() - 7, centred(y, fonts.normal));
         row.m_datePlace = twoLines ? DatePlace::Below : DatePlace::BeforeTime;
-        row.m_date = twoLines ? QPoint(row.m_name.x(), y + 22) : QPoint(0, centred(y, fonts.small));
+        row.m_date = twoLines ? QPoint(row.m_name.x(), roomy ? y + 22 : y + rowHeight - dateHeight)
+                              : QPoint(0, centred(y, fonts.small));
         row.m_separatorAbove = true;
     }
     return rows;
@@ -91,8 +103,6 @@ int ClockCell::timeLeft(const ClockView& view) const
 int ClockCell::dateLeft(const ClockView& view) const
 {
     switch (m_datePlace) {
-    case DatePlace::RightOfName:
-        return m_date.x() - advance(m_fonts->small, view.date);
     case DatePlace::BeforeTime:
         return timeLeft(view) - 8 - advance(m_fonts->small, view.date);
     case DatePlace::Below:
@@ -101,12 +111,27 @@ int ClockCell::dateLeft(const ClockView& view) const
     return m_date.x();
 }
 
-QString ClockCell::fittedName(const ClockView& view) const
+int ClockCell::nameRight(const ClockView& view) const
 {
-    int right = m_timeRightAligned ? timeLeft(view) - 6 : m_weather.left() - 3;
+    int right = m_timeRightAligned ? timeLeft(view) - 6 : m_area.right() + 1 - EdgeMargin;
     if (m_datePlace != DatePlace::Below)
         right = std::min(right, dateLeft(view) - 6);
-    return Painting::shortenToFit(QFontMetrics(*m_nameFont), view.name, right - m_name.x());
+    return right;
+}
+
+QFont ClockCell::nameFont(const ClockView& view) const
+{
+    // A long name steps down in size before it loses letters.
+    QFont font = *m_nameFont;
+    const int room = nameRight(view) - m_name.x();
+    while (font.pixelSize() > m_smallestNameSize && advance(font, view.name) >= room)
+        font.setPixelSize(font.pixelSize() - 1);
+    return font;
+}
+
+QString ClockCell::fittedName(const ClockView& view) const
+{
+    return Painting::shortenToFit(QFontMetrics(nameFont(view)), view.name, nameRight(view) - m_name.x());
 }
 
 void ClockCell::paint(QPainter& painter, const ClockView& view) const
@@ -116,7 +141,7 @@ void ClockCell::paint(QPainter& painter, const ClockView& view) const
     ClockDial::drawFace(painter, m_dial);
     ClockDial::drawHands(painter, m_dial, view.hands, view.secondHand);
     paintWeatherIcon(painter, view.favourite);
-    drawShadowedText(painter, *m_nameFont, m_name, fittedName(view), Painting::White);
+    drawShadowedText(painter, nameFont(view), m_name, fittedName(view), Painting::White);
     paintTime(painter, view);
     paintDate(painter, view);
 }

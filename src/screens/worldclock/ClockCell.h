@@ -38,30 +38,31 @@ struct ClockFonts
 class ClockCell
 {
 public:
-    // The home clock's panel under a title band of `top` pixels: a large dial, the name, the time with
-    // seconds and the date. On a wide work area the panel is lower, with the date beside the name.
-    static ClockCell home(int top, int width, int height, const ClockFonts& fonts);
+    // The home clock's panel under a title band of `top` pixels: the name across the panel, in a
+    // smaller size when it is long, then a dial with the time (seconds) and the date beside it.
+    static ClockCell home(int top, int width, const ClockFonts& fonts);
     // Four city rows filling the space below `top`: dial, name and date on the left, the time on the right.
-    // Rows too low for two lines carry the date on the time's line.
+    // Low rows draw the name smaller; rows too low for two lines carry the date on the time's line.
     static std::array<ClockCell, 4> cityRows(int top, int width, int height, const ClockFonts& fonts);
 
     const QRect& area() const { return m_area; }
     const QRect& dial() const { return m_dial; }
     const QRect& weather() const { return m_weather; }
-    // The name as drawn: shortened until it fits beside the time and the date.
+    // The name as drawn: in a smaller size, then shortened, until it fits beside the time and the date.
     QString fittedName(const ClockView& view) const;
+    QFont nameFont(const ClockView& view) const;
     void paint(QPainter& painter, const ClockView& view) const;
 
 private:
     enum class DatePlace {
-        Below, // under the name
-        RightOfName, // right-aligned at `m_date` on the name's line
+        Below, // under the name, or under the time in the home panel
         BeforeTime, // on the time's line, just before it
     };
 
     explicit ClockCell(const ClockFonts& fonts);
     int timeLeft(const ClockView& view) const;
     int dateLeft(const ClockView& view) const;
+    int nameRight(const ClockView& view) const;
     void paintTime(QPainter& painter, const ClockView& view) const;
     void paintDate(QPainter& painter, const ClockView& view) const;
     void paintWeatherIcon(QPainter& painter, bool favourite) const;
@@ -72,6 +73,7 @@ private:
     QRect m_weather;
     QPoint m_name;
     const QFont* m_nameFont = nullptr;
+    int m_smallestNameSize = 0; // a long name is drawn smaller down to this pixel size, then shortened
     QPoint m_time; // top-left of the time text, or its top-right end when `m_timeRightAligned`
     bool m_timeRightAligned = false;
     const QFont* m_timeFont = nullptr;

@@ -23,8 +23,7 @@
 namespace {
 
 constexpr int TickTimer = 1;
-constexpr int TitleHeight = 25;
-const QColor TitleBand(0, 178, 235); // colour value 15446528
+constexpr int TitleHeight = TitleBand::Height;
 
 // The registry value of each slot: "clock", "clock1" ... "clock4".
 const std::array<const DwordSetting*, WorldClockScreen::SlotCount> SlotSettings {
@@ -53,6 +52,7 @@ WorldClockScreen::WorldClockScreen(
     , m_favourites(favourites)
     , m_settings(environment.settings)
     , m_focusList(new Spinner(this))
+    , m_title(Painting::ConverterBand, 40008, Painting::makeFont(23, Painting::Bold)) // "World Clocks"
 {
     m_focusList->setObjectName(QStringLiteral("focusSpinner"));
     m_focusList->setWrapping(true);
@@ -179,15 +179,15 @@ QString WorldClockScreen::shownName(int slot) const
 void WorldClockScreen::layout(int width, int height)
 {
     m_focusList->hideAt(width - 25, 10);
-    m_titleBand = QRect(0, 0, width, TitleHeight);
-    m_cells = {ClockCell::home(TitleHeight, width, height, m_fonts)};
+    m_title.layout(width);
+    m_cells = {ClockCell::home(TitleHeight, width, m_fonts)};
     const auto rows = ClockCell::cityRows(m_cells[0].area().bottom() + 3, width, height, m_fonts);
     m_cells.insert(m_cells.end(), rows.begin(), rows.end());
 }
 
 void WorldClockScreen::paint(QPainter& painter)
 {
-    if (dirtyRect().intersects(m_titleBand))
+    if (dirtyRect().intersects(m_title.rect()))
         paintTitle(painter);
     for (int k = 0; k < SlotCount; ++k) {
         const ClockCell& cell = m_cells[static_cast<std::size_t>(k)];
@@ -199,7 +199,7 @@ void WorldClockScreen::paint(QPainter& painter)
 
 void WorldClockScreen::paintTitle(QPainter& painter) const
 {
-    Painting::drawBand(painter, m_titleBand, TitleBand, Painting::loadString(40008), m_fonts.normal);
+    m_title.paint(painter);
     const int width = workWidth();
     if (m_movedLeft)
         Icons::draw(painter, Icons::LeftArrow, width - 60, 0, 24);
@@ -246,7 +246,7 @@ void WorldClockScreen::refresh()
     }
     if (m_movedLeft || m_movedRight) {
         m_movedLeft = m_movedRight = false;
-        update(m_titleBand);
+        update(m_title.rect());
     }
 }
 

@@ -6,6 +6,7 @@
 #include "time/ClockOffsets.h"
 #include "time/ClockSlotText.h"
 #include "ui/Screen.h"
+#include "ui/TitleBand.h"
 
 #include <array>
 #include <vector>
@@ -79,6 +80,6 @@ private:
     bool m_movedLeft = false;
     bool m_movedRight = false;
     ClockFonts m_fonts;
-    QRect m_titleBand;
+    TitleBand m_title;
     std::vector<ClockCell> m_cells; // the home clock's panel, then the city rows
 };
