@@ -2,6 +2,7 @@
 #include "app/ServiceTable.h"
 
 #include "screens/clothing/ClothingScreen.h"
+#include "screens/currency/CurrencyScreen.h"
 #include "screens/dialing/DialingScreen.h"
 #include "screens/worldclock/WorldClockScreen.h"
 #include "ui/Icons.h"
@@ -11,6 +12,11 @@ namespace {
 std::unique_ptr<Screen> worldClocks(ServiceContext& c)
 {
     return std::make_unique<WorldClockScreen>(c.environment, c.window, c.cities, c.favourites);
+}
+
+std::unique_ptr<Screen> currencyConverter(ServiceContext& c)
+{
+    return std::make_unique<CurrencyScreen>(c.environment, c.window, c.initialCurrencies);
 }
 
 std::unique_ptr<Screen> clothingSizes(ServiceContext& c)
@@ -31,7 +37,7 @@ const std::array<Service, ServiceCount>& Services()
         {40008, Icons::Service, worldClocks}, // "World Clocks"
         {40009, Icons::Service, nullptr}, // "World Weather"
         {40025, Icons::Service, nullptr}, // "World Map"
-        {40034, Icons::Service, nullptr}, // "Currency Converter"
+        {40034, Icons::Service, currencyConverter}, // "Currency Converter"
         {40044, Icons::Service, nullptr}, // "Measurements"
         {40045, Icons::Service, clothingSizes}, // "Clothing sizes"
         {40046, Icons::Service, dialingCodes}, // "Dialing codes"
