@@ -2,7 +2,6 @@
 #include "currency/RatesImport.h"
 
 #include "store/CurrencyStore.h"
-#include "support/EcbFile.h"
 #include "text/WideText.h"
 
 #include <gtest/gtest.h>
@@ -34,14 +33,6 @@ std::map<std::wstring, std::wstring> ratesOf(CurrencyStore& store)
     for (std::uint32_t i = 0; i < store.RecordCount(); ++i)
         rates[store.Code(i) + L" " + store.Name(i)] = store.RateText(i);
     return rates;
-}
-
-EcbRates ratesFile(const std::string& date, const std::vector<std::pair<std::string, std::string>>& rates)
-{
-    std::string error;
-    auto read = EcbRatesReader::readBytes(EcbFile(date, rates), error);
-    EXPECT_TRUE(read) << error;
-    return read.value_or(EcbRates {});
 }
 
 } // namespace
@@ -87,44 +78,6 @@ TEST(RatesImport, StampsAreMidnightOfTheFilesDate)
         ASSERT_EQ(read->day, static_cast<unsigned>(date.day()));
         ASSERT_EQ(read->hour + read->minute + read->second + read->milliseconds, 0);
     }
-}
-
-TEST(RatesImport, RefusesFutureDatesAndFilesWithoutDollars)
-{
-    // The file's date and rates, today, and the refusal (empty: accepted).
-    using Case = std::tuple<std::string, std::vector<std::pair<std::string, std::string>>, SystemTime, std::string>;
-    const Case cases[] = {
-        {"2024-05-17", {{"USD", "1.08"}}, SystemTime {2024, 5, 5, 17, 23, 59}, ""},
-        {"2024-05-17", {{"USD", "1.08"}}, SystemTime {2025, 1, 3, 1}, ""},
-        {"2024-05-17", {{"USD", "1.08"}}, SystemTime {2024, 5, 4, 16, 23, 59},
-            "its date 2024-05-17 lies after today, 2024-05-16"},
-        {"2024-05-17", {{"JPY", "169.03"}}, SystemTime {2024, 5, 5, 17},
-            "it has no usable USD rate, which the store's rates (US dollars per unit) are worked out from"},
-        {"2024-05-17", {{"USD", "-1"}}, SystemTime {2024, 5, 5, 17},
-            "it has no usable USD rate, which the store's rates (US dollars per unit) are worked out from"},
-    };
-    for (const auto& [date, rates, today, refusal] : cases)
-        EXPECT_EQ(RatesImport::refusal(ratesFile(date, rates), today), refusal);
-}
-
-TEST(RatesImport, UpdatesThePricedCurrenciesAndTheStamp)
-{
-    auto objects = ObjectStore::openInMemory();
-    auto store = storeOf(*objects);
-    const EcbRates rates = ratesFile("2024-05-17", {{"JPY", "160"}, {"USD", "1.25"}, {"GBP", "0.8"}, {"ISK", "150"}});
-    const RatesImport::Plan plan = RatesImport::plan(*store, rates);
-    EXPECT_EQ(plan.notInStore, std::vector<std::string> {"ISK"});
-    ASSERT_TRUE(RatesImport::apply(*objects, *store, plan));
-
-    // 1.25 dollars a euro: the euro is worth 1.25, the yen 1.25 / 160, the pound 1.25 / 0.8; the franc, not in
-    // the file, keeps its rate.
-    const std::map<std::wstring, std::wstring> expected {{L"USD US Dollar", L"1"}, {L"EUR Euro", L"1.25"},
-        {L"JPY Japanese Yen", L"0.0078125"}, {L"GBP British Pound", L"1.5625"}, {L"CHF Swiss Franc", L"1.1"}};
-    EXPECT_EQ(ratesOf(*store), expected);
-    EXPECT_EQ(store->LastUpdate(), RatesImport::FileTimeOf(2024y / 5 / 17));
-    // Positions do not move: the names, which order the store, are unchanged.
-    EXPECT_EQ(store->Name(0), L"British Pound");
-    EXPECT_EQ(store->Name(4), L"US Dollar");
 }
 
 TEST(RatesImport, AFailedWriteLeavesTheStoreAsItWas)
