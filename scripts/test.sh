@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Builds Wanderkit and runs every test twice: an optimised build, then a build under
-# AddressSanitizer and UndefinedBehaviorSanitizer. Installs missing packages first.
+# Builds Wanderkit and runs every test: the core and the commands built without the GUI (so a Qt include
+# in the core fails here, not in a packager's build), an optimised build of everything, then everything
+# under AddressSanitizer and UndefinedBehaviorSanitizer. Installs missing packages first.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 scripts/install-deps.sh
@@ -14,6 +15,8 @@ run_suite() {
     (cd "$dir" && ctest --output-on-failure -j"$jobs")
 }
 
+echo "== Core and command line, without the GUI"
+run_suite build-core -DCMAKE_BUILD_TYPE=Release -DWANDERKIT_GUI=OFF
 echo "== Release build and tests"
 run_suite build -DCMAKE_BUILD_TYPE=RelWithDebInfo -DWANDERKIT_BENCH=ON
 echo "== Sanitizer build and tests"

@@ -4,6 +4,7 @@
 #include "screens/clothing/ClothingScreen.h"
 #include "screens/currency/CurrencyScreen.h"
 #include "screens/dialing/DialingScreen.h"
+#include "screens/measure/MeasureScreen.h"
 #include "screens/worldclock/WorldClockScreen.h"
 #include "ui/Icons.h"
 
@@ -17,6 +18,11 @@ std::unique_ptr<Screen> worldClocks(ServiceContext& c)
 std::unique_ptr<Screen> currencyConverter(ServiceContext& c)
 {
     return std::make_unique<CurrencyScreen>(c.environment, c.window, c.initialCurrencies);
+}
+
+std::unique_ptr<Screen> measurements(ServiceContext& c)
+{
+    return std::make_unique<MeasureScreen>(c.environment, c.window);
 }
 
 std::unique_ptr<Screen> clothingSizes(ServiceContext& c)
@@ -38,7 +44,7 @@ const std::array<Service, ServiceCount>& Services()
         {40009, Icons::Service, nullptr}, // "World Weather"
         {40025, Icons::Service, nullptr}, // "World Map"
         {40034, Icons::Service, currencyConverter}, // "Currency Converter"
-        {40044, Icons::Service, nullptr}, // "Measurements"
+        {40044, Icons::Service, measurements}, // "Measurements"
         {40045, Icons::Service, clothingSizes}, // "Clothing sizes"
         {40046, Icons::Service, dialingCodes}, // "Dialing codes"
         {40047, Icons::Service, nullptr}, // "Todo List": listed and selectable, opens nothing

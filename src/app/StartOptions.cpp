@@ -132,9 +132,13 @@ Commands (print to standard output, no window):
   rates                   every currency's code, name and rate, and the last update
   rates import FILE       the ECB's daily reference rates (eurofxref-daily.xml;
                           FILE - reads standard input)
+  convert AMOUNT FROM TO  convert AMOUNT between two units of one category
+  units [CATEGORY]        the units of the unit converter and their factors
 
 CITY is a catalogue position or a name ("Paris" or "Paris:France"); FROM and TO
-are currency codes or names ("eur", "US Dollar").
+of "currency" are currency codes or names ("eur", "US Dollar").
+A unit is a name as listed by "units" (or its unique start) or C:I, the category
+and unit indices ("4:0" is degree Celsius).
 
 Keys: Left/Right move the selection, Return is the action key, F1 and F2 press
 the soft keys, Escape is Back, Ctrl+R rotates the work area.

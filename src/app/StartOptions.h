@@ -25,6 +25,6 @@ struct StartOptions
     std::vector<std::string> commandArgs;
 
     // Parses argv; on a usage error returns nothing and sets `error`.
-    static std::optional<StartOptions> parse(const std::vector<std::string>& args, std::string& error);
+    [[nodiscard]] static std::optional<StartOptions> parse(const std::vector<std::string>& args, std::string& error);
     static std::string usage();
 };

@@ -16,7 +16,7 @@ public:
 
     // The position, or nothing with `error` saying why: no such position, the nearest names for an
     // unknown name, or the candidates of an ambiguous one.
-    std::optional<std::uint32_t> find(const std::string& word, std::string& error) const;
+    [[nodiscard]] std::optional<std::uint32_t> find(const std::string& word, std::string& error) const;
 
 private:
     std::string nearestNames(const std::wstring& wanted) const;

@@ -5,6 +5,7 @@
 #include "cli/CurrencyCommands.h"
 #include "cli/DialCommand.h"
 #include "cli/SizesCommand.h"
+#include "cli/UnitCommands.h"
 
 #include <functional>
 #include <map>
@@ -21,11 +22,13 @@ const std::map<std::string, Command>& commands()
     static const std::map<std::string, Command> table {
         {"cities", RunCitiesCommand},
         {"city", RunCityCommand},
+        {"convert", RunConvertCommand},
         {"currency", RunCurrencyCommand},
         {"dial", RunDialCommand},
         {"rates", RunRatesCommand},
         {"sizes", RunSizesCommand},
         {"time", RunTimeCommand},
+        {"units", RunUnitsCommand},
     };
     return table;
 }

@@ -1,11 +1,26 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/CommandWords.h"
 
+#include <cctype>
+
+namespace {
+
+// "-40", "-.5": a negative number is a word, not an option.
+bool isOption(const std::string& arg)
+{
+    if (!arg.starts_with('-'))
+        return false;
+    const std::size_t digit = arg.size() > 2 && arg[1] == '.' ? 2 : 1;
+    return !(arg.size() > digit && std::isdigit(static_cast<unsigned char>(arg[digit])));
+}
+
+} // namespace
+
 CommandWords CommandWords::split(const std::vector<std::string>& args)
 {
     CommandWords split;
     for (const std::string& arg : args)
-        (arg.starts_with('-') ? split.options : split.words).push_back(arg);
+        (isOption(arg) ? split.options : split.words).push_back(arg);
     return split;
 }
 

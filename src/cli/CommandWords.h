@@ -5,7 +5,8 @@
 #include <string>
 #include <vector>
 
-// The words after a text command, with its options ("-x", "--x") set apart from the other words.
+// The words after a text command, with its options ("-x", "--x") set apart from the other words; a
+// negative number ("-40") is a word.
 struct CommandWords
 {
     std::vector<std::string> options;

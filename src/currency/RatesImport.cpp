@@ -40,7 +40,7 @@ std::string RatesImport::refusal(const EcbRates& rates, const SystemTime& today)
 RatesImport::Plan RatesImport::plan(CurrencyStore& store, const EcbRates& rates)
 {
     Plan plan;
-    plan.stamp = FileTimeOf(rates.date);
+    plan.stamp = fileTimeOf(rates.date);
     const EcbRate* dollar = rates.find(BaseCode);
     if (!dollar)
         return plan;
@@ -53,7 +53,7 @@ RatesImport::Plan RatesImport::plan(CurrencyStore& store, const EcbRates& rates)
         if (!rate && key != EuroCode)
             continue;
         priced.push_back(key);
-        plan.updates.push_back({code, store.Name(position), DollarRateText(dollar->perEuro, rate ? rate->perEuro : 1)});
+        plan.updates.push_back({code, store.Name(position), dollarRateText(dollar->perEuro, rate ? rate->perEuro : 1)});
     }
     for (const EcbRate& rate : rates.rates) {
         if (std::ranges::find(priced, rate.code) == priced.end())
@@ -74,7 +74,7 @@ bool RatesImport::apply(ObjectStore& objects, CurrencyStore& store, const Plan& 
     return store.SetLastUpdate(plan.stamp) && transaction.commit();
 }
 
-std::wstring RatesImport::DollarRateText(double usdPerEuro, double unitsPerEuro)
+std::wstring RatesImport::dollarRateText(double usdPerEuro, double unitsPerEuro)
 {
     std::array<char, 400> text {};
     const auto result
@@ -82,7 +82,7 @@ std::wstring RatesImport::DollarRateText(double usdPerEuro, double unitsPerEuro)
     return Utf8ToWide(std::string_view(text.data(), result.ptr));
 }
 
-std::uint64_t RatesImport::FileTimeOf(std::chrono::year_month_day date)
+std::uint64_t RatesImport::fileTimeOf(std::chrono::year_month_day date)
 {
     const auto days = std::chrono::sys_days {date}.time_since_epoch().count() + DaysFrom1601To1970;
     return static_cast<std::uint64_t>(days) * FileTimeTicksPerDay;

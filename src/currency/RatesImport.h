@@ -41,8 +41,8 @@ struct Plan
 
 // The value in US dollars of one unit priced at `unitsPerEuro`, as the shortest text that wcstod reads
 // back as exactly the quotient of the two published rates.
-[[nodiscard]] std::wstring DollarRateText(double usdPerEuro, double unitsPerEuro);
+[[nodiscard]] std::wstring dollarRateText(double usdPerEuro, double unitsPerEuro);
 // The FILETIME (100 ns units since 1601) of midnight starting `date`.
-[[nodiscard]] std::uint64_t FileTimeOf(std::chrono::year_month_day date);
+[[nodiscard]] std::uint64_t fileTimeOf(std::chrono::year_month_day date);
 
 } // namespace RatesImport

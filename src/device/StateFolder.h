@@ -12,7 +12,7 @@ namespace StateFolder {
 std::filesystem::path locate(const std::optional<std::filesystem::path>& chosen);
 // Creates the folder (mode 0700) and checks that files can be written in it; on failure returns false
 // with `error` naming the folder and the reason.
-bool prepare(const std::filesystem::path& folder, std::string& error);
+[[nodiscard]] bool prepare(const std::filesystem::path& folder, std::string& error);
 // The device root: `chosen` if given, else share/wanderkit/device beside the program's bin/ folder.
 std::filesystem::path locateDeviceRoot(const std::optional<std::filesystem::path>& chosen);
 

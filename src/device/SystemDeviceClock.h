@@ -19,7 +19,7 @@ public:
     std::int32_t standardBias() const override;
 
     // Parses "YYYY-MM-DD HH:MM:SS"; nothing for text that is not a valid date and time.
-    static std::optional<SystemTime> parseLocalTime(const char* text);
+    [[nodiscard]] static std::optional<SystemTime> parseLocalTime(const char* text);
     // A broken-down C time as a SystemTime.
     static SystemTime fromTm(const std::tm& tm, int milliseconds);
 

@@ -34,7 +34,7 @@ public:
 
 private:
     // The value, enumerated as the handheld did; sets the status.
-    std::optional<RegistryValue> read(std::wstring_view subkey, std::wstring_view name);
+    [[nodiscard]] std::optional<RegistryValue> read(std::wstring_view subkey, std::wstring_view name);
 
     SettingsHive& m_hive;
     std::int32_t m_status = Read;

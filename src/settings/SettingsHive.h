@@ -29,13 +29,13 @@ public:
     // Opens or creates `file`. A file that is not a readable database is moved aside under a dated name,
     // `messages` says which file went where (caption "Wanderkit"), and a fresh one is started. Nothing
     // only when even a fresh file cannot be created.
-    static std::unique_ptr<SettingsHive> open(const std::filesystem::path& file, MessageSink& messages);
-    static std::unique_ptr<SettingsHive> openInMemory();
+    [[nodiscard]] static std::unique_ptr<SettingsHive> open(const std::filesystem::path& file, MessageSink& messages);
+    [[nodiscard]] static std::unique_ptr<SettingsHive> openInMemory();
     ~SettingsHive();
 
-    bool keyExists(std::wstring_view path);
+    [[nodiscard]] bool keyExists(std::wstring_view path);
     // The value of that exact name; nothing when the key or the value is missing.
-    std::optional<RegistryValue> value(std::wstring_view path, std::wstring_view name);
+    [[nodiscard]] std::optional<RegistryValue> value(std::wstring_view path, std::wstring_view name);
     // Creates the key and its parents when needed and stores the value; an unchanged value is not rewritten.
     bool setValue(
         std::wstring_view path, std::wstring_view name, RegistryType type, std::span<const std::uint8_t> data);

@@ -19,8 +19,8 @@ class SqliteConnection
 public:
     // Opens a database file for reading and writing, creating it (mode 0600, folder 0700) when missing.
     // Nothing when SQLite cannot even start on the path; whether the content is readable shows on first use.
-    static std::unique_ptr<SqliteConnection> openFile(const std::filesystem::path& file);
-    static std::unique_ptr<SqliteConnection> openInMemory();
+    [[nodiscard]] static std::unique_ptr<SqliteConnection> openFile(const std::filesystem::path& file);
+    [[nodiscard]] static std::unique_ptr<SqliteConnection> openInMemory();
     ~SqliteConnection();
     SqliteConnection(const SqliteConnection&) = delete;
     SqliteConnection& operator=(const SqliteConnection&) = delete;
@@ -30,9 +30,9 @@ public:
     // A query on a statement prepared once per connection and text.
     SqliteQuery query(std::string_view sql);
     // True when `sql` compiles against the current schema.
-    bool compiles(std::string_view sql);
+    [[nodiscard]] bool compiles(std::string_view sql);
     // Brings the schema from PRAGMA user_version to steps.size(), step i upgrading version i, in one transaction.
-    bool migrate(std::span<const char* const> steps);
+    [[nodiscard]] bool migrate(std::span<const char* const> steps);
 
     // The primary result code of the most recent failed call (SQLITE_BUSY, SQLITE_NOTADB, ...).
     int lastError() const;

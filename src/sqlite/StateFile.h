@@ -19,10 +19,10 @@ public:
     using Prepare = std::function<bool(SqliteConnection&)>;
 
     // Nothing only when not even a fresh file can be opened (or the file stays locked by another process).
-    static std::unique_ptr<SqliteConnection> open(
+    [[nodiscard]] static std::unique_ptr<SqliteConnection> open(
         const std::filesystem::path& file, MessageSink& messages, const Prepare& prepare);
     // An in-memory database with the same tables.
-    static std::unique_ptr<SqliteConnection> openInMemory(const Prepare& prepare);
+    [[nodiscard]] static std::unique_ptr<SqliteConnection> openInMemory(const Prepare& prepare);
 
     // Where a broken `file` goes: "<name>.broken-YYYYMMDD-HHMMSS" beside it, numbered when that exists.
     static std::filesystem::path setAsideName(const std::filesystem::path& file, const std::tm& localTime);

@@ -22,7 +22,7 @@ public:
     const std::wstring& text() const { return m_text; }
     // The location code of `city`: the name is looked for in the text, and the code is what follows the
     // next ";" up to the line feed, less a trailing carriage return. Nothing when the name is absent.
-    std::optional<std::wstring> codeOf(std::wstring_view city) const;
+    [[nodiscard]] std::optional<std::wstring> codeOf(std::wstring_view city) const;
 
 private:
     std::vector<std::wstring> m_cities;

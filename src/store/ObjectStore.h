@@ -34,8 +34,8 @@ public:
 
     // Opens or creates `file`; a file that is not a readable database is set aside (the message says where)
     // and a fresh one is started. Nothing only when even a fresh file cannot be created.
-    static std::unique_ptr<ObjectStore> open(const std::filesystem::path& file, MessageSink& messages);
-    static std::unique_ptr<ObjectStore> openInMemory();
+    [[nodiscard]] static std::unique_ptr<ObjectStore> open(const std::filesystem::path& file, MessageSink& messages);
+    [[nodiscard]] static std::unique_ptr<ObjectStore> openInMemory();
 
     // Another process's commits are looked for at most this often; this process's writes are seen at once.
     static constexpr std::chrono::milliseconds OtherWritersInterval {10};

@@ -79,7 +79,7 @@ private:
         std::uint32_t flags = 0;
     };
 
-    std::optional<std::int64_t> findDatabase(std::wstring_view name);
+    [[nodiscard]] std::optional<std::int64_t> findDatabase(std::wstring_view name);
     std::vector<SortOrder> sortOrdersOf(std::int64_t databaseId);
     // Opens with the traversal of `sortId`'s order, or of the first order when there is none.
     bool openWith(std::wstring_view name, std::optional<PropertyId> sortId);

@@ -46,6 +46,12 @@ void Painting::drawRaisedEdge(QPainter& painter, int left, int top, int right, i
     frame(left + 1, top + 1, right - 1, bottom - 1, QColor(255, 255, 255), QColor(128, 128, 128));
 }
 
+void Painting::drawTextAt(QPainter& painter, const QFont& font, int left, int top, const QString& text)
+{
+    painter.setFont(font);
+    painter.drawText(left, top + QFontMetrics(font).ascent(), text);
+}
+
 QString Painting::shortenToFit(const QFontMetrics& metrics, QString text, int width)
 {
     while (!text.isEmpty() && metrics.horizontalAdvance(text) >= width)
@@ -56,5 +62,5 @@ QString Painting::shortenToFit(const QFontMetrics& metrics, QString text, int wi
 QString Painting::loadString(int id)
 {
     const auto text = StringTable::Load(id);
-    return toQString(text);
+    return ToQString(text);
 }

@@ -34,6 +34,9 @@ void drawBand(
 // with right and bottom exclusive.
 void drawRaisedEdge(QPainter& painter, int left, int top, int right, int bottom);
 
+// Writes `text` in `font` with its text cell's top-left corner at (left, top).
+void drawTextAt(QPainter& painter, const QFont& font, int left, int top, const QString& text);
+
 // Drops the last character until the text is narrower than `width`.
 QString shortenToFit(const QFontMetrics& metrics, QString text, int width);
 

@@ -6,5 +6,5 @@
 
 void QtMessageSink::showMessage(std::wstring_view text, std::wstring_view caption)
 {
-    m_boxes.show(m_parent, toQString(text), toQString(caption));
+    m_boxes.show(m_parent, ToQString(text), ToQString(caption));
 }

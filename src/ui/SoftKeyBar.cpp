@@ -34,7 +34,7 @@ void SoftKeyBar::setUpKey(int index, const SoftKeyLayout& layout)
             key.menu->addSeparator();
             continue;
         }
-        QAction* action = key.menu->addAction(toQString(item.text));
+        QAction* action = key.menu->addAction(ToQString(item.text));
         action->setData(item.command);
         connect(action, &QAction::triggered, this, [this, command = item.command] { emit commandTriggered(command); });
     }

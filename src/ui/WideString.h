@@ -7,12 +7,12 @@
 #include <string_view>
 
 // The one conversion between the core's wide strings and Qt's strings.
-inline QString toQString(std::wstring_view text)
+inline QString ToQString(std::wstring_view text)
 {
     return QString::fromWCharArray(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-inline std::wstring toWide(const QString& text)
+inline std::wstring ToWide(const QString& text)
 {
     return text.toStdWString();
 }

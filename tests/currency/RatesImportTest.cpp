@@ -49,13 +49,13 @@ TEST(RatesImport, DollarRatesAreTheQuotientOfThePublishedRates)
         {1.25, 0.8, L"1.5625"},
     };
     for (const auto& [dollars, units, expected] : cases)
-        EXPECT_EQ(RatesImport::DollarRateText(dollars, units), expected);
+        EXPECT_EQ(RatesImport::dollarRateText(dollars, units), expected);
 
     // Any quotient: plain decimal text that wcstod reads back as exactly the quotient.
     const double published[] = {1.0859, 169.03, 0.8542, 17556.48, 4.9764, 0.00123, 99999.9, 1.0, 380.75};
     for (const double dollars : published) {
         for (const double units : published) {
-            const std::wstring text = RatesImport::DollarRateText(dollars, units);
+            const std::wstring text = RatesImport::dollarRateText(dollars, units);
             EXPECT_EQ(text.find_first_not_of(L"0123456789."), std::wstring::npos) << text.c_str();
             EXPECT_EQ(Wcstod(text), dollars / units) << text.c_str();
         }
@@ -64,14 +64,14 @@ TEST(RatesImport, DollarRatesAreTheQuotientOfThePublishedRates)
 
 TEST(RatesImport, StampsAreMidnightOfTheFilesDate)
 {
-    EXPECT_EQ(RatesImport::FileTimeOf(1601y / 1 / 1), 0u);
+    EXPECT_EQ(RatesImport::fileTimeOf(1601y / 1 / 1), 0u);
     // The Unix epoch as a FILETIME.
-    EXPECT_EQ(RatesImport::FileTimeOf(1970y / 1 / 1), 116444736000000000ULL);
+    EXPECT_EQ(RatesImport::fileTimeOf(1970y / 1 / 1), 116444736000000000ULL);
     // Every day the ECB may date reads back as itself, at midnight.
     for (std::chrono::sys_days day = std::chrono::sys_days {1999y / 1 / 1};
          day <= std::chrono::sys_days {2030y / 12 / 31}; day += std::chrono::days {1}) {
         const std::chrono::year_month_day date {day};
-        const auto read = CurrencyStore::LastUpdateDate(RatesImport::FileTimeOf(date), 2030);
+        const auto read = CurrencyStore::LastUpdateDate(RatesImport::fileTimeOf(date), 2030);
         ASSERT_TRUE(read);
         ASSERT_EQ(read->year, static_cast<int>(date.year()));
         ASSERT_EQ(read->month, static_cast<unsigned>(date.month()));
@@ -87,7 +87,7 @@ TEST(RatesImport, AFailedWriteLeavesTheStoreAsItWas)
     const auto before = ratesOf(*store);
     RatesImport::Plan plan;
     plan.updates = {{L"USD", L"US Dollar", L"2"}, {L"XXX", L"Nowhere Dollar", L"3"}};
-    plan.stamp = RatesImport::FileTimeOf(2024y / 5 / 17);
+    plan.stamp = RatesImport::fileTimeOf(2024y / 5 / 17);
     EXPECT_FALSE(RatesImport::apply(*objects, *store, plan));
     EXPECT_EQ(ratesOf(*store), before);
     EXPECT_EQ(store->LastUpdate(), 0u);

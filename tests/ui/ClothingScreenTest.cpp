@@ -26,7 +26,7 @@ QStringList texts(std::span<const int> ids)
 {
     QStringList result;
     for (const int id : ids)
-        result << toQString(StringTable::Load(id));
+        result << ToQString(StringTable::Load(id));
     return result;
 }
 
@@ -36,8 +36,8 @@ std::pair<QString, QStringList> table(int wearer, int garment)
     const ClothingSizes::Table* found = ClothingSizes::Find(wearer, garment);
     QStringList rows;
     for (const std::wstring_view row : found->rows)
-        rows << toQString(row);
-    return {toQString(StringTable::Load(found->titleId)), rows};
+        rows << ToQString(row);
+    return {ToQString(StringTable::Load(found->titleId)), rows};
 }
 
 // Stores "who" and "cloth"; nothing stored for an empty value.

@@ -40,7 +40,7 @@ struct ConverterBench
         }
     }
 
-    QLineEdit* field(int k) { return screen.findChild<QLineEdit*>(QStringLiteral("amountLineEdit%1").arg(k)); }
+    QLineEdit* field(int k) { return screen.findChild<QLineEdit*>(QStringLiteral("amount%1NumericEdit").arg(k)); }
     QStringList texts() { return {field(1)->text(), field(2)->text(), field(3)->text()}; }
     void type(int k, const QString& text)
     {

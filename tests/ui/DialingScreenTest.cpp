@@ -37,7 +37,7 @@ QStringList row(const ReportList& list, int index)
 
 QStringList row(std::wstring_view a, std::wstring_view b, std::wstring_view c)
 {
-    return {toQString(a), toQString(b), toQString(c)};
+    return {ToQString(a), ToQString(b), ToQString(c)};
 }
 
 QList<int> columnWidths(const ReportList& list)

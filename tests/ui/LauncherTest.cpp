@@ -12,6 +12,8 @@
 #include <QPaintEvent>
 #include <QTest>
 
+#include <array>
+
 namespace {
 
 // Collects the areas a widget actually repaints, as the screen would show them.
@@ -152,16 +154,24 @@ private slots:
 
     void theHighlightFramesTheSelectedIcon()
     {
+        // Icons sit centred in four columns of W / 4: at 240 wide x = 22, 82, 142, 202; at 268 wide the
+        // columns are 67 wide, so x = 25, 92, 159, 226. The frame is 2 pixels outside, at y 48 or 78.
+        using Case = std::pair<QSize, std::array<int, 4>>;
+        const Case cases[] = {{{240, 268}, {22, 82, 142, 202}}, {{268, 240}, {25, 92, 159, 226}}};
         ScreenTestBench bench;
         ServicesApp launcher(bench.environment, bench.window);
         withLauncher(bench, launcher, [&] {
-            for (const QSize area : {QSize(240, 268), QSize(268, 240)}) {
-                const int cell = area.width() / 4;
+            for (const auto& [area, columns] : cases) {
+                QCOMPARE(bench.window.workArea(), area);
                 for (int i = 0; i < 8; ++i) {
-                    const int x = (i % 4) * area.width() / 4 + (cell - 16) / 2;
+                    const int x = columns[static_cast<std::size_t>(i % 4)];
                     const int top = i < 4 ? 48 : 78;
                     QCOMPARE(launcher.selection(), i);
                     QCOMPARE(launcher.highlightRect(), QRect(x - 2, top, 20, 20));
+                    // The raised edge is painted there: light on its top side, dark on its right side.
+                    const QImage image = bench.render();
+                    QCOMPARE(image.pixelColor(x + 8, top), QColor(230, 230, 230));
+                    QCOMPARE(image.pixelColor(x + 17, top + 10), QColor(64, 64, 64));
                     bench.press(Qt::Key_Right);
                 }
                 bench.press(Qt::Key_R, Qt::ControlModifier);

@@ -56,6 +56,10 @@ check "--exit-after-first-paint ends with 0" 0 $?
 test "$(stat -c %a "$work/state3")" = 700
 check "the state folder is private" 0 $?
 
+# A negative amount after the command is an amount, and program options may follow it.
+out=$("$program" convert -40 "°C - Degree Celsius" 4:1 --state-dir "$work/state4" 2>"$work/err")
+check "convert takes a negative amount" "0 -40.000000" "$? $out"
+
 timeout 60 "$program" --tour "$work/tour" >"$work/out" 2>&1
 check "the tour exits 0" 0 $?
 test -s "$work/tour/launcher.png"

@@ -32,12 +32,6 @@ int positionOrFirst(std::uint32_t stored, std::size_t count)
     return stored < count ? static_cast<int>(stored) : 0;
 }
 
-void drawTextAt(QPainter& painter, const QFont& font, int left, int top, const QString& text)
-{
-    painter.setFont(font);
-    painter.drawText(left, top + QFontMetrics(font).ascent(), text);
-}
-
 } // namespace
 
 ClothingScreen::ClothingScreen(ScreenEnvironment& environment, DeviceWindow& window)
@@ -75,7 +69,7 @@ QStringList ClothingScreen::shownRows() const
     QStringList rows;
     if (m_table) {
         for (const std::wstring_view row : m_table->rows)
-            rows << toQString(ClothingSizes::Shifted(row, m_shift));
+            rows << ToQString(ClothingSizes::Shifted(row, m_shift));
     }
     return rows;
 }
@@ -131,10 +125,10 @@ void ClothingScreen::paint(QPainter& painter)
 {
     m_title.paint(painter);
     painter.setPen(Painting::White);
-    drawTextAt(painter, m_labelFont, TextLeft, TableTitleTop, tableTitle());
+    Painting::drawTextAt(painter, m_labelFont, TextLeft, TableTitleTop, tableTitle());
     const QStringList rows = shownRows();
     for (int i = 0; i < rows.size(); ++i)
-        drawTextAt(painter, m_rowFont, TextLeft, FirstRowTop + i * RowPitch, rows.at(i));
+        Painting::drawTextAt(painter, m_rowFont, TextLeft, FirstRowTop + i * RowPitch, rows.at(i));
 }
 
 void ClothingScreen::spinnerDelta(Spinner&, int delta)

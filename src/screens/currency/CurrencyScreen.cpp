@@ -36,11 +36,6 @@ int fieldTop(std::size_t field)
     return FirstFieldTop + static_cast<int>(field) * FieldPitch;
 }
 
-void drawTextAt(QPainter& painter, int left, int top, const QString& text)
-{
-    painter.drawText(left, top + painter.fontMetrics().ascent(), text);
-}
-
 } // namespace
 
 CurrencyScreen::CurrencyScreen(
@@ -57,7 +52,7 @@ CurrencyScreen::CurrencyScreen(
     m_titleBand.setTextOrigin(QPoint(5, 2));
     for (std::size_t k = 0; k < FieldCount; ++k) {
         auto* field = new NumericEdit(this);
-        field->setObjectName(QStringLiteral("amountLineEdit%1").arg(k + 1));
+        field->setObjectName(QStringLiteral("amount%1NumericEdit").arg(k + 1));
         field->setFont(m_titleFont);
         connect(field, &NumericEdit::focusChanged, this, [this, k](bool focused) {
             if (focused)
@@ -77,10 +72,10 @@ void CurrencyScreen::initialise()
     m_store.Load();
     for (std::size_t k = 0; k < FieldCount; ++k)
         chooseCurrency(k, ReadSetting(m_settings, *PositionSettings[k]));
-    m_focusLabel = toQString(m_currencies[0].label);
-    m_lastUpdate = toQString(LastUpdateText(m_store.LastUpdate(), environment().clock.localTime().year));
+    m_focusLabel = ToQString(m_currencies[0].label);
+    m_lastUpdate = ToQString(LastUpdateText(m_store.LastUpdate(), environment().clock.localTime().year));
     m_fields[0]->setFocus();
-    m_fields[0]->setText(toQString(ReadSetting(m_settings, Settings::CurrencyAmount)));
+    m_fields[0]->setText(ToQString(ReadSetting(m_settings, Settings::CurrencyAmount)));
     convertFrom(0);
 }
 
@@ -105,7 +100,7 @@ void CurrencyScreen::layout(int width, int)
 void CurrencyScreen::fieldFocused(std::size_t field)
 {
     m_focusFrame = m_fields[field]->focusFrame();
-    m_focusLabel = toQString(m_currencies[field].label);
+    m_focusLabel = ToQString(m_currencies[field].label);
     update();
 }
 
@@ -121,11 +116,11 @@ void CurrencyScreen::convertFrom(std::size_t field)
 {
     if (!isRunning() || focusedField() != field)
         return;
-    const std::wstring text = toWide(m_fields[field]->text().left(MaxFieldText));
+    const std::wstring text = ToWide(m_fields[field]->text().left(MaxFieldText));
     const double rate = m_currencies[field].rate;
     for (std::size_t j = 0; j < FieldCount; ++j) {
         if (j != field)
-            m_fields[j]->setText(toQString(ConvertedFieldText(text, rate, m_currencies[j].rate)));
+            m_fields[j]->setText(ToQString(ConvertedFieldText(text, rate, m_currencies[j].rate)));
     }
 }
 
@@ -157,7 +152,7 @@ void CurrencyScreen::changeCurrency()
         chooseCurrency(*field, CurrencyPosition(m_store, dialog.selection()));
         m_fields[*field]->setFocus();
         convertFrom(*field);
-        m_focusLabel = toQString(m_currencies[*field].label);
+        m_focusLabel = ToQString(m_currencies[*field].label);
     }
     update();
 }
@@ -168,15 +163,13 @@ void CurrencyScreen::paint(QPainter& painter)
     const int height = workHeight();
     m_titleBand.paint(painter);
     painter.setPen(Painting::White);
-    painter.setFont(m_titleFont);
     for (std::size_t k = 0; k < FieldCount; ++k)
-        drawTextAt(painter, CodeLeft, fieldTop(k), toQString(m_currencies[k].label).left(3));
+        Painting::drawTextAt(painter, m_titleFont, CodeLeft, fieldTop(k), ToQString(m_currencies[k].label).left(3));
 
-    painter.setFont(m_textFont);
-    drawTextAt(painter, 5, height - 25, m_lastUpdate);
+    Painting::drawTextAt(painter, m_textFont, 5, height - 25, m_lastUpdate);
     paintRateLines(painter, height);
     painter.fillRect(QRect(0, height - 110, width, 20), Painting::ConverterBand);
-    drawTextAt(painter, 10, height - 110, m_focusLabel);
+    Painting::drawTextAt(painter, m_textFont, 10, height - 110, m_focusLabel);
     if (!m_focusFrame.isNull())
         Painting::drawRaisedEdge(painter, m_focusFrame.left(), m_focusFrame.top(),
             m_focusFrame.left() + m_focusFrame.width(), m_focusFrame.top() + m_focusFrame.height());
@@ -186,14 +179,14 @@ void CurrencyScreen::paint(QPainter& painter)
 void CurrencyScreen::paintRateLines(QPainter& painter, int height)
 {
     const auto& [first, second, third] = m_currencies;
-    drawTextAt(painter, 5, height - 75, toQString(FirstRateLine(first, second)));
-    const int lead = painter.fontMetrics().horizontalAdvance(toQString(FirstRateLineLead(first)));
-    drawTextAt(painter, 5 + lead, height - 60, toQString(SecondRateLine(first, third)));
+    Painting::drawTextAt(painter, m_textFont, 5, height - 75, ToQString(FirstRateLine(first, second)));
+    const int lead = QFontMetrics(m_textFont).horizontalAdvance(ToQString(FirstRateLineLead(first)));
+    Painting::drawTextAt(painter, m_textFont, 5 + lead, height - 60, ToQString(SecondRateLine(first, third)));
 }
 
 void CurrencyScreen::destroyWork()
 {
     for (std::size_t k = 0; k < FieldCount; ++k)
         WriteSetting(m_settings, *PositionSettings[k], m_positions[k]);
-    WriteSetting(m_settings, Settings::CurrencyAmount, toWide(m_fields[0]->text().left(MaxFieldText)));
+    WriteSetting(m_settings, Settings::CurrencyAmount, ToWide(m_fields[0]->text().left(MaxFieldText)));
 }

@@ -90,11 +90,11 @@ void DialingScreen::fillLists()
     int row = 0;
     for (const DialingCodes::Country& country : DialingCodes::International())
         m_international->insertRow(
-            row++, {toQString(country.country), toQString(DialingCodes::ShownCode(country)), toQString(country.gmt)});
+            row++, {ToQString(country.country), ToQString(DialingCodes::ShownCode(country)), ToQString(country.gmt)});
     m_areaCodes->clearRows();
     row = 0;
     for (const DialingCodes::AreaCode& area : DialingCodes::UsAreaCodes())
-        m_areaCodes->insertRow(row++, {toQString(area.city), toQString(area.state), toQString(area.code)});
+        m_areaCodes->insertRow(row++, {ToQString(area.city), ToQString(area.state), ToQString(area.code)});
 }
 
 void DialingScreen::showChosenList()

@@ -56,7 +56,7 @@ void SelectDialog::fillCities()
     const int count = m_cities.Count();
     names.reserve(count);
     for (int i = 0; i < count; ++i)
-        names << toQString(m_cities.CityName(static_cast<std::uint32_t>(i)));
+        names << ToQString(m_cities.CityName(static_cast<std::uint32_t>(i)));
     m_list->setItems(names);
 }
 
@@ -71,7 +71,7 @@ void SelectDialog::fillCurrencies()
         const std::wstring name = m_currencies.Name(position);
         // A currency whose code and name are both empty is left out of the list.
         if (IsListedCurrency(code, name))
-            items << toQString(code + L" - " + name);
+            items << ToQString(code + L" - " + name);
     }
     m_list->setItems(items);
 }
@@ -96,7 +96,7 @@ void SelectDialog::computePanel()
     const DeviceOffset device = HomeCity::deviceOffset(m_cities, HomeCity::position(m_settings), clock);
     const CityRecord city = m_cities.Record(static_cast<std::uint32_t>(index));
     for (const std::wstring& line : CityInformationLines(city, device, clock.localTime()))
-        m_panelLines << toQString(line);
+        m_panelLines << ToQString(line);
 }
 
 void SelectDialog::layout(int width, int)

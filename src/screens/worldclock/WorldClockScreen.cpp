@@ -94,7 +94,7 @@ void WorldClockScreen::computeOffsets()
     for (std::size_t i = 0; i < SlotCount; ++i) {
         const CityRecord city = m_cities.Record(m_cityOf[i]);
         zones[i] = zoneTexts(city);
-        m_names[i] = toQString(city.name);
+        m_names[i] = ToQString(city.name);
         m_standardOffsets[i] = Wtol(city.timeZone);
         m_favourite[i] = !city.name.empty() && m_favourites.findByName(city.name) != 0;
     }
@@ -146,9 +146,9 @@ ClockView WorldClockScreen::view(int slot) const
     const TwelveHourTime twelve = ToTwelveHour(time);
     ClockView view;
     view.name = m_names[index];
-    view.time = toQString(m_twelveHour ? twelve.time : time);
-    view.suffix = m_twelveHour ? toQString(twelve.suffix) : QString();
-    view.date = toQString(m_texts[index].date);
+    view.time = ToQString(m_twelveHour ? twelve.time : time);
+    view.suffix = m_twelveHour ? ToQString(twelve.suffix) : QString();
+    view.date = ToQString(m_texts[index].date);
     view.daylightNow = m_slots[index].observes && m_slots[index].offset != m_standardOffsets[index];
     view.favourite = m_favourite[index];
     view.hands = m_handTimes[index];

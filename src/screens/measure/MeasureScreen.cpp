@@ -1,0 +1,236 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "screens/measure/MeasureScreen.h"
+
+#include "settings/SettingsTable.h"
+#include "ui/BusyCursor.h"
+#include "ui/Commands.h"
+#include "ui/MessageBox.h"
+#include "ui/NumericEdit.h"
+#include "ui/Painting.h"
+#include "ui/SoftKeyBar.h"
+#include "ui/Spinner.h"
+#include "ui/TitleBand.h"
+#include "ui/WideString.h"
+#include "units/UnitConversion.h"
+
+#include <QPainter>
+#include <QSignalBlocker>
+
+namespace {
+
+constexpr int ScreenTitle = 40044; // "Measurements"
+constexpr int ConvertLabel = 40054;
+constexpr int FromLabel = 40052;
+constexpr int ToLabel = 40053;
+constexpr int BelowAbsoluteZero = 40055;
+
+// Layout, b being the title band's height and W the work area's width: the category list at (6, b+26),
+// W-17 wide; the from list, the amount field, the to list and the result field below it. Lists are 24
+// high and end 11 pixels from the right edge, the fields 25 high and 10 from it.
+constexpr int Band = TitleBand::Height;
+constexpr int ListLeft = 6;
+constexpr int ListHeight = 24;
+constexpr int ListRightMargin = 11;
+constexpr int FieldLeft = 5;
+constexpr int FieldHeight = 25;
+constexpr int FieldRightMargin = 10;
+constexpr int CategoryTop = Band + 26;
+constexpr int FromTop = Band + 86;
+constexpr int AmountTop = Band + 115;
+constexpr int ToTop = Band + 176;
+constexpr int ResultTop = Band + 205;
+// The labels: "Convert:" under the band, "From:" and "To:" above their lists.
+constexpr int LabelLeft = 5;
+constexpr int ConvertLabelTop = 28;
+constexpr int FromLabelTop = Band + 60;
+constexpr int ToLabelTop = Band + 150;
+
+QStringList toStrings(const std::vector<std::wstring>& texts)
+{
+    QStringList strings;
+    for (const std::wstring& text : texts)
+        strings << ToQString(text);
+    return strings;
+}
+
+// The top of an item laid out at `top` on a work area `height` high. The offsets are fixed from the top;
+// on a work area too short for the result field (a rotated handheld is 240 high) the space under the
+// title band is shared out in the same proportions, so nothing is cut off at the bottom.
+int placed(int top, int height)
+{
+    const int needed = ResultTop + FieldHeight + 3;
+    if (height >= needed || top <= Band)
+        return top;
+    return Band + (top - Band) * (height - Band - FieldHeight - 3) / (ResultTop - Band);
+}
+
+} // namespace
+
+MeasureScreen::MeasureScreen(ScreenEnvironment& environment, DeviceWindow& window)
+    : Screen(environment, window, MenuBarId::Converter, QStringLiteral("measure"))
+    , m_title(Painting::ConverterBand, ScreenTitle)
+    , m_settings(environment.settings)
+    , m_catalogue(environment.objects)
+    , m_categorySpinner(new Spinner(this))
+    , m_fromSpinner(new Spinner(this))
+    , m_toSpinner(new Spinner(this))
+    , m_amountEdit(new NumericEdit(this))
+    , m_resultEdit(new NumericEdit(this))
+{
+    setBackgroundPicture(L"bconv.jpg");
+    m_categorySpinner->setObjectName(QStringLiteral("categorySpinner"));
+    m_fromSpinner->setObjectName(QStringLiteral("fromSpinner"));
+    m_toSpinner->setObjectName(QStringLiteral("toSpinner"));
+    m_amountEdit->setObjectName(QStringLiteral("amountLineEdit"));
+    m_resultEdit->setObjectName(QStringLiteral("resultLineEdit"));
+    m_resultEdit->setReadOnly(true); // looks like the amount field; the program alone writes it
+    setTabOrder(m_categorySpinner, m_fromSpinner);
+    setTabOrder(m_fromSpinner, m_amountEdit);
+    setTabOrder(m_amountEdit, m_toSpinner);
+    setTabOrder(m_toSpinner, m_resultEdit);
+    connect(m_categorySpinner, &Spinner::currentChanged, this, &MeasureScreen::changeCategory);
+    connect(m_fromSpinner, &Spinner::currentChanged, this, &MeasureScreen::convert);
+    connect(m_toSpinner, &Spinner::currentChanged, this, &MeasureScreen::convert);
+    connect(m_amountEdit, &QLineEdit::textChanged, this, &MeasureScreen::convert);
+}
+
+MeasureScreen::~MeasureScreen() = default;
+
+void MeasureScreen::initialise()
+{
+    {
+        const BusyCursor busy;
+        m_catalogue.Build();
+    }
+    m_labelFont = Painting::makeFont(21, Painting::Bold);
+    m_listFont = Painting::makeFont(21, Painting::Normal);
+    takeOverBackKey();
+    readUnits();
+
+    QStringList titles;
+    for (const UnitCategory& category : UnitTables::Categories())
+        titles << Painting::loadString(category.titleId);
+    m_categorySpinner->setItems(titles);
+    m_categorySpinner->setCurrentIndex(static_cast<int>(ReadSetting(m_settings, Settings::MeasureType)));
+    fillUnitLists();
+    m_fromSpinner->setCurrentIndex(static_cast<int>(ReadSetting(m_settings, Settings::MeasureUnit1)));
+    m_toSpinner->setCurrentIndex(static_cast<int>(ReadSetting(m_settings, Settings::MeasureUnit2)));
+
+    for (Spinner* list : {m_categorySpinner, m_fromSpinner, m_toSpinner})
+        list->setFont(m_listFont);
+    m_resultEdit->setText(QStringLiteral("0"));
+    setAmount(QStringLiteral("0"));
+    setAmount(ToQString(ReadSetting(m_settings, Settings::MeasureValue)));
+    // The conversions made while opening leave "Undo" grey.
+    setUndoEnabled(false);
+    m_categorySpinner->setFocus();
+}
+
+void MeasureScreen::readUnits()
+{
+    const BusyCursor busy;
+    m_units = UnitLists::Read(m_catalogue);
+}
+
+void MeasureScreen::fillUnitLists()
+{
+    const QStringList names = toStrings(m_units.Names(m_categorySpinner->currentIndex()));
+    m_fromSpinner->setItems(names);
+    m_toSpinner->setItems(names);
+}
+
+void MeasureScreen::changeCategory()
+{
+    {
+        const BusyCursor busy;
+        fillUnitLists();
+    }
+    m_fromSpinner->setCurrentIndex(0);
+    m_toSpinner->setCurrentIndex(0);
+    // Both units are the same: the amount is shown as it was typed.
+    m_resultEdit->setText(m_amountEdit->text());
+}
+
+void MeasureScreen::convert()
+{
+    const auto result = UnitConversion::Convert(m_units, m_categorySpinner->currentIndex(),
+        m_fromSpinner->currentIndex(), m_toSpinner->currentIndex(), ToWide(m_amountEdit->text()));
+    if (result.belowAbsoluteZero)
+        environment().boxes.show(this, Painting::loadString(BelowAbsoluteZero), QString());
+    m_resultEdit->setText(ToQString(result.text));
+    setUndoEnabled(true);
+}
+
+// Setting the text converts even when it is unchanged.
+void MeasureScreen::setAmount(const QString& text)
+{
+    {
+        const QSignalBlocker quiet(m_amountEdit);
+        m_amountEdit->setText(text);
+    }
+    convert();
+}
+
+void MeasureScreen::clear()
+{
+    m_resultEdit->setText(QStringLiteral("0"));
+    setAmount(QStringLiteral("0"));
+}
+
+void MeasureScreen::undo()
+{
+    m_amountEdit->undo();
+    setUndoEnabled(false);
+}
+
+void MeasureScreen::setUndoEnabled(bool enabled)
+{
+    if (SoftKeyBar* keys = softKeys())
+        keys->setItemEnabled(Commands::Undo, enabled);
+}
+
+void MeasureScreen::command(int id)
+{
+    if (id == Commands::Clear)
+        clear();
+    else if (id == Commands::Undo)
+        undo();
+    else
+        Screen::command(id);
+}
+
+void MeasureScreen::layout(int width, int height)
+{
+    m_title.layout(width);
+    const int listWidth = width - ListRightMargin - ListLeft;
+    const int fieldWidth = width - FieldRightMargin - FieldLeft;
+    m_categorySpinner->setGeometry(ListLeft, placed(CategoryTop, height), listWidth, ListHeight);
+    m_fromSpinner->setGeometry(ListLeft, placed(FromTop, height), listWidth, ListHeight);
+    m_amountEdit->setGeometry(FieldLeft, placed(AmountTop, height), fieldWidth, FieldHeight);
+    m_toSpinner->setGeometry(ListLeft, placed(ToTop, height), listWidth, ListHeight);
+    m_resultEdit->setGeometry(FieldLeft, placed(ResultTop, height), fieldWidth, FieldHeight);
+}
+
+void MeasureScreen::paint(QPainter& painter)
+{
+    m_title.paint(painter);
+    painter.setPen(Painting::White);
+    const int height = workHeight();
+    Painting::drawTextAt(painter, m_labelFont, LabelLeft, placed(ConvertLabelTop, height), Painting::loadString(ConvertLabel));
+    Painting::drawTextAt(painter, m_labelFont, LabelLeft, placed(FromLabelTop, height), Painting::loadString(FromLabel));
+    Painting::drawTextAt(painter, m_labelFont, LabelLeft, placed(ToLabelTop, height), Painting::loadString(ToLabel));
+}
+
+void MeasureScreen::destroyWork()
+{
+    const std::pair<const DwordSetting&, Spinner*> lists[] = {
+        {Settings::MeasureType, m_categorySpinner},
+        {Settings::MeasureUnit1, m_fromSpinner},
+        {Settings::MeasureUnit2, m_toSpinner},
+    };
+    for (const auto& [setting, list] : lists) {
+        if (list->currentIndex() >= 0)
+            WriteSetting(m_settings, setting, static_cast<std::uint32_t>(list->currentIndex()));
+    }
+    WriteSetting(m_settings, Settings::MeasureValue, UnitConversion::AmountText(ToWide(m_amountEdit->text())));
+}

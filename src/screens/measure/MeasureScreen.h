@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "settings/RegistrySettings.h"
+#include "ui/Screen.h"
+#include "ui/TitleBand.h"
+#include "units/UnitCatalogue.h"
+#include "units/UnitLists.h"
+
+#include <QFont>
+
+class NumericEdit;
+
+// The Measurements screen: an amount converted between two units of one of seven categories. The
+// category, both units and the amount are kept in the settings between visits.
+class MeasureScreen final : public Screen
+{
+    Q_OBJECT
+
+public:
+    MeasureScreen(ScreenEnvironment& environment, DeviceWindow& window);
+    ~MeasureScreen() override;
+
+protected:
+    void initialise() override;
+    void layout(int width, int height) override;
+    void paint(QPainter& painter) override;
+    void destroyWork() override;
+    void command(int id) override;
+
+private:
+    void readUnits();
+    // Fills both unit lists with the units of the selected category.
+    void fillUnitLists();
+    void changeCategory();
+    void convert();
+    // Puts `text` into the amount field, which converts it.
+    void setAmount(const QString& text);
+    void clear();
+    void undo();
+    void setUndoEnabled(bool enabled);
+
+    TitleBand m_title;
+    RegistrySettings m_settings;
+    UnitCatalogue m_catalogue;
+    UnitLists m_units;
+    Spinner* m_categorySpinner;
+    Spinner* m_fromSpinner;
+    Spinner* m_toSpinner;
+    NumericEdit* m_amountEdit;
+    NumericEdit* m_resultEdit;
+    QFont m_labelFont;
+    QFont m_listFont;
+};

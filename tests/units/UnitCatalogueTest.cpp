@@ -1,0 +1,188 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "units/UnitCatalogue.h"
+
+#include "text/WideText.h"
+#include "units/UnitLists.h"
+#include "units/UnitTables.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <memory>
+#include <tuple>
+
+namespace {
+
+// A catalogue built in a fresh store in memory.
+struct BuiltCatalogue
+{
+    std::unique_ptr<ObjectStore> store = ObjectStore::openInMemory();
+    UnitCatalogue catalogue {*store};
+
+    BuiltCatalogue() { catalogue.Build(); }
+};
+
+// The positions in traversal order of the units named `name`, with their category codes.
+std::vector<std::pair<std::uint32_t, std::wstring>> unitsNamed(UnitCatalogue& catalogue, const std::wstring& name)
+{
+    std::vector<std::pair<std::uint32_t, std::wstring>> found;
+    for (std::uint32_t p = 0; p < catalogue.RecordCount(); ++p) {
+        if (catalogue.Name(p) == name)
+            found.emplace_back(p, catalogue.Category(p));
+    }
+    return found;
+}
+
+} // namespace
+
+TEST(UnitCatalogue, BuildWritesEveryCategoryStartingWithItsLastRow)
+{
+    BuiltCatalogue built;
+    UnitCatalogue& catalogue = built.catalogue;
+    // 22 + 16 + 24 + 13 + 5 + 23 + 23 units.
+    ASSERT_EQ(catalogue.RecordCount(), 126);
+
+    // Traversal by category, each run in order of addition: the table's last row, then rows 1 to n - 1.
+    std::uint32_t position = 0;
+    for (const UnitCategory& category : UnitTables::Categories()) {
+        const auto rows = category.rows;
+        for (std::size_t i = 0; i < rows.size(); ++i, ++position) {
+            const UnitRow& row = rows[(i + rows.size() - 1) % rows.size()];
+            EXPECT_EQ(catalogue.Category(position), std::wstring(1, category.code)) << position;
+            EXPECT_EQ(catalogue.Name(position), row.name) << position;
+            EXPECT_EQ(catalogue.Factor(position), row.factor) << position;
+        }
+    }
+    EXPECT_EQ(catalogue.Name(126), L"");
+    EXPECT_FALSE(catalogue.SeekTo(126));
+    EXPECT_TRUE(catalogue.SeekTo(125));
+
+    // Texts that look wrong are kept as they stand; temperatures carry "-"; "Yard" is in two categories.
+    using Case = std::tuple<std::wstring, std::vector<std::pair<std::uint32_t, std::wstring>>, std::wstring>;
+    const Case cases[] = {
+        {L"Ton [short, US]", {{103 + 22, L"6"}}, L"907,18474"},
+        {L"Statue Mile (Mile)", {{22 + 15, L"1"}}, L"1609"},
+        {L"atmosphere [standard]", {{38 + 1, L"2"}}, L"101325.01"},
+        {L"yard", {{0, L"0"}}, L"0.83612736"},
+        {L"Yard", {{22, L"1"}, {80, L"5"}}, L"0.9144"},
+        {L"\u00b5m\u00b2 - square micrometer", {{15, L"0"}}, L"0.000000000001"},
+        {L"\u00b0C - Degree Celsius", {{75 + 1, L"4"}}, L"-"},
+        {L"K - Kelvin", {{75, L"4"}}, L"-"},
+        {L"cm3 - Cubic centimeter", {{80 + 2, L"5"}}, L"0.000001"},
+    };
+    for (const auto& [name, places, factor] : cases) {
+        EXPECT_EQ(unitsNamed(catalogue, name), places) << WideToUtf8(name);
+        EXPECT_EQ(catalogue.Factor(places.front().first), factor) << WideToUtf8(name);
+    }
+}
+
+TEST(UnitCatalogue, IsBuiltOnceAndChangedOnlyByItsOwnOperations)
+{
+    BuiltCatalogue built;
+    UnitCatalogue& catalogue = built.catalogue;
+    // A second build, by this accessor or another, finds the catalogue there.
+    catalogue.Build();
+    UnitCatalogue other(*built.store);
+    other.Build();
+    EXPECT_EQ(other.RecordCount(), 126);
+
+    // A unit of an existing name is added all the same, at the end of its category's run.
+    EXPECT_TRUE(catalogue.AddUnit(L"1", L"Yard", L"0.9"));
+    EXPECT_EQ(catalogue.RecordCount(), 127);
+    EXPECT_EQ(catalogue.Name(38), L"Yard");
+    EXPECT_EQ(catalogue.Factor(38), L"0.9");
+    EXPECT_EQ(catalogue.Category(39), L"2");
+
+    EXPECT_TRUE(catalogue.UpdateUnitAt(38, L"1", L"Rod", L"5.0292"));
+    EXPECT_EQ(catalogue.Name(38), L"Rod");
+    EXPECT_EQ(catalogue.Factor(38), L"5.0292");
+    EXPECT_TRUE(catalogue.DeleteUnitAt(38));
+    EXPECT_EQ(catalogue.RecordCount(), 126);
+    EXPECT_FALSE(catalogue.DeleteUnitAt(126));
+    EXPECT_FALSE(catalogue.UpdateUnitAt(126, L"1", L"Rod", L"5.0292"));
+}
+
+TEST(UnitCatalogue, AStoreWithAnyUnitIsNotRefilled)
+{
+    const auto store = ObjectStore::openInMemory();
+    UnitCatalogue catalogue(*store);
+    // Before a build nothing reads.
+    EXPECT_EQ(catalogue.RecordCount(), 0);
+    EXPECT_EQ(catalogue.Name(0), L"");
+
+    PropertyDatabase database(*store);
+    const PropertyId ids[] = {301, 302, 303};
+    database.Create(L"wdkConverters", 56789, 3, ids, 0);
+    ASSERT_TRUE(database.Open(L"wdkConverters"));
+    const Property unit[] = {{301, L"3"}, {302, L"furlong/fortnight"}, {303, L"0.000166"}};
+    ASSERT_TRUE(database.Add(unit, PropertyDatabase::NoKey));
+
+    catalogue.Build();
+    EXPECT_EQ(catalogue.RecordCount(), 1);
+    const UnitLists lists = UnitLists::Read(catalogue);
+    EXPECT_EQ(lists.Names(3), std::vector<std::wstring> {L"furlong/fortnight"});
+    EXPECT_TRUE(lists.Names(0).empty());
+}
+
+TEST(UnitLists, ReadTheCatalogueByCategoryRuns)
+{
+    BuiltCatalogue built;
+    const UnitLists lists = UnitLists::Read(built.catalogue);
+
+    // The count of every category, and its first and last unit as the screen lists them.
+    using Case = std::tuple<int, std::size_t, std::wstring, std::wstring>;
+    const Case cases[] = {
+        {0, 22, L"yard", L"square yard"},
+        {1, 16, L"Yard", L"Statue Mile (Mile)"},
+        {2, 24, L"zettapascal", L"zettabar"},
+        {3, 13, L"speed of sound [air]", L"speed of light [vacuum]"},
+        {4, 5, L"\u00b0C - Degree Celsius", L"K - Kelvin"},
+        {5, 23, L"Yard", L"Milliliter"},
+        {6, 23, L"Tonne", L"Ton [short, US]"},
+    };
+    for (const auto& [category, count, first, last] : cases) {
+        const auto names = lists.Names(category);
+        ASSERT_EQ(names.size(), count) << category;
+        EXPECT_EQ(names.front(), first) << category;
+        EXPECT_EQ(names.back(), last) << category;
+    }
+    // Temperatures keep their own fixed list, whatever order the records are in.
+    EXPECT_EQ(lists.Names(4),
+        (std::vector<std::wstring> {L"\u00b0C - Degree Celsius", L"\u00b0F - Degree Fahrenheit", L"Degree Rankine",
+            L"Degree Reaumur", L"K - Kelvin"}));
+    // Lengths whole: the traversal order of a store that keeps equal keys in order of addition.
+    EXPECT_EQ(lists.Names(1),
+        (std::vector<std::wstring> {L"Yard", L"Cable (in)", L"cm - Centimeter", L"Fth(Fm) - Fathom", L"Feet", L"Inch",
+            L"km - Kilometer", L"League", L"League [nautical]", L"m - Meter", L"Microinch", L"Mile", L"mm - Millimeter",
+            L"nm - Nanometer", L"Nmi(NM,M) - Nautical Mile", L"Statue Mile (Mile)"}));
+    EXPECT_EQ(lists.Factor(6, 22), L"907,18474");
+    EXPECT_EQ(lists.Factor(6, 23), L"");
+    EXPECT_EQ(lists.Factor(6, -1), L"");
+    EXPECT_EQ(lists.Factor(7, 0), L"");
+    EXPECT_TRUE(lists.Names(7).empty());
+}
+
+TEST(UnitLists, MissingOrExtraRecordsShiftOnlyWhatTheRunsDictate)
+{
+    // What was deleted or added, and the counts read for the seven categories.
+    using Case = std::tuple<const char*, std::uint32_t, std::uint32_t, int, std::array<std::size_t, 7>>;
+    const Case cases[] = {
+        {"the pressures deleted: an empty list", 38, 24, 0, {22, 16, 0, 13, 5, 23, 23}},
+        // Five positions are skipped for the temperatures whatever they hold: here five volumes.
+        {"the temperatures deleted", 75, 5, 0, {22, 16, 24, 13, 5, 18, 23}},
+        {"the weights deleted", 103, 23, 0, {22, 16, 24, 13, 5, 23, 0}},
+        // At most 150 units are kept, and the next category is still found.
+        {"140 areas added", 0, 0, 140, {150, 16, 24, 13, 5, 23, 23}},
+    };
+    for (const auto& [what, first, deleted, added, counts] : cases) {
+        BuiltCatalogue built;
+        for (std::uint32_t i = 0; i < deleted; ++i)
+            ASSERT_TRUE(built.catalogue.DeleteUnitAt(first)) << what;
+        for (int i = 0; i < added; ++i)
+            ASSERT_TRUE(built.catalogue.AddUnit(L"0", L"extra", L"1")) << what;
+        const UnitLists lists = UnitLists::Read(built.catalogue);
+        for (int category = 0; category < 7; ++category)
+            EXPECT_EQ(lists.Names(category).size(), counts[static_cast<std::size_t>(category)]) << what << category;
+        EXPECT_EQ(lists.Names(1).front(), L"Yard") << what;
+    }
+}
