@@ -5,6 +5,7 @@
 #include "screens/currency/CurrencyScreen.h"
 #include "screens/dialing/DialingScreen.h"
 #include "screens/measure/MeasureScreen.h"
+#include "screens/weather/WeatherScreen.h"
 #include "screens/worldclock/WorldClockScreen.h"
 #include "ui/Icons.h"
 
@@ -12,7 +13,14 @@ namespace {
 
 std::unique_ptr<Screen> worldClocks(ServiceContext& c)
 {
-    return std::make_unique<WorldClockScreen>(c.environment, c.window, c.cities, c.favourites);
+    auto screen = std::make_unique<WorldClockScreen>(c.environment, c.window, c.cities, c.favourites);
+    screen->setWeatherOpener(&c.weather);
+    return screen;
+}
+
+std::unique_ptr<Screen> worldWeather(ServiceContext& c)
+{
+    return std::make_unique<WeatherScreen>(c.environment, c.window, c.favourites);
 }
 
 std::unique_ptr<Screen> currencyConverter(ServiceContext& c)
@@ -41,7 +49,7 @@ const std::array<Service, ServiceCount>& Services()
 {
     static const std::array<Service, ServiceCount> table {{
         {40008, Icons::Service, worldClocks}, // "World Clocks"
-        {40009, Icons::Service, nullptr}, // "World Weather"
+        {40009, Icons::Service, worldWeather}, // "World Weather"
         {40025, Icons::Service, nullptr}, // "World Map"
         {40034, Icons::Service, currencyConverter}, // "Currency Converter"
         {40044, Icons::Service, measurements}, // "Measurements"

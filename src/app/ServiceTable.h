@@ -9,6 +9,7 @@ class CurrencyStore;
 class DeviceWindow;
 class Screen;
 class WeatherFavourites;
+class WeatherOpener;
 struct InitialCurrencyList;
 struct ScreenEnvironment;
 
@@ -21,6 +22,7 @@ struct ServiceContext
     WeatherFavourites& favourites;
     CurrencyStore& currencies;
     const InitialCurrencyList& initialCurrencies;
+    WeatherOpener& weather; // opens the World Weather screen for another screen's city
 };
 
 // One entry of the launcher, in selection order: its label, its icon, and the screen it opens.

@@ -2,6 +2,7 @@
 #include "app/ServicesApp.h"
 
 #include "app/ServiceTable.h"
+#include "screens/weather/WeatherScreen.h"
 #include "settings/SettingsTable.h"
 #include "ui/BusyCursor.h"
 #include "ui/Commands.h"
@@ -30,7 +31,7 @@ ServicesApp::ServicesApp(ScreenEnvironment& environment, DeviceWindow& window)
     m_selector->setObjectName(QStringLiteral("serviceSpinner"));
     m_selector->setWrapping(true);
     watchSpinner(*m_selector);
-    ServiceContext context {environment, window, m_cities, m_favourites, m_currencies, m_initialCurrencies};
+    ServiceContext context {environment, window, m_cities, m_favourites, m_currencies, m_initialCurrencies, *this};
     for (std::size_t i = 0; i < m_screens.size(); ++i) {
         if (const auto make = Services()[i].makeScreen)
             m_screens[i] = make(context);
@@ -47,6 +48,16 @@ int ServicesApp::selection() const
 Screen* ServicesApp::serviceScreen(int index) const
 {
     return index >= 0 && index < ServiceCount ? m_screens[static_cast<std::size_t>(index)].get() : nullptr;
+}
+
+void ServicesApp::openWeather(Screen& opener, const std::wstring& cityName)
+{
+    for (const auto& screen : m_screens) {
+        if (auto* weather = qobject_cast<WeatherScreen*>(screen.get())) {
+            weather->setEntryCity(cityName);
+            opener.runModal(*weather);
+        }
+    }
 }
 
 void ServicesApp::initialise()

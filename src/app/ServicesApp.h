@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/ServiceTable.h"
+#include "screens/weather/WeatherOpener.h"
 #include "settings/RegistrySettings.h"
 #include "store/CityCatalogue.h"
 #include "store/CurrencyStore.h"
@@ -18,7 +19,7 @@ class Spinner;
 
 // The Services launcher and the application object: it owns the data stores and every screen for
 // the life of the program, shows the eight services as a grid of icons and opens the chosen one.
-class ServicesApp final : public Screen
+class ServicesApp final : public Screen, public WeatherOpener
 {
     Q_OBJECT
 
@@ -33,6 +34,7 @@ public:
     QRect highlightRect() const;
     // The screen a service opens; nullptr for "Todo List" and services not built yet.
     Screen* serviceScreen(int index) const;
+    void openWeather(Screen& opener, const std::wstring& cityName) override;
 
 protected:
     void initialise() override;

@@ -134,11 +134,19 @@ Commands (print to standard output, no window):
                           FILE - reads standard input)
   convert AMOUNT FROM TO  convert AMOUNT between two units of one category
   units [CATEGORY]        the units of the unit converter and their factors
+  weather [FAVOURITE] [--day N]
+                          the five days of a favourite's forecast (or day N)
+  favourites              the weather favourites: name, location code, last
+                          update, country file
+  forecast import FILE [--favourite NAME]
+                          store an Open-Meteo daily forecast (FILE - is standard
+                          input) for the favourite at its place, or for NAME
 
 CITY is a catalogue position or a name ("Paris" or "Paris:France"); FROM and TO
 of "currency" are currency codes or names ("eur", "US Dollar").
 A unit is a name as listed by "units" (or its unique start) or C:I, the category
-and unit indices ("4:0" is degree Celsius).
+and unit indices ("4:0" is degree Celsius). FAVOURITE and NAME are a favourite's
+position or name.
 
 Keys: Left/Right move the selection, Return is the action key, F1 and F2 press
 the soft keys, Escape is Back, Ctrl+R rotates the work area.

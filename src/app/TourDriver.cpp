@@ -43,6 +43,7 @@ void TourDriver::nextService()
         return;
     }
     Screen* service = m_launcher.serviceScreen(m_nextService++);
+    service->tourPrepare();
     m_launcher.runModal(*service);
     QTimer::singleShot(0, this, [this] { nextService(); });
 }

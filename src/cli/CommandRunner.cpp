@@ -4,8 +4,10 @@
 #include "cli/CityCommands.h"
 #include "cli/CurrencyCommands.h"
 #include "cli/DialCommand.h"
+#include "cli/ForecastCommand.h"
 #include "cli/SizesCommand.h"
 #include "cli/UnitCommands.h"
+#include "cli/WeatherCommands.h"
 
 #include <functional>
 #include <map>
@@ -25,10 +27,13 @@ const std::map<std::string, Command>& commands()
         {"convert", RunConvertCommand},
         {"currency", RunCurrencyCommand},
         {"dial", RunDialCommand},
+        {"favourites", RunFavouritesCommand},
+        {"forecast", RunForecastCommand},
         {"rates", RunRatesCommand},
         {"sizes", RunSizesCommand},
         {"time", RunTimeCommand},
         {"units", RunUnitsCommand},
+        {"weather", RunWeatherCommand},
     };
     return table;
 }

@@ -42,7 +42,9 @@ public:
     int runModal(Screen& screen);
     // Ends this screen's run with `result`; its destroy work follows once.
     void endScreen(int result = 0);
-    // What a rendered tour does on this screen after taking its picture (open a dialog, say).
+    // What a rendered tour does before it opens this screen (give it something to show), and on it after
+    // taking its picture (open a dialog, say).
+    virtual void tourPrepare() { }
     virtual void tourVisit() { }
     // Called by the launcher just before it opens this screen as one of its services.
     virtual void openedAsService() { }

@@ -3,6 +3,7 @@
 
 #include "device/DeviceClock.h"
 #include "screens/select/SelectDialog.h"
+#include "screens/weather/WeatherOpener.h"
 #include "settings/SettingsTable.h"
 #include "store/CityCatalogue.h"
 #include "store/CountryCityList.h"
@@ -302,15 +303,20 @@ void WorldClockScreen::changeCity(int slot)
     update();
 }
 
+// A city that is not a favourite yet becomes one first; the weather screen then shows its forecast.
 void WorldClockScreen::showWeather(int slot)
 {
     const auto index = static_cast<std::size_t>(slot);
-    if (m_favourite[index])
-        return;
-    const bool added = addFavourite(m_cityOf[index]);
-    environment().boxes.show(this, Painting::loadString(added ? 40041 : 40039), QStringLiteral("Wanderkit"),
-        QMessageBox::Ok, QMessageBox::Information);
-    update();
+    if (!m_favourite[index]) {
+        const bool added = addFavourite(m_cityOf[index]);
+        environment().boxes.show(this, Painting::loadString(added ? 40041 : 40039), QStringLiteral("Wanderkit"),
+            QMessageBox::Ok, QMessageBox::Information);
+        update();
+        if (!added)
+            return;
+    }
+    if (m_weatherOpener)
+        m_weatherOpener->openWeather(*this, m_cities.CityName(m_cityOf[index]));
 }
 
 void WorldClockScreen::destroyWork()

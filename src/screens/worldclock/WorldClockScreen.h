@@ -14,6 +14,7 @@
 class CityCatalogue;
 class Spinner;
 class WeatherFavourites;
+class WeatherOpener;
 
 // World Clocks: the home clock (the device's own time) and four cities, each with an analog dial, its
 // time and date, a daylight-saving mark and a weather icon. Left/right move the focus over the ten
@@ -40,6 +41,8 @@ public:
     // One tick of the clock: new texts from the device clock, and a repaint of what changed.
     void refresh();
     void tourVisit() override;
+    // Who opens the weather screen for a weather icon's city; without one the icon only adds the favourite.
+    void setWeatherOpener(WeatherOpener* opener) { m_weatherOpener = opener; }
 
 protected:
     void initialise() override;
@@ -65,6 +68,7 @@ private:
 
     CityCatalogue& m_cities;
     WeatherFavourites& m_favourites;
+    WeatherOpener* m_weatherOpener = nullptr;
     RegistrySettings m_settings;
     std::array<std::uint32_t, SlotCount> m_cityOf {};
     std::array<QString, SlotCount> m_names;
