@@ -16,7 +16,7 @@ run_suite() {
 }
 
 echo "== Core and command line, without the GUI"
-run_suite build-core -DCMAKE_BUILD_TYPE=Release -DWANDERKIT_GUI=OFF
+run_suite build-core -DCMAKE_BUILD_TYPE=Debug -DWANDERKIT_GUI=OFF
 echo "== Release build and tests"
 run_suite build -DCMAKE_BUILD_TYPE=RelWithDebInfo -DWANDERKIT_BENCH=ON
 echo "== Sanitizer build and tests"

@@ -4,6 +4,7 @@
 #include "screens/clothing/ClothingScreen.h"
 #include "screens/currency/CurrencyScreen.h"
 #include "screens/dialing/DialingScreen.h"
+#include "screens/map/MapScreen.h"
 #include "screens/measure/MeasureScreen.h"
 #include "screens/weather/WeatherScreen.h"
 #include "screens/worldclock/WorldClockScreen.h"
@@ -21,6 +22,13 @@ std::unique_ptr<Screen> worldClocks(ServiceContext& c)
 std::unique_ptr<Screen> worldWeather(ServiceContext& c)
 {
     return std::make_unique<WeatherScreen>(c.environment, c.window, c.favourites);
+}
+
+std::unique_ptr<Screen> worldMap(ServiceContext& c)
+{
+    auto screen = std::make_unique<MapScreen>(c.environment, c.window, c.cities, c.favourites);
+    screen->setWeatherOpener(&c.weather);
+    return screen;
 }
 
 std::unique_ptr<Screen> currencyConverter(ServiceContext& c)
@@ -50,7 +58,7 @@ const std::array<Service, ServiceCount>& Services()
     static const std::array<Service, ServiceCount> table {{
         {40008, Icons::Service, worldClocks}, // "World Clocks"
         {40009, Icons::Service, worldWeather}, // "World Weather"
-        {40025, Icons::Service, nullptr}, // "World Map"
+        {40025, Icons::Service, worldMap}, // "World Map"
         {40034, Icons::Service, currencyConverter}, // "Currency Converter"
         {40044, Icons::Service, measurements}, // "Measurements"
         {40045, Icons::Service, clothingSizes}, // "Clothing sizes"

@@ -9,6 +9,9 @@
 
 namespace {
 
+// `map` draws with QtGui, so it is the program's own command rather than one of the core's.
+const std::string MapCommand = "map";
+
 bool parseInt(const std::string& text, int low, int high, int& value)
 {
     int parsed = 0;
@@ -71,7 +74,12 @@ std::optional<StartOptions> StartOptions::parse(const std::vector<std::string>& 
             arg = arg.substr(0, eq);
             hasValue = true;
         }
-        if (valueOptions.contains(arg)) {
+        if (o.command == MapCommand && arg == "--size") {
+            // After "map", --size is the picture's size, which the command checks itself.
+            o.commandArgs.push_back(args[i]);
+            if (!hasValue && i + 1 < args.size())
+                o.commandArgs.push_back(args[++i]);
+        } else if (valueOptions.contains(arg)) {
             if (!hasValue) {
                 if (i + 1 >= args.size())
                     return error = arg + " needs a value", std::nullopt;
@@ -87,7 +95,7 @@ std::optional<StartOptions> StartOptions::parse(const std::vector<std::string>& 
             o.exitAfterFirstPaint = true;
         } else if (!o.command.empty()) {
             o.commandArgs.push_back(args[i]);
-        } else if (IsCommand(arg)) {
+        } else if (IsCommand(arg) || arg == MapCommand) {
             o.command = arg;
         } else {
             return error = arg.starts_with("-") ? "unknown option " + args[i] : "unknown command " + args[i],
@@ -134,6 +142,10 @@ Commands (print to standard output, no window):
                           FILE - reads standard input)
   convert AMOUNT FROM TO  convert AMOUNT between two units of one category
   units [CATEGORY]        the units of the unit converter and their factors
+  sun CITY [--date YYYY-MM-DD]
+                          sunrise, sunset and day length of CITY, and the offset used
+  map FILE.png [--size WxH] [--markers]
+                          the world map with the night side darkened, now (default 1024x512)
   weather [FAVOURITE] [--day N]
                           the five days of a favourite's forecast (or day N)
   favourites              the weather favourites: name, location code, last

@@ -3,6 +3,7 @@
 #include "cli/CommandRunner.h"
 #ifdef WANDERKIT_WITH_GUI
 #include "app/GuiApplication.h"
+#include "app/MapCommand.h"
 #endif
 
 #include <iostream>
@@ -23,6 +24,11 @@ int main(int argc, char** argv)
         std::cout << "Wanderkit " << WANDERKIT_VERSION << '\n';
         return 0;
     }
+#ifdef WANDERKIT_WITH_GUI
+    // The map command draws with QtGui, so it is dispatched here rather than among the core's commands.
+    if (options->command == "map")
+        return RunMapCommand({options->device, options->commandArgs}, std::cout, std::cerr);
+#endif
     if (!options->command.empty())
         return RunCommand(options->command, {options->device, options->commandArgs}, std::cout, std::cerr);
 #ifdef WANDERKIT_WITH_GUI

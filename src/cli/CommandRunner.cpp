@@ -6,6 +6,7 @@
 #include "cli/DialCommand.h"
 #include "cli/ForecastCommand.h"
 #include "cli/SizesCommand.h"
+#include "cli/SunCommand.h"
 #include "cli/UnitCommands.h"
 #include "cli/WeatherCommands.h"
 
@@ -31,6 +32,7 @@ const std::map<std::string, Command>& commands()
         {"forecast", RunForecastCommand},
         {"rates", RunRatesCommand},
         {"sizes", RunSizesCommand},
+        {"sun", RunSunCommand},
         {"time", RunTimeCommand},
         {"units", RunUnitsCommand},
         {"weather", RunWeatherCommand},

@@ -118,7 +118,8 @@ class PicturesTest(unittest.TestCase):
                 self.assertEqual((width, abs(height), bits, compression), (48, 48, 24, 0))
 
     def test_jpeg_sizes(self):
-        sizes = {"day.jpg": (480, 240), "bmap.jpg": (480, 240), "back.jpg": (240, 268), "bconv.jpg": (240, 268)}
+        sizes = {"day.jpg": (480, 240), "bmap.jpg": (480, 240), "back.jpg": (240, 268), "bconv.jpg": (240, 268),
+                 "daylarge.jpg": (2048, 1024)}
         for name, size in sizes.items():
             with self.subTest(name=name):
                 self.assertEqual(jpeg_size(read(name)), size)

@@ -1,5 +1,6 @@
 """The screens' JPEG pictures: the day and night world maps and two background images."""
 
+import io
 import math
 
 from PIL import Image, ImageDraw
@@ -7,6 +8,8 @@ from PIL import Image, ImageDraw
 from . import paths
 
 MAP_SIZE = (480, 240)
+# The larger day picture that `wanderkit map` draws from for maps above the handheld's size.
+LARGE_MAP_SIZE = (2048, 1024)
 WORK_AREA = (240, 268)
 JPEG_OPTIONS = {"format": "JPEG", "quality": 88, "optimize": False, "progressive": False, "subsampling": 0}
 
@@ -15,6 +18,19 @@ def world_map(name):
     """An xplanet map (equirectangular, 2:1) scaled to the map screen's size."""
     with Image.open(paths.XPLANET_IMAGES / name) as image:
         return image.convert("RGB").resize(MAP_SIZE, Image.LANCZOS)
+
+
+def large_world_map_bytes(name):
+    """The xplanet map at 2048 x 1024: its own bytes when it has that size, so nothing is lost to a
+    second compression; otherwise scaled to it."""
+    path = paths.XPLANET_IMAGES / name
+    with Image.open(path) as image:
+        if image.size == LARGE_MAP_SIZE and image.format == "JPEG":
+            return path.read_bytes()
+        scaled = image.convert("RGB").resize(LARGE_MAP_SIZE, Image.LANCZOS)
+    out = io.BytesIO()
+    scaled.save(out, **JPEG_OPTIONS)
+    return out.getvalue()
 
 
 def _gradient(size, top, bottom):
@@ -92,3 +108,4 @@ def write_pictures(folder):
                 "back.jpg": background(), "bconv.jpg": converter_background()}
     for name, image in pictures.items():
         image.save(folder / name, **JPEG_OPTIONS)
+    (folder / "daylarge.jpg").write_bytes(large_world_map_bytes("earth.jpg"))

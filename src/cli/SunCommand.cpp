@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/SunCommand.h"
+
+#include "astro/CitySunTimes.h"
+#include "cli/CityLookup.h"
+#include "cli/CommandSession.h"
+#include "device/SystemDeviceClock.h"
+#include "session/HomeCity.h"
+#include "text/WideText.h"
+
+#include <ostream>
+
+namespace {
+
+constexpr int UsageError = 2;
+constexpr const char* Usage = "Usage: wanderkit sun CITY [--date YYYY-MM-DD]\n";
+
+struct SunRequest
+{
+    std::string city;
+    std::optional<SystemTime> date;
+};
+
+// A calendar date from "YYYY-MM-DD", 1601 to 30827; nothing when it is not one.
+std::optional<SystemTime> parseDate(const std::string& text)
+{
+    if (text.size() != 10)
+        return std::nullopt;
+    return SystemDeviceClock::parseLocalTime((text + " 12:00:00").c_str());
+}
+
+std::optional<SunRequest> parseSunRequest(const std::vector<std::string>& args, std::ostream& err)
+{
+    SunRequest request;
+    for (std::size_t i = 0; i < args.size(); ++i) {
+        std::optional<std::string> date;
+        if (args[i] == "--date" && i + 1 < args.size())
+            date = args[++i];
+        else if (args[i].starts_with("--date="))
+            date = args[i].substr(7);
+        if (date) {
+            request.date = parseDate(*date);
+            if (!request.date)
+                return err << "wanderkit: sun: --date wants a calendar date YYYY-MM-DD, got \"" << *date << "\"\n"
+                           << Usage,
+                       std::nullopt;
+        } else if (args[i].starts_with("-") || !request.city.empty()) {
+            return err << "wanderkit: sun: unexpected \"" << args[i] << "\"\n" << Usage, std::nullopt;
+        } else {
+            request.city = args[i];
+        }
+    }
+    if (request.city.empty())
+        return err << "wanderkit: sun: name one city\n" << Usage, std::nullopt;
+    return request;
+}
+
+// The device's local time, moved to `date` when one is given (time of day kept).
+SystemTime onDate(SystemTime now, const std::optional<SystemTime>& date)
+{
+    if (date) {
+        now.year = date->year;
+        now.month = date->month;
+        now.day = date->day;
+    }
+    return now;
+}
+
+} // namespace
+
+int RunSunCommand(const CommandRequest& command, std::ostream& out, std::ostream& err)
+{
+    const auto request = parseSunRequest(command.args, err);
+    if (!request)
+        return UsageError;
+    auto session = CommandSession::open(command, err);
+    if (!session)
+        return 1;
+    std::string error;
+    const auto position = CityLookup(session->cities()).find(request->city, error);
+    if (!position) {
+        err << "wanderkit: " << error << '\n';
+        return UsageError;
+    }
+    CityCatalogue& cities = session->cities();
+    const DeviceOffset device
+        = HomeCity::deviceOffset(cities, HomeCity::position(session->settings()), session->clock());
+    const CitySunTimes sun
+        = ComputeCitySunTimes(cities.Record(*position), device, onDate(session->clock().localTime(), request->date));
+    out << WideToUtf8(sun.times.sunriseText) << '\t' << WideToUtf8(sun.times.sunsetText) << '\t'
+        << WideToUtf8(sun.times.dayLengthText) << '\t' << sun.utcHours << '\n';
+    return 0;
+}

@@ -1,0 +1,335 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "screens/map/MapScreen.h"
+
+#include "CityFixture.h"
+#include "ScreenTestBench.h"
+#include "astro/MapPoint.h"
+#include "screens/select/SelectDialog.h"
+#include "settings/SettingsTable.h"
+#include "store/CityCatalogue.h"
+#include "store/WeatherFavourites.h"
+#include "ui/Commands.h"
+#include "ui/SoftKeyBar.h"
+
+#include <QTest>
+#include <QTimer>
+
+namespace {
+
+constexpr std::uint32_t NotStored = 0xFFFFFFFFu;
+
+// Six cities "A0" to "A5" at chosen whole-degree coordinates (longitude, latitude), on GMT.
+const std::pair<int, int> Places[] = {{0, 0}, {0, 90}, {-120, 20}, {60, -30}, {120, 45}, {10, 10}};
+
+void writePlaces(const TempDir& root)
+{
+    std::string lines = "Test places\n6\n";
+    for (int i = 0; i < 6; ++i)
+        lines += "x;A" + std::to_string(i) + ";Land;" + std::to_string(Places[i].first) + ";"
+            + std::to_string(Places[i].second) + ";0;0;0;0;0;0\n";
+    root.write("cities.lst", lines);
+}
+
+// A bench with a catalogue loaded; `write` fills the device root first.
+struct MapBench
+{
+    explicit MapBench(
+        const std::function<void(const TempDir&)>& write = [](const TempDir& root) { CityFixture::write(root, {}); })
+    {
+        write(bench.root);
+        cities.Load();
+    }
+
+    // Runs the screen, drives it, then leaves it with "Services".
+    void run(const std::function<void()>& drive)
+    {
+        bench.run(screen, [&] {
+            drive();
+            screen.sendCommand(Commands::Services);
+        });
+    }
+
+    std::uint32_t stored(const DwordSetting& setting)
+    {
+        const std::uint32_t value = registry.GetDWORD(setting.subkey, setting.name);
+        return registry.Status() == RegistrySettings::Read ? value : NotStored;
+    }
+
+    // The map as drawn after a full repaint.
+    QImage map()
+    {
+        bench.render();
+        return screen.mapPicture();
+    }
+
+    ScreenTestBench bench;
+    CityCatalogue cities {bench.objects, bench.paths, bench.messages};
+    WeatherFavourites favourites {bench.objects, bench.paths, bench.messages};
+    MapScreen screen {bench.environment, bench.window, cities, favourites};
+    RegistrySettings registry {bench.settings};
+};
+
+// A day picture of the map's own size, so that the plain stretch copies it pixel for pixel.
+void writeDayPicture(const TempDir& root, QSize size)
+{
+    QImage day(size, QImage::Format_RGB32);
+    for (int y = 0; y < size.height(); ++y)
+        for (int x = 0; x < size.width(); ++x)
+            day.setPixel(x, y, qRgb(60 + x % 150, 80 + y % 120, 90 + (x + y) % 160));
+    QVERIFY(day.save(QString::fromStdString((root.path() / "day.jpg").string()), "JPG", 100));
+}
+
+} // namespace
+
+class MapScreenTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void steppingWrapsAtBothEndsAndWritesMapclock()
+    {
+        MapBench t; // 1,000 cities
+        t.run([&] {
+            QCOMPARE(t.screen.selectedCity(), 0);
+            t.bench.press(Qt::Key_Left); // left from the first city: the last
+            QCOMPARE(t.screen.selectedCity(), 999);
+            QCOMPARE(t.stored(Settings::MapClock), 999u); // written at once
+            QCOMPARE(t.screen.shownCityName(), QStringLiteral("C0999"));
+            t.bench.press(Qt::Key_Right); // right from the last: the first
+            QCOMPARE(t.screen.selectedCity(), 0);
+            QCOMPARE(t.stored(Settings::MapClock), 0u);
+            t.bench.press(Qt::Key_Right);
+            t.bench.press(Qt::Key_Right);
+            QCOMPARE(t.screen.selectedCity(), 2);
+            // Someone else's value is overwritten on leaving.
+            t.registry.SetDWORD(Settings::MapKey, L"mapclock", 7);
+        });
+        QCOMPARE(t.stored(Settings::MapClock), 2u);
+    }
+
+    void aStepDrawsItsArrowLargeUntilTheNextTick()
+    {
+        MapBench t;
+        t.run([&] {
+            const int top = t.screen.mapLayout().mapHeight;
+            // The parts of the 24-pixel arrows outside the 16-pixel ones: right of the small left arrow
+            // (x 5 to 20) and left of the small right arrow (x 219 to 234).
+            const QRect leftOnly(22, top + 4, 7, 24);
+            const QRect rightOnly(211, top + 4, 7, 24);
+            const QImage still = t.bench.render();
+            t.bench.press(Qt::Key_Left);
+            const QImage left = t.bench.render();
+            QVERIFY(left.copy(leftOnly) != still.copy(leftOnly));
+            QVERIFY(left.copy(rightOnly) == still.copy(rightOnly));
+            t.bench.advance(MapScreen::TickMilliseconds);
+            QVERIFY(t.bench.render().copy(leftOnly) == still.copy(leftOnly));
+            t.bench.press(Qt::Key_Right);
+            const QImage right = t.bench.render();
+            QVERIFY(right.copy(rightOnly) != still.copy(rightOnly));
+            QVERIFY(right.copy(leftOnly) == still.copy(leftOnly));
+        });
+    }
+
+    void aStoredCityOutsideTheCatalogueShowsTheFirst()
+    {
+        for (const std::uint32_t stored : {1000u, 70000u, 0xFFFFFFFFu}) {
+            MapBench t;
+            WriteSetting(t.registry, Settings::MapClock, stored);
+            t.run([&] {
+                QCOMPARE(t.screen.selectedCity(), 0);
+                QCOMPARE(t.screen.shownCityName(), QStringLiteral("C0000"));
+            });
+            QCOMPARE(t.stored(Settings::MapClock), 0u);
+        }
+        MapBench t;
+        WriteSetting(t.registry, Settings::MapClock, 999);
+        t.run([&] { QCOMPARE(t.screen.selectedCity(), 999); });
+    }
+
+    void markersSitWhereTheirCoordinatesSay()
+    {
+        MapBench t(writePlaces);
+        for (int slot = 1; slot <= 4; ++slot)
+            t.registry.SetDWORD(
+                Settings::WorldClockKey, L"clock" + std::to_wstring(slot), static_cast<std::uint32_t>(slot));
+        WriteSetting(t.registry, Settings::MapClock, 3); // A3 is drawn as the selected city
+        t.run([&] {
+            QVERIFY(t.screen.showCities()); // "showcs" absent
+            QVERIFY(t.screen.softKeys()->isItemChecked(Commands::ShowCitiesOnMap));
+            const QImage map = t.map();
+            QCOMPARE(map.size(), QSize(240, 138));
+            const QRgb marker = MapRenderer::MarkerColour.rgb();
+            // A0 at longitude 0, latitude 0: the middle column and row.
+            QCOMPARE(map.pixel(120, 69), marker);
+            QCOMPARE(map.pixel(118, 67), marker);
+            // A1 at latitude 90: row 0 (its square is cut by the map's top edge).
+            QCOMPARE(map.pixel(120, 0), marker);
+            QCOMPARE(map.pixel(119, 1), marker);
+            QCOMPARE(map.pixel(40, 53), marker); // A2: 120 - 80, 69 - 15.3
+            QCOMPARE(map.pixel(200, 34), marker); // A4: 120 + 80, 69 - 34.5
+            QCOMPARE(map.pixel(160, 92), MapRenderer::SelectedColour.rgb()); // A3, selected: 120 + 40, 69 + 23
+        });
+    }
+
+    void showCitiesTogglesTheMarkersAndItsSetting()
+    {
+        MapBench t(writePlaces);
+        t.run([&] {
+            QCOMPARE(t.map().pixel(120, 69), MapRenderer::SelectedColour.rgb()); // "clock" 0 is A0, selected
+            t.screen.sendCommand(Commands::ShowCitiesOnMap);
+            QVERIFY(!t.screen.showCities());
+            QVERIFY(!t.screen.softKeys()->isItemChecked(Commands::ShowCitiesOnMap));
+            QCOMPARE(t.stored(Settings::ShowCities), 0u);
+            QVERIFY(t.map().pixel(120, 69) != MapRenderer::SelectedColour.rgb());
+            t.screen.sendCommand(Commands::ShowCitiesOnMap);
+            QCOMPARE(t.stored(Settings::ShowCities), 1u);
+            QCOMPARE(t.map().pixel(120, 69), MapRenderer::SelectedColour.rgb());
+        });
+        MapBench hidden(writePlaces);
+        WriteSetting(hidden.registry, Settings::ShowCities, 0);
+        hidden.run([&] { QVERIFY(!hidden.screen.showCities()); });
+    }
+
+    void nightPixelsKeepOnlyTheBlueChannelOfTheDayPicture()
+    {
+        // "bmap.jpg", the night picture, is loaded and held but never drawn: night is the day picture's blue.
+        MapBench t([](const TempDir& root) {
+            CityFixture::write(root, {});
+            writeDayPicture(root, QSize(240, 138));
+            QImage white(240, 138, QImage::Format_RGB32);
+            white.fill(Qt::white);
+            QVERIFY(white.save(QString::fromStdString((root.path() / "bmap.jpg").string()), "JPG"));
+        });
+        WriteSetting(t.registry, Settings::ShowCities, 0);
+        const QImage day(QString::fromStdString((t.bench.root.path() / "day.jpg").string()));
+        t.run([&] {
+            QVERIFY(t.screen.holdsNightPicture());
+            const QImage map = t.map();
+            int night = 0;
+            for (int y = 0; y < map.height(); ++y) {
+                for (int x = 0; x < map.width(); ++x) {
+                    const QRgb before = day.pixel(x, y);
+                    const QRgb after = map.pixel(x, y);
+                    if (after != before) {
+                        QCOMPARE(after, qRgb(0, 0, qBlue(before)));
+                        ++night;
+                    }
+                }
+            }
+            // 1 January, 12:00 UTC: night around the antimeridian and over the north pole; day at (0, 0).
+            QVERIFY(night > 240 * 138 / 4);
+            QCOMPARE(map.pixel(120, 69), day.pixel(120, 69));
+            QCOMPARE(map.pixel(0, 69), qRgb(0, 0, qBlue(day.pixel(0, 69))));
+            QCOMPARE(map.pixel(120, 0), qRgb(0, 0, qBlue(day.pixel(120, 0))));
+        });
+    }
+
+    void aMissingDayPictureLeavesTheGradient()
+    {
+        MapBench t;
+        WriteSetting(t.registry, Settings::ShowCities, 0);
+        t.run([&] {
+            QVERIFY(!t.screen.holdsNightPicture()); // nor is there a "bmap.jpg": nothing is said about either
+            const QImage window = t.bench.render();
+            // Band 30 (the top) is RGB(114, 150, 180): kept in day, only its blue at night.
+            QCOMPARE(window.pixel(120, 69), qRgb(84 + 23, 120 + 23, 150 + 23)); // row 69 is in band 23
+            QCOMPARE(window.pixel(120, 2), qRgb(0, 0, 180)); // the north pole's winter night
+            QCOMPARE(window.pixel(2, 69), qRgb(0, 0, 173));
+        });
+        for (const auto& message : t.bench.messages.messages) // the fixture has no favourites file, only that
+            QVERIFY(message.text.find(L"jpg") == std::wstring::npos);
+        QVERIFY(t.bench.boxes.shown.empty());
+    }
+
+    void theTimeInTwelveHourFormAndTheCityTexts()
+    {
+        struct Case
+        {
+            int hour;
+            QString shown;
+        };
+        const Case cases[] = {{0, QStringLiteral("12:05:09AM")}, {9, QStringLiteral("09:05:09 AM")},
+            {12, QStringLiteral("12:05:09PM")}, {21, QStringLiteral("09:05:09 PM")}};
+        for (const Case& c : cases) {
+            MapBench t([](const TempDir& root) { CityFixture::write(root, {{10, "530;0;0;0;0;0"}}); });
+            t.bench.clock.set(FakeDeviceClock::at(2026, 7, 13, c.hour, 5, 9));
+            WriteSetting(t.registry, Settings::TwelveHour, 1);
+            WriteSetting(t.registry, Settings::MapClock, 10);
+            t.run([&] {
+                QCOMPARE(t.screen.shownLocalTime(), c.shown);
+                // C0010 is on +5:30 and the device on GMT: its time is 5:30 ahead, its sun uses 5 hours.
+                QCOMPARE(t.screen.cityTime(), QStringLiteral("%1:35").arg((c.hour + 5) % 24, 2, 10, QLatin1Char('0')));
+                QCOMPARE(t.screen.sun().utcHours, 5);
+            });
+        }
+        MapBench t;
+        t.bench.clock.set(FakeDeviceClock::at(2026, 7, 13, 21, 5, 9));
+        t.run([&] { QCOMPARE(t.screen.shownLocalTime(), QStringLiteral("21:05:09")); });
+    }
+
+    void theMapIsDrawnAgainEvery240Ticks()
+    {
+        MapBench t;
+        t.run([&] {
+            const qint64 first = t.map().cacheKey();
+            t.bench.advance(239 * MapScreen::TickMilliseconds);
+            QCOMPARE(t.map().cacheKey(), first);
+            t.bench.advance(MapScreen::TickMilliseconds);
+            const qint64 second = t.map().cacheKey();
+            QVERIFY(second != first);
+            t.bench.advance(240 * MapScreen::TickMilliseconds);
+            QVERIFY(t.map().cacheKey() != second);
+        });
+    }
+
+    void aDaylightSavingChangeMovesTheCityTimeAndItsSun()
+    {
+        // C0684 observes from day 67 (8 March 2026) of its own date; the device (C0000) is on GMT without a
+        // rule. At 04:59 GMT the city's date is still 7 March; two minutes later it is 8 March.
+        MapBench t([](const TempDir& root) { CityFixture::write(root, {{684, "-5;1;67;2;305;2"}}); });
+        t.bench.clock.set(FakeDeviceClock::at(2026, 3, 8, 4, 59, 0));
+        WriteSetting(t.registry, Settings::MapClock, 684);
+        t.run([&] {
+            QCOMPARE(t.screen.cityTime(), QStringLiteral("23:59"));
+            QCOMPARE(t.screen.sun().utcHours, -5);
+            t.bench.advance(2 * 60 * 1000);
+            QCOMPARE(t.screen.cityTime(), QStringLiteral("01:01"));
+            QCOMPARE(t.screen.sun().utcHours, -4);
+        });
+    }
+
+    void changeCityTakesTheSelectDialogsChoice()
+    {
+        MapBench t;
+        WriteSetting(t.registry, Settings::MapClock, 684);
+        t.run([&] {
+            QObject context;
+            connect(&t.bench.window, &DeviceWindow::screenShown, &context, [&](Screen& dialog) {
+                QTimer::singleShot(0, &context, [&] {
+                    QCOMPARE(static_cast<SelectDialog&>(dialog).selection(), 684);
+                    t.bench.press(Qt::Key_Down);
+                    dialog.sendCommand(Commands::Done);
+                });
+            });
+            t.screen.sendCommand(Commands::ChangeCity);
+            QCOMPARE(t.screen.selectedCity(), 685);
+            QCOMPARE(t.stored(Settings::MapClock), 685u);
+            QCOMPARE(t.screen.shownCityName(), QStringLiteral("C0685"));
+        });
+    }
+
+    void rotationLaysTheMapOutAgain()
+    {
+        MapBench t;
+        t.run([&] {
+            QCOMPARE(t.screen.mapLayout().mapHeight, 138);
+            t.bench.press(Qt::Key_R, Qt::ControlModifier);
+            QCOMPARE(t.screen.mapLayout().mapHeight, 122); // (240 - 25) x 4 / 7
+            QCOMPARE(t.map().size(), QSize(268, 122));
+            QVERIFY(t.screen.mapLayout().sun.bottom() < 240);
+        });
+    }
+};
+
+QTEST_MAIN(MapScreenTest)
+#include "MapScreenTest.moc"
