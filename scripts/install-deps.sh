@@ -4,7 +4,7 @@ set -euo pipefail
 
 packages=(
     build-essential cmake pkg-config
-    libsqlite3-dev nlohmann-json3-dev
+    libsqlite3-dev nlohmann-json3-dev libexpat1-dev
     qt6-base-dev libgl-dev libegl-dev libxkbcommon-dev zlib1g-dev
     libgtest-dev libbenchmark-dev
     fonts-liberation2 fontconfig

@@ -2,6 +2,7 @@
 #include "app/ServiceTable.h"
 
 #include "screens/clothing/ClothingScreen.h"
+#include "screens/currency/CurrencyScreen.h"
 #include "screens/dialing/DialingScreen.h"
 #include "screens/map/MapScreen.h"
 #include "screens/measure/MeasureScreen.h"
@@ -30,6 +31,11 @@ std::unique_ptr<Screen> worldMap(ServiceContext& c)
     return screen;
 }
 
+std::unique_ptr<Screen> currencyConverter(ServiceContext& c)
+{
+    return std::make_unique<CurrencyScreen>(c.environment, c.window, c.initialCurrencies);
+}
+
 std::unique_ptr<Screen> measurements(ServiceContext& c)
 {
     return std::make_unique<MeasureScreen>(c.environment, c.window);
@@ -53,7 +59,7 @@ const std::array<Service, ServiceCount>& Services()
         {40008, Icons::Service, worldClocks}, // "World Clocks"
         {40009, Icons::Service, worldWeather}, // "World Weather"
         {40025, Icons::Service, worldMap}, // "World Map"
-        {40034, Icons::Service, nullptr}, // "Currency Converter"
+        {40034, Icons::Service, currencyConverter}, // "Currency Converter"
         {40044, Icons::Service, measurements}, // "Measurements"
         {40045, Icons::Service, clothingSizes}, // "Clothing sizes"
         {40046, Icons::Service, dialingCodes}, // "Dialing codes"

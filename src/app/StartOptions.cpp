@@ -135,6 +135,11 @@ Commands (print to standard output, no window):
                           clothing size tables
   dial [TEXT]             international dialing codes of countries containing TEXT
   dial --us [TEXT]        US area codes of cities or states containing TEXT
+  currency AMOUNT FROM [TO...]
+                          AMOUNT of FROM in each TO (default: the converter's three)
+  rates                   every currency's code, name and rate, and the last update
+  rates import FILE       the ECB's daily reference rates (eurofxref-daily.xml;
+                          FILE - reads standard input)
   convert AMOUNT FROM TO  convert AMOUNT between two units of one category
   units [CATEGORY]        the units of the unit converter and their factors
   sun CITY [--date YYYY-MM-DD]
@@ -149,7 +154,8 @@ Commands (print to standard output, no window):
                           store an Open-Meteo daily forecast (FILE - is standard
                           input) for the favourite at its place, or for NAME
 
-CITY is a catalogue position or a name ("Paris" or "Paris:France").
+CITY is a catalogue position or a name ("Paris" or "Paris:France"); FROM and TO
+of "currency" are currency codes or names ("eur", "US Dollar").
 A unit is a name as listed by "units" (or its unique start) or C:I, the category
 and unit indices ("4:0" is degree Celsius). FAVOURITE and NAME are a favourite's
 position or name.

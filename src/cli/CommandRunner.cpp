@@ -2,6 +2,7 @@
 #include "cli/CommandRunner.h"
 
 #include "cli/CityCommands.h"
+#include "cli/CurrencyCommands.h"
 #include "cli/DialCommand.h"
 #include "cli/ForecastCommand.h"
 #include "cli/SizesCommand.h"
@@ -25,9 +26,11 @@ const std::map<std::string, Command>& commands()
         {"cities", RunCitiesCommand},
         {"city", RunCityCommand},
         {"convert", RunConvertCommand},
+        {"currency", RunCurrencyCommand},
         {"dial", RunDialCommand},
         {"favourites", RunFavouritesCommand},
         {"forecast", RunForecastCommand},
+        {"rates", RunRatesCommand},
         {"sizes", RunSizesCommand},
         {"sun", RunSunCommand},
         {"time", RunTimeCommand},

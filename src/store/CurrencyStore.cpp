@@ -104,6 +104,11 @@ std::uint64_t CurrencyStore::LastUpdate()
     return m_database.LastModified();
 }
 
+bool CurrencyStore::SetLastUpdate(std::uint64_t fileTime)
+{
+    return m_database.SetLastModified(static_cast<std::uint32_t>(fileTime), static_cast<std::uint32_t>(fileTime >> 32));
+}
+
 bool CurrencyStore::UpdateByName(std::wstring_view code, std::wstring_view name, std::wstring_view rate)
 {
     if (m_database.SeekEqual({NameId, std::wstring(name)}) == 0)

@@ -37,6 +37,8 @@ public:
 
     // The last-update stamp: a FILETIME, 0 when never updated.
     std::uint64_t LastUpdate();
+    // Sets the last-update stamp (a FILETIME); a rates import sets it to the date of its rates.
+    bool SetLastUpdate(std::uint64_t fileTime);
     // Overwrites code, name and rate of the first currency named `name`; false when there is none.
     bool UpdateByName(std::wstring_view code, std::wstring_view name, std::wstring_view rate);
     bool DeleteAt(std::uint32_t position);

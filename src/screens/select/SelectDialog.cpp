@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/select/SelectDialog.h"
 
+#include "currency/CurrencyList.h"
 #include "device/DeviceClock.h"
 #include "session/HomeCity.h"
 #include "time/CityInformation.h"
@@ -68,10 +69,11 @@ void SelectDialog::fillCurrencies()
     const int count = m_currencies.RecordCount();
     for (int i = 0; i < count; ++i) {
         const auto position = static_cast<std::uint32_t>(i);
-        const QString item = ToQString(m_currencies.Code(position) + L" - " + m_currencies.Name(position));
+        const std::wstring code = m_currencies.Code(position);
+        const std::wstring name = m_currencies.Name(position);
         // A currency whose code and name are both empty is left out of the list.
-        if (item != QLatin1String(" - "))
-            items << item;
+        if (IsListedCurrency(code, name))
+            items << ToQString(code + L" - " + name);
     }
     m_list->setItems(items);
 }

@@ -1,0 +1,194 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "currency/EcbRatesReader.h"
+
+#include "support/EcbFile.h"
+#include "support/TempDir.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+#include <tuple>
+
+namespace {
+
+using namespace std::chrono_literals;
+
+const std::string Envelope = "<gesmes:Envelope xmlns:gesmes=\"http://www.gesmes.org/xml/2002-08-01\" "
+                             "xmlns=\"http://www.ecb.int/vocabulary/2002-08-01/eurofxref\">";
+
+std::string replaced(std::string text, const std::string& what, const std::string& by)
+{
+    return text.replace(text.find(what), what.size(), by);
+}
+
+std::string billionLaughs()
+{
+    std::string doctype = "<!DOCTYPE lolz [<!ENTITY lol0 \"lol\">";
+    for (int i = 1; i <= 9; ++i) {
+        doctype += "<!ENTITY lol" + std::to_string(i) + " \"";
+        for (int j = 0; j < 10; ++j)
+            doctype += "&lol" + std::to_string(i - 1) + ";";
+        doctype += "\">";
+    }
+    return "<?xml version=\"1.0\"?>\n" + doctype + "]>\n" + Envelope + "&lol9;</gesmes:Envelope>";
+}
+
+std::string manyRates(int count)
+{
+    std::vector<std::pair<std::string, std::string>> rates;
+    for (int i = 0; i < count; ++i)
+        rates.push_back({{char('A' + i / 676), char('A' + i / 26 % 26), char('A' + i % 26)}, "1.5"});
+    return EcbFile("2024-05-17", rates);
+}
+
+// A stream of `prefix` then `length` filler bytes, made as they are read; counts what it served.
+class LongLine : public std::streambuf
+{
+public:
+    LongLine(std::string prefix, std::size_t length)
+        : m_prefix(std::move(prefix))
+        , m_left(length)
+    {
+        setg(m_prefix.data(), m_prefix.data(), m_prefix.data() + m_prefix.size());
+        m_served = m_prefix.size();
+        m_filler.fill('7');
+    }
+    std::size_t served() const { return m_served; }
+
+protected:
+    int_type underflow() override
+    {
+        if (m_left == 0)
+            return traits_type::eof();
+        const std::size_t size = std::min(m_left, m_filler.size());
+        m_left -= size;
+        m_served += size;
+        setg(m_filler.data(), m_filler.data(), m_filler.data() + size);
+        return traits_type::to_int_type(m_filler[0]);
+    }
+
+private:
+    std::string m_prefix;
+    std::array<char, 4096> m_filler;
+    std::size_t m_left;
+    std::size_t m_served;
+};
+
+std::optional<EcbRates> fromStream(const std::string& bytes, std::string& error)
+{
+    std::istringstream in(bytes);
+    return EcbRatesReader::read(in, error);
+}
+
+} // namespace
+
+TEST(EcbRatesReader, ReadsTheDailyFile)
+{
+    const std::string file = EcbFile("2024-05-17", {{"USD", "1.0859"}, {"JPY", "169.03"}, {"GBP", "0.85420"}});
+    std::string error;
+    const auto rates = EcbRatesReader::readBytes(file, error);
+    ASSERT_TRUE(rates) << error;
+    EXPECT_EQ(rates->date, 2024y / 5 / 17);
+    const std::vector<EcbRate> expected {
+        {"USD", "1.0859", 1.0859}, {"JPY", "169.03", 169.03}, {"GBP", "0.85420", 0.8542}};
+    EXPECT_EQ(rates->rates, expected);
+    EXPECT_TRUE(rates->skipped.empty());
+    EXPECT_EQ(rates->find("JPY")->perEuro, 169.03);
+    EXPECT_EQ(rates->find("CHF"), nullptr);
+
+    // The same from a stream and from a file.
+    TempDir dir;
+    EXPECT_EQ(fromStream(file, error), rates);
+    EXPECT_EQ(EcbRatesReader::readFile(dir.write("eurofxref-daily.xml", file), error), rates);
+    EXPECT_FALSE(EcbRatesReader::readFile(dir.path() / "missing.xml", error));
+    EXPECT_EQ(error, "it cannot be opened");
+}
+
+TEST(EcbRatesReader, RefusesFilesThatAreNotADailyRatesFile)
+{
+    const std::string good = EcbFile("2024-05-17", {{"USD", "1.0859"}, {"JPY", "169.03"}});
+    // What the file is, its bytes, and the start of the reason given.
+    using Case = std::tuple<const char*, std::string, std::string>;
+    const Case cases[] = {
+        {"billion laughs", billionLaughs(), "it declares a document type"},
+        {"external entity", "<!DOCTYPE x SYSTEM \"file:///etc/passwd\">" + Envelope + "&x;</gesmes:Envelope>",
+            "it declares a document type"},
+        {"undefined entity", replaced(good, "Reference rates", "&lol;"), "it is not well-formed XML (line 3"},
+        {"truncated", good.substr(0, good.size() / 2), "it is not well-formed XML"},
+        {"truncated before its end tag", good.substr(0, good.size() - 20), "it is not well-formed XML"},
+        {"mismatched tags", Envelope + "<Cube></Cub></gesmes:Envelope>", "it is not well-formed XML"},
+        {"empty", "", "it is not well-formed XML (line 1, column 0): no element found"},
+        {"binary", std::string("\0\x01\xff\xfe", 4), "it is not well-formed XML"},
+        {"another XML file", "<html><body>404</body></html>", "its root element is not the gesmes:Envelope"},
+        {"Cube without its namespace",
+            replaced(good, " xmlns=\"http://www.ecb.int/vocabulary/2002-08-01/eurofxref\"", ""),
+            "it holds no dated Cube"},
+        {"no day", Envelope + "<Cube/></gesmes:Envelope>", "it holds no dated Cube"},
+        {"a rate outside the day", replaced(good, "time='2024-05-17'", "id='x'"), "the rate of \"USD\" stands outside"},
+        {"two days", replaced(good, "</Cube>\n\t</Cube>", "</Cube><Cube time='2024-05-16'></Cube>\n\t</Cube>"),
+            "it holds the rates of more than one day"},
+        {"impossible date", replaced(good, "2024-05-17", "2024-02-30"), "its date \"2024-02-30\" is not a date"},
+        {"day first", replaced(good, "2024-05-17", "17/05/2024"), "its date \"17/05/2024\" is not a date"},
+        {"before the euro", replaced(good, "2024-05-17", "1998-12-31"), "its date \"1998-12-31\" is not a date"},
+        {"too many rates", manyRates(1001), "it lists more than 1000 rates"},
+        {"larger than 1 MiB", replaced(good, "Reference rates", std::string(1 << 20, 'x')), "it is larger than 1 MiB"},
+    };
+    for (const auto& [what, bytes, reason] : cases) {
+        SCOPED_TRACE(what);
+        std::string error;
+        EXPECT_FALSE(EcbRatesReader::readBytes(bytes, error));
+        EXPECT_TRUE(error.starts_with(reason)) << error;
+        std::string streamError;
+        EXPECT_FALSE(fromStream(bytes, streamError));
+        EXPECT_EQ(streamError, error);
+    }
+    std::string error;
+    EXPECT_TRUE(EcbRatesReader::readBytes(manyRates(1000), error)) << error;
+}
+
+TEST(EcbRatesReader, StopsReadingALongLineAtTheLimit)
+{
+    // 100 MB in an element's text and in an attribute value: reading stops one chunk past 1 MiB.
+    const std::string prefixes[] = {
+        Envelope + "<gesmes:subject>", Envelope + "<Cube><Cube time='2024-05-17'>" + "<Cube currency='USD' rate='1."};
+    for (const std::string& prefix : prefixes) {
+        LongLine line(prefix, 100'000'000);
+        std::istream in(&line);
+        std::string error;
+        EXPECT_FALSE(EcbRatesReader::read(in, error));
+        EXPECT_EQ(error, "it is larger than 1 MiB, and the daily rates file is a few kilobytes");
+        EXPECT_LE(line.served(), EcbRatesReader::MaxBytes + 2 * 65536);
+    }
+}
+
+TEST(EcbRatesReader, SkipsUnusableEntriesAndSaysWhy)
+{
+    std::string file = EcbFile("2024-05-17",
+        {{"USD", "1.0859"}, {"JPY", "-169.03"}, {"GBP", "0"}, {"CHF", "0.000"}, {"SEK", "1e3"}, {"NOK", " 11.6"},
+            {"PLN", "abc"}, {"ISK", ""}, {"usd", "1"}, {"EURO", "1"}, {"EUR", "1"}, {"USD", "1.2"}, {"HUF", "395."},
+            {"CZK", "25.1"}});
+    file = replaced(file, "<Cube currency='CZK' rate='25.1'/>",
+        "<Cube currency='CZK'/><Cube currency='U\xC3\xA9"
+        "D' rate='1'/>");
+    std::string error;
+    const auto rates = EcbRatesReader::readBytes(file, error);
+    ASSERT_TRUE(rates) << error;
+    EXPECT_EQ(rates->rates, (std::vector<EcbRate> {{"USD", "1.0859", 1.0859}}));
+    const std::vector<std::string> skipped {
+        "skipped JPY: its rate \"-169.03\" is not a positive decimal number",
+        "skipped GBP: its rate \"0\" is not a positive decimal number",
+        "skipped CHF: its rate \"0.000\" is not a positive decimal number",
+        "skipped SEK: its rate \"1e3\" is not a positive decimal number",
+        "skipped NOK: its rate \" 11.6\" is not a positive decimal number",
+        "skipped PLN: its rate \"abc\" is not a positive decimal number",
+        "skipped ISK: its rate \"\" is not a positive decimal number",
+        "skipped the rate of \"usd\": not a three-letter currency code",
+        "skipped the rate of \"EURO\": not a three-letter currency code",
+        "skipped EUR: the euro is the base the file's rates are given in",
+        "skipped the second rate of USD",
+        "skipped HUF: its rate \"395.\" is not a positive decimal number",
+        "skipped CZK: it has no rate",
+        "skipped the rate of \"U??D\": not a three-letter currency code",
+    };
+    EXPECT_EQ(rates->skipped, skipped);
+}
