@@ -94,14 +94,22 @@ std::optional<SystemTime> FromTicks(std::int64_t ticks)
 
 } // namespace
 
-SystemTime AddDays(const SystemTime& date, std::int64_t days)
+std::optional<SystemTime> MoveByDays(const SystemTime& date, std::int64_t days)
 {
     if (!IsCalendarDate(date) || days < -LastDay || days > LastDay)
-        return date;
-    const std::int64_t count = DayCount(date.year, date.month, date.day) + days;
+        return std::nullopt;
+    // The whole days of an overlong time of day are carried before the range check, so that the tick
+    // count below never exceeds the last day's.
+    const std::int64_t timeOfDay = TimeOfDayMilliseconds(date);
+    const std::int64_t count = DayCount(date.year, date.month, date.day) + days + timeOfDay / MillisecondsPerDay;
     if (count < 0 || count > LastDay)
-        return date;
-    return FromTicks(count * TicksPerDay + TimeOfDayMilliseconds(date) * TicksPerMillisecond).value_or(date);
+        return std::nullopt;
+    return FromTicks(count * TicksPerDay + timeOfDay % MillisecondsPerDay * TicksPerMillisecond);
+}
+
+SystemTime AddDays(const SystemTime& date, std::int64_t days)
+{
+    return MoveByDays(date, days).value_or(date);
 }
 
 bool IsLaterDay(const SystemTime& a, const SystemTime& b)
