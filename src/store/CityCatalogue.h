@@ -4,6 +4,7 @@
 #include "device/DevicePaths.h"
 #include "device/MessageSink.h"
 #include "store/CityRecord.h"
+#include "store/DeviceFile.h"
 #include "store/PropertyDatabase.h"
 
 #include <cstdint>
@@ -27,6 +28,8 @@ public:
 
     // Opens the catalogue, filling it from "\cities.lst" when it holds no city yet (all or nothing).
     void Load();
+    // The same, filling it from the bytes `source` gives.
+    void Load(const DeviceFileSource& source);
 
     std::wstring CityName(std::uint32_t position);
     std::wstring Country(std::uint32_t position);
