@@ -73,9 +73,9 @@ int GuiApplication::run(int& argc, char** argv)
         = m_options.now ? std::make_unique<SystemDeviceClock>(*m_options.now) : std::make_unique<SystemDeviceClock>();
     const DevicePaths paths(StateFolder::locateDeviceRoot(m_options.deviceRoot));
     const auto settings = SettingsHive::open(stateFolder / "registry.db", messages);
-    const auto objects = ObjectStore::open(stateFolder / "objectstore.db", messages);
-    if (!settings || !objects)
-        return fail("Cannot create the state files in " + stateFolder.string());
+    const auto objects = settings ? ObjectStore::open(stateFolder / "objectstore.db", messages) : nullptr;
+    if (!objects)
+        return fail(StateFolder::openFailure(stateFolder / (settings ? "objectstore.db" : "registry.db")));
 
     DeviceWindow window(QSize(m_options.width, m_options.height));
     messages.setParentWidget(&window);

@@ -21,9 +21,9 @@ std::unique_ptr<CoreSession> CoreSession::open(const StartOptions& options, std:
     }
     ErrorStreamSink messages(err);
     auto hive = SettingsHive::open(folder / "registry.db", messages);
-    auto objects = ObjectStore::open(folder / "objectstore.db", messages);
-    if (!hive || !objects) {
-        err << "wanderkit: cannot create the state files in " << folder.string() << '\n';
+    auto objects = hive ? ObjectStore::open(folder / "objectstore.db", messages) : nullptr;
+    if (!objects) {
+        err << "wanderkit: " << StateFolder::openFailure(folder / (hive ? "objectstore.db" : "registry.db")) << '\n';
         return nullptr;
     }
     std::unique_ptr<CoreSession> session(new CoreSession(options, err, std::move(hive), std::move(objects)));
