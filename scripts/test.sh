@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Builds Wanderkit and runs every test twice: an optimised build, then a build under
-# AddressSanitizer and UndefinedBehaviorSanitizer. Installs missing packages first.
+# AddressSanitizer and UndefinedBehaviorSanitizer, then runs every fuzz target for a few seconds
+# (WANDERKIT_FUZZ_SECONDS, default 5). Installs missing packages first.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 scripts/install-deps.sh
@@ -19,4 +20,6 @@ run_suite build -DCMAKE_BUILD_TYPE=RelWithDebInfo -DWANDERKIT_BENCH=ON
 echo "== Sanitizer build and tests"
 ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
     run_suite build-asan -DCMAKE_BUILD_TYPE=Debug -DWANDERKIT_SANITIZE=ON
+echo "== Fuzz targets, a short run"
+scripts/fuzz.sh "${WANDERKIT_FUZZ_SECONDS:-5}"
 echo "All tests passed."
