@@ -5,6 +5,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <memory>
+
 class SingleInstanceTest : public QObject
 {
     Q_OBJECT
@@ -23,6 +25,24 @@ private slots:
         SingleInstance second;
         QVERIFY(!second.claim());
         QTRY_COMPARE(raised.count(), 1);
+    }
+
+    void aStartThatLostTheClaimLeavesTheSocketAlone()
+    {
+        QTemporaryDir runtime;
+        qputenv("XDG_RUNTIME_DIR", runtime.path().toLocal8Bit());
+        auto first = std::make_unique<SingleInstance>();
+        QVERIFY(first->claim());
+        QSignalSpy raised(first.get(), &SingleInstance::raiseRequested);
+        for (int start = 1; start <= 3; ++start) {
+            SingleInstance later;
+            QVERIFY(!later.claim());
+            QTRY_COMPARE(raised.count(), start); // the first is still reachable after each one left
+        }
+        first.reset();
+        QVERIFY(!QFile::exists(SingleInstance::socketPath()));
+        SingleInstance next;
+        QVERIFY(next.claim());
     }
 
     void aStaleSocketIsTakenOver()
