@@ -11,7 +11,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     FuzzDevice& device = FuzzDevice::emptied();
     WeatherFavourites favourites(*device.store, device.paths, device.messages);
     favourites.loadFavouritesOnce(FuzzDevice::bytes(data, size));
-    const std::uint32_t count = std::min<std::uint32_t>(favourites.count(), 64);
+    const std::uint32_t count = std::min<std::uint32_t>(favourites.count(), 16);
     for (std::uint32_t i = 0; i < count; ++i) {
         favourites.getLastUpdate(i);
         favourites.getCountryFile(i);
