@@ -3,6 +3,7 @@
 
 #include "cli/CityCommands.h"
 #include "cli/DialCommand.h"
+#include "cli/SettingsCommand.h"
 #include "cli/SizesCommand.h"
 
 #include <functional>
@@ -21,6 +22,7 @@ const std::map<std::string, Command>& commands()
         {"cities", RunCitiesCommand},
         {"city", RunCityCommand},
         {"dial", RunDialCommand},
+        {"settings", RunSettingsCommand},
         {"sizes", RunSizesCommand},
         {"time", RunTimeCommand},
     };

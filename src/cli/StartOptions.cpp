@@ -8,7 +8,7 @@
 
 namespace {
 
-const std::set<std::string> Commands {"cities", "time", "city", "sizes", "dial"};
+const std::set<std::string> Commands {"cities", "time", "city", "sizes", "dial", "settings"};
 
 bool parseInt(const std::string& text, int low, int high, int& value)
 {
@@ -128,6 +128,11 @@ Commands (print to standard output, no window):
                           clothing size tables
   dial [TEXT]             international dialing codes of countries containing TEXT
   dial --us [TEXT]        US area codes of cities or states containing TEXT
+  settings                every stored setting: key, name, type and value
+  settings get KEY NAME   one stored setting (exit 1 when missing)
+  settings set KEY NAME VALUE [--type dword|string]
+                          store a setting (a 32-bit number unless --type string)
+  settings reset          remove every setting; the next start writes the defaults
 
 CITY is a catalogue position or a name ("Paris" or "Paris:France").
 

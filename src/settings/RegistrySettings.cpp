@@ -34,6 +34,11 @@ std::uint32_t RegistrySettings::GetDWORD(std::wstring_view subkey, std::wstring_
     return value ? RegistryDwordOf(value->data) : 0;
 }
 
+std::optional<RegistryValue> RegistrySettings::GetValue(std::wstring_view subkey, std::wstring_view name)
+{
+    return read(subkey, name);
+}
+
 void RegistrySettings::SetString(std::wstring_view subkey, std::wstring_view name, std::wstring_view text)
 {
     m_hive.setValue(subkey, name, RegistryType::String, RegistryTextBytes(text));
