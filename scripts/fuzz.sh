@@ -16,11 +16,12 @@ cmake --build "$build" -j"$(nproc)"
 
 mkdir -p "$build/artifacts" "$build/logs"
 run_target() {
-    local target=$1 work="$build/corpus/$1"
+    local target=$1 work="$build/corpus/$1" seeds=()
     mkdir -p "$work"
+    [ -d "fuzz/corpus/$target" ] && seeds=("fuzz/corpus/$target")
     # New inputs go to the work folder; the committed seeds are only read.
     if ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
-        "$build/bin/$target" "$work" "fuzz/corpus/$target" -max_total_time="$seconds" -timeout=10 \
+        "$build/bin/$target" "$work" "${seeds[@]}" -max_total_time="$seconds" -timeout=10 \
         -max_len=4096 -rss_limit_mb=2048 -print_final_stats=1 -artifact_prefix="$build/artifacts/$target-" \
         >"$build/logs/$target.log" 2>&1; then
         echo "$target: $(grep -o 'stat::number_of_executed_units: *[0-9]*' "$build/logs/$target.log" \
