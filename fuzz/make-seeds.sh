@@ -33,7 +33,6 @@ clock='\xa9\x01\x00\x00\x06\x0c\x09\x05\x00\x01\x00\x00\x00\x00'
 printf -- "1\x001:88:2:298:3\x00$clock" | seed DaylightRuleFuzz europe
 printf -- "530\x001:277:2:95:3\x00$clock" | seed DaylightRuleFuzz southern
 printf -- "-330\x000\x00$clock" | seed DaylightRuleFuzz never
-printf -- "0\x001:10519714:6195:300:2\x00$clock" | seed DaylightRuleFuzz far-boundary
 
 # The stored type (1 text, 3 binary, 4 number), then the stored bytes.
 printf '\x04\x2c\x01\x00\x00' | seed RegistryValueFuzz dword
