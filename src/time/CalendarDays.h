@@ -7,6 +7,9 @@
 #include <optional>
 #include <string>
 
+// The last year of the supported dates (the first is 1601).
+inline constexpr int LastCalendarYear = 30827;
+
 // Whole-day calendar arithmetic on SystemTime, done as the handheld did it: through a 64-bit count of
 // 100-ns units since 1 January 1601. Dates are valid from 1601 to 30827; the time of day may run past
 // its usual range and is then carried into the following days.

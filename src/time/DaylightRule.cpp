@@ -56,9 +56,10 @@ DaylightPeriod DaylightPeriodOf(const DaylightRule& rule, int year)
 {
     const auto start = Boundary(year, rule.startDay, rule.startHour);
     auto end = Boundary(year, rule.endDay, rule.endHour);
+    // Only the year field moves: day and month stay as counted in this year, leap day included.
     if (start && end && end->month < start->month)
-        end = Boundary(year + 1, rule.endDay, rule.endHour);
-    if (!start || !end) {
+        end->year = static_cast<std::uint16_t>(year + 1);
+    if (!start || !end || end->year > LastCalendarYear) {
         const SystemTime firstOfYear = AddDays(FirstOfYear(year, 0), 0); // with its day of the week
         return {firstOfYear, firstOfYear, false};
     }

@@ -42,7 +42,8 @@ DaylightRule ParseDaylightRule(std::wstring_view text);
 
 // The boundaries in the given year: 1 January at the boundary hour, moved on by (day - 1) days. The hour
 // is kept in 16 bits, as the handheld's date fields were; hours past 23 carry into the following days.
-// An end whose month comes before the start's month belongs to the next year (southern rules).
+// An end whose month comes before the start's month gets next year's year number, keeping the day and
+// month counted in this year (southern rules).
 DaylightPeriod DaylightPeriodOf(const DaylightRule& rule, int year);
 
 // True unless the start's day is later than now's or now's day is later than the end's, comparing
