@@ -68,3 +68,10 @@ QImage ScreenTestBench::render()
 {
     return window.grab().toImage();
 }
+
+std::uint32_t ScreenTestBench::stored(const DwordSetting& setting)
+{
+    RegistrySettings registry(settings);
+    const std::uint32_t value = registry.GetDWORD(setting.subkey, setting.name);
+    return registry.Status() == RegistrySettings::Read ? value : NotStored;
+}

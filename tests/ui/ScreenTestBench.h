@@ -7,6 +7,7 @@
 #include "RecordingMessageSink.h"
 #include "TempDir.h"
 #include "session/DeviceSession.h"
+#include "settings/SettingsTable.h"
 #include "ui/DeviceWindow.h"
 #include "ui/ScreenEnvironment.h"
 
@@ -36,6 +37,9 @@ public:
     void advance(long long milliseconds);
     // The whole device window, rendered.
     QImage render();
+    // A DWORD setting as stored, or NotStored when it cannot be read.
+    std::uint32_t stored(const DwordSetting& setting);
+    static constexpr std::uint32_t NotStored = 0xFFFFFFFFu;
 
     TempDir root;
     FakeDeviceClock clock;
