@@ -11,6 +11,7 @@ packages=(
     xvfb xauth
     tzdata
     help2man lintian desktop-file-utils appstream
+    clang-14 libclang-rt-14-dev
 )
 
 missing=()

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Builds Wanderkit and runs every test: the core and the commands built without the GUI (so a Qt include
 # in the core fails here, not in a packager's build), an optimised build of everything, then everything
-# under AddressSanitizer and UndefinedBehaviorSanitizer. Installs missing packages first.
+# under AddressSanitizer and UndefinedBehaviorSanitizer, then every fuzz target for a few seconds
+# (WANDERKIT_FUZZ_SECONDS, default 5). Installs missing packages first.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 scripts/install-deps.sh
@@ -25,4 +26,6 @@ lintian --fail-on error build/wanderkit_*.deb
 echo "== Sanitizer build and tests"
 ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
     run_suite build-asan -DCMAKE_BUILD_TYPE=Debug -DWANDERKIT_SANITIZE=ON
+echo "== Fuzz targets, a short run"
+scripts/fuzz.sh "${WANDERKIT_FUZZ_SECONDS:-5}"
 echo "All tests passed."

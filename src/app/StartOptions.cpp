@@ -153,6 +153,11 @@ Commands (print to standard output, no window):
   forecast import FILE [--favourite NAME]
                           store an Open-Meteo daily forecast (FILE - is standard
                           input) for the favourite at its place, or for NAME
+  settings                every stored setting: key, name, type and value
+  settings get KEY NAME   one stored setting (exit 1 when missing)
+  settings set KEY NAME VALUE [--type dword|string]
+                          store a setting (a 32-bit number unless --type string)
+  settings reset          remove every setting; the next start writes the defaults
 
 CITY is a catalogue position or a name ("Paris" or "Paris:France"); FROM and TO
 of "currency" are currency codes or names ("eur", "US Dollar").

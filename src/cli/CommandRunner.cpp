@@ -5,6 +5,7 @@
 #include "cli/CurrencyCommands.h"
 #include "cli/DialCommand.h"
 #include "cli/ForecastCommand.h"
+#include "cli/SettingsCommand.h"
 #include "cli/SizesCommand.h"
 #include "cli/SunCommand.h"
 #include "cli/UnitCommands.h"
@@ -31,6 +32,7 @@ const std::map<std::string, Command>& commands()
         {"favourites", RunFavouritesCommand},
         {"forecast", RunForecastCommand},
         {"rates", RunRatesCommand},
+        {"settings", RunSettingsCommand},
         {"sizes", RunSizesCommand},
         {"sun", RunSunCommand},
         {"time", RunTimeCommand},

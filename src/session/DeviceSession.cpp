@@ -13,9 +13,9 @@ std::unique_ptr<DeviceSession> DeviceSession::open(
     if (!StateFolder::prepare(folder, error))
         return nullptr;
     auto settings = SettingsHive::open(folder / "registry.db", messages);
-    auto objects = ObjectStore::open(folder / "objectstore.db", messages);
-    if (!settings || !objects) {
-        error = "cannot create the state files in " + folder.string();
+    auto objects = settings ? ObjectStore::open(folder / "objectstore.db", messages) : nullptr;
+    if (!objects) {
+        error = StateFolder::openFailure(folder / (settings ? "objectstore.db" : "registry.db"));
         return nullptr;
     }
     auto clock

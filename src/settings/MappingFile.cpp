@@ -26,17 +26,20 @@ std::wstring ReadInstallFolder(RegistrySettings& settings)
 std::wstring ReadMappingText(RegistrySettings& settings, const DevicePaths& paths)
 {
     const auto bytes = ReadDeviceFile(paths, ReadInstallFolder(settings) + L"\\mapping.cfg");
+    return bytes ? ParseMappingText(*bytes) : std::wstring();
+}
+
+std::wstring ParseMappingText(std::string_view bytes)
+{
     std::wstring mapping;
-    if (!bytes)
-        return mapping;
     std::size_t next = 0;
     for (;;) {
-        while (next < bytes->size() && isSpace((*bytes)[next]))
+        while (next < bytes.size() && isSpace(bytes[next]))
             ++next;
         const std::size_t start = next;
-        while (next < bytes->size() && !isSpace((*bytes)[next]))
+        while (next < bytes.size() && !isSpace(bytes[next]))
             ++next;
-        const std::string_view word = std::string_view(*bytes).substr(start, next - start);
+        const std::string_view word = bytes.substr(start, next - start);
         if (word.empty() || word.find('>') != std::string_view::npos)
             return mapping;
         mapping += Latin1ToWide(word) + L";";

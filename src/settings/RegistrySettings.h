@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 // The registry accessor every screen owns: reads and writes values under HKEY_LOCAL_MACHINE and keeps
 // the status of its last read, so that the caller can apply its own default.
@@ -26,9 +27,15 @@ public:
     std::wstring GetString(std::wstring_view subkey, std::wstring_view name);
     // The first four stored bytes, little-endian; 0 on any miss.
     std::uint32_t GetDWORD(std::wstring_view subkey, std::wstring_view name);
+    // The stored value with its type; nothing on any miss.
+    std::optional<RegistryValue> GetValue(std::wstring_view subkey, std::wstring_view name);
     void SetString(std::wstring_view subkey, std::wstring_view name, std::wstring_view text);
     void SetDWORD(std::wstring_view subkey, std::wstring_view name, std::uint32_t value);
     void SetBinary(std::wstring_view subkey, std::wstring_view name, const std::uint8_t* bytes, std::size_t length);
+    // Every stored value, by key and name; and emptying the registry, so that the next start writes the
+    // defaults.
+    std::vector<StoredRegistryValue> ListValues() { return m_hive.values(); }
+    bool Clear() { return m_hive.clear(); }
     // The status of the last read: 0 read, -1 value missing, -2 key missing.
     std::int32_t Status() const { return m_status; }
 

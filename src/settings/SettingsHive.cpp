@@ -95,3 +95,21 @@ bool SettingsHive::setValue(
                .run();
     return stored && transaction.commit();
 }
+
+std::vector<StoredRegistryValue> SettingsHive::values()
+{
+    std::vector<StoredRegistryValue> values;
+    SqliteQuery rows = m_connection->query("SELECT key, name, type, data FROM registry_values ORDER BY key, name");
+    while (rows.next()) {
+        const auto data = rows.blob(3);
+        values.push_back({Utf8ToWide(rows.text(0)), Utf8ToWide(rows.text(1)),
+            {static_cast<RegistryType>(rows.integer(2)), {data.begin(), data.end()}}});
+    }
+    return values;
+}
+
+bool SettingsHive::clear()
+{
+    SqliteTransaction transaction(*m_connection);
+    return m_connection->execute("DELETE FROM registry_values; DELETE FROM registry_keys;") && transaction.commit();
+}

@@ -6,6 +6,7 @@
 #include <memory>
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -19,6 +20,14 @@ struct RegistryValue
 {
     RegistryType type = RegistryType::Binary;
     std::vector<std::uint8_t> data;
+};
+
+// A value with where it is stored: its key path (as stored, case-folded) and its name.
+struct StoredRegistryValue
+{
+    std::wstring key;
+    std::wstring name;
+    RegistryValue value;
 };
 
 // The registry hive (HKEY_LOCAL_MACHINE): the file registry.db in the state folder. Key paths compare
@@ -39,6 +48,10 @@ public:
     // Creates the key and its parents when needed and stores the value; an unchanged value is not rewritten.
     bool setValue(
         std::wstring_view path, std::wstring_view name, RegistryType type, std::span<const std::uint8_t> data);
+    // Every value, ordered by key and name.
+    std::vector<StoredRegistryValue> values();
+    // Removes every key and value.
+    bool clear();
 
 private:
     explicit SettingsHive(std::unique_ptr<SqliteConnection> connection);

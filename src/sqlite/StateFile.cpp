@@ -2,11 +2,13 @@
 #include "sqlite/StateFile.h"
 
 #include "device/MessageSink.h"
+#include "device/StateFolder.h"
 #include "text/WideText.h"
 
 #include <sqlite3.h>
 
 #include <optional>
+#include <sys/stat.h>
 
 namespace {
 
@@ -99,6 +101,10 @@ std::wstring wide(const std::filesystem::path& path)
 std::unique_ptr<SqliteConnection> StateFile::open(
     const std::filesystem::path& file, MessageSink& messages, const Prepare& prepare)
 {
+    // Nothing is opened through a link or in a folder, a pipe or another user's file.
+    if (!StateFolder::unusableFile(file).empty())
+        return nullptr;
+    ::chmod(file.c_str(), 0600); // private even when an older version made it readable to others
     Attempt attempt = tryOpen(file, prepare);
     if (attempt.outcome != Outcome::Unreadable)
         return std::move(attempt.connection);

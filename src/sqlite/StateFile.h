@@ -18,7 +18,8 @@ public:
     // Creates or checks the tables; false when the file's schema is not one we can use.
     using Prepare = std::function<bool(SqliteConnection&)>;
 
-    // Nothing only when not even a fresh file can be opened (or the file stays locked by another process).
+    // Nothing only when not even a fresh file can be opened, the file stays locked by another process, or
+    // the file is not a regular file of the user's (StateFolder::openFailure then says why).
     [[nodiscard]] static std::unique_ptr<SqliteConnection> open(
         const std::filesystem::path& file, MessageSink& messages, const Prepare& prepare);
     // An in-memory database with the same tables.

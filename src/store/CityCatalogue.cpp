@@ -54,8 +54,13 @@ CityCatalogue::CityCatalogue(ObjectStore& store, const DevicePaths& paths, Messa
 
 void CityCatalogue::Load()
 {
-    const auto fillFromFile = [this](PropertyDatabase&) {
-        auto bytes = ReadDeviceFile(m_paths, DevicePaths::besideProgram(L"\\cities.lst"));
+    Load([this] { return ReadDeviceFile(m_paths, DevicePaths::besideProgram(L"\\cities.lst")); });
+}
+
+void CityCatalogue::Load(const DeviceFileSource& source)
+{
+    const auto fillFromSource = [this, &source](PropertyDatabase&) {
+        auto bytes = source();
         if (!bytes)
             return false;
         DelimitedFieldReader reader(std::move(*bytes));
@@ -63,7 +68,7 @@ void CityCatalogue::Load()
         return true;
     };
     const DatabaseShape shape {DatabaseName, DatabaseType, SortIds, 1};
-    if (FirstStartLoad::run(m_store, m_database, shape, fillFromFile) == FirstStartLoad::Result::SourceMissing)
+    if (FirstStartLoad::run(m_store, m_database, shape, fillFromSource) == FirstStartLoad::Result::SourceMissing)
         m_messages.showMessage(StringTable::Load(CitiesFileMissing), L"Wanderkit");
 }
 

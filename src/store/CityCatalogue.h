@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "device/DeviceFile.h"
 #include "device/DevicePaths.h"
 #include "device/MessageSink.h"
 #include "store/PropertyDatabase.h"
@@ -27,6 +28,8 @@ public:
 
     // Opens the catalogue, filling it from "\cities.lst" when it holds no city yet (all or nothing).
     void Load();
+    // The same, filling it from the bytes `source` gives.
+    void Load(const DeviceFileSource& source);
 
     std::wstring CityName(std::uint32_t position);
     std::wstring Country(std::uint32_t position);

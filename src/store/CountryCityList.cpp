@@ -7,11 +7,14 @@
 
 CountryCityList CountryCityList::read(const DevicePaths& paths, std::wstring_view country)
 {
-    CountryCityList list;
     const auto bytes = ReadDeviceFile(paths, DevicePaths::besideProgram(L"\\weatcs\\") + std::wstring(country));
-    if (!bytes)
-        return list;
-    const std::wstring content = Latin1ToWide(*bytes);
+    return bytes ? parse(*bytes) : CountryCityList {};
+}
+
+CountryCityList CountryCityList::parse(std::string_view bytes)
+{
+    CountryCityList list;
+    const std::wstring content = Latin1ToWide(bytes);
     std::size_t start = 0;
     while (start < content.size()) {
         std::size_t end = content.find(L'\n', start);

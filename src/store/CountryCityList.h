@@ -15,6 +15,8 @@ class CountryCityList
 public:
     // Reads the list; a missing file gives an empty list.
     static CountryCityList read(const DevicePaths& paths, std::wstring_view country);
+    // The list held by the bytes of such a file.
+    static CountryCityList parse(std::string_view bytes);
 
     // The city names in file order: each line's text before its first ";".
     const std::vector<std::wstring>& cities() const { return m_cities; }

@@ -15,13 +15,18 @@ constexpr int CurrenciesFileMissing = 40033;
 
 InitialCurrencyList ReadInitialCurrencies(const DevicePaths& paths, MessageSink& messages)
 {
-    InitialCurrencyList list;
     auto bytes = ReadDeviceFile(paths, DevicePaths::besideProgram(L"\\currs.lst"));
     if (!bytes) {
         messages.showMessage(StringTable::Load(CurrenciesFileMissing), L"Wanderkit");
-        return list;
+        return {};
     }
-    DelimitedFieldReader reader(std::move(*bytes));
+    return ParseInitialCurrencies(std::move(*bytes));
+}
+
+InitialCurrencyList ParseInitialCurrencies(std::string bytes)
+{
+    InitialCurrencyList list;
+    DelimitedFieldReader reader(std::move(bytes));
     list.fromFile = true;
     list.count = Wtol(reader.read('\n'));
     while (static_cast<std::int32_t>(list.entries.size()) < list.size() && !reader.atEnd()) {

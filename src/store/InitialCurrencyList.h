@@ -38,3 +38,5 @@ struct InitialCurrencyList
 // Reads "\currs.lst" beside the program: a count line, then records "code_name_rate#" end to end.
 // A missing file shows "Initial Currencies File not found!" and gives an empty list of count 189.
 InitialCurrencyList ReadInitialCurrencies(const DevicePaths& paths, MessageSink& messages);
+// The list held by the bytes of "\currs.lst".
+InitialCurrencyList ParseInitialCurrencies(std::string bytes);

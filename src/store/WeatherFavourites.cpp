@@ -31,6 +31,8 @@ public:
         : m_bytes(bytes)
     { }
 
+    bool atEnd() const { return m_next >= m_bytes.size(); }
+
     std::wstring line()
     {
         if (m_next >= m_bytes.size())
@@ -82,24 +84,36 @@ bool WeatherFavourites::openFavourites(int sortIndex)
 
 void WeatherFavourites::loadFavouritesOnce()
 {
+    loadFavouritesOnce([this] { return ReadDeviceFile(m_paths, DevicePaths::besideProgram(L"\\cities.wet")); });
+}
+
+void WeatherFavourites::loadFavouritesOnce(const DeviceFileSource& source)
+{
     const DatabaseShape shape {DatabaseName, DatabaseType, SortIds, 1};
-    const auto fill = [this](PropertyDatabase& database) { return fillFromFile(database); };
-    if (FirstStartLoad::run(m_store, m_database, shape, fill) == FirstStartLoad::Result::SourceMissing)
+    const auto fillFromSource = [&source](PropertyDatabase& database) {
+        const auto bytes = source();
+        if (bytes)
+            fill(database, *bytes);
+        return bytes.has_value();
+    };
+    if (FirstStartLoad::run(m_store, m_database, shape, fillFromSource) == FirstStartLoad::Result::SourceMissing)
         m_messages.showMessage(L"Initial Weather Favorite Cities File not found!", L"Wanderkit");
 }
 
-bool WeatherFavourites::fillFromFile(PropertyDatabase& database)
+void WeatherFavourites::fill(PropertyDatabase& database, std::string_view bytes)
 {
-    const auto bytes = ReadDeviceFile(m_paths, DevicePaths::besideProgram(L"\\cities.wet"));
-    if (!bytes)
-        return false;
-    FavouritesFile file(*bytes);
+    FavouritesFile file(bytes);
     const std::int32_t count = Wtol(file.line());
-    // One record per line, lines past the end of the file included, as far as a database can count.
+    // One record per line, as far as a database can count. Past the end of the file every line reads
+    // empty: one empty favourite is written for them all, so that a count the file does not hold
+    // ("65535" alone) cannot fill the store with empty favourites.
     const std::int64_t lines = std::min<std::int64_t>(count, PropertyDatabase::MaxRecords);
-    for (std::int64_t i = 0; i < lines; ++i)
+    for (std::int64_t i = 0; i < lines; ++i) {
+        const bool pastEnd = file.atEnd();
         database.Add(favouriteFromLine(file.line()), PropertyDatabase::NoKey);
-    return true;
+        if (pastEnd)
+            return;
+    }
 }
 
 std::wstring WeatherFavourites::getName(std::uint32_t position)

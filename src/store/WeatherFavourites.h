@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "device/DeviceFile.h"
 #include "device/DevicePaths.h"
 #include "device/MessageSink.h"
 #include "store/PropertyDatabase.h"
@@ -28,6 +29,8 @@ public:
     bool openFavourites(int sortIndex);
     // The first-start load from "\cities.wet" (all or nothing); leaves the store open in its default order.
     void loadFavouritesOnce();
+    // The same load from the bytes `source` gives.
+    void loadFavouritesOnce(const DeviceFileSource& source);
 
     std::wstring getName(std::uint32_t position);
     std::wstring getLocationCode(std::uint32_t position);
@@ -51,7 +54,7 @@ public:
     void close();
 
 private:
-    bool fillFromFile(PropertyDatabase& database);
+    static void fill(PropertyDatabase& database, std::string_view bytes);
 
     PropertyDatabase m_database;
     ObjectStore& m_store;

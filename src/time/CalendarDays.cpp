@@ -11,7 +11,6 @@ constexpr std::int64_t TicksPerMillisecond = 10'000;
 constexpr std::int64_t MillisecondsPerDay = 86'400'000;
 constexpr std::int64_t TicksPerDay = MillisecondsPerDay * TicksPerMillisecond;
 constexpr int FirstYear = 1601;
-constexpr int LastYear = 30827;
 // Days from 1 January 1601 to 1 January 1970.
 constexpr std::int64_t DaysTo1970 = 134'774;
 
@@ -37,7 +36,7 @@ constexpr std::int64_t DayCount(int year, int month, int day)
     return std::int64_t {era} * 146'097 + dayOfEra - 719'468 + DaysTo1970;
 }
 
-constexpr std::int64_t LastDay = DayCount(LastYear, 12, 31);
+constexpr std::int64_t LastDay = DayCount(LastCalendarYear, 12, 31);
 
 // The calendar date of a day count (Hinnant's civil_from_days); 1 January 1601 was a Monday.
 SystemTime DateOfDayCount(std::int64_t count)
@@ -59,7 +58,7 @@ SystemTime DateOfDayCount(std::int64_t count)
 
 bool IsCalendarDate(const SystemTime& t)
 {
-    return t.year >= FirstYear && t.year <= LastYear && t.month >= 1 && t.month <= 12 && t.day >= 1
+    return t.year >= FirstYear && t.year <= LastCalendarYear && t.month >= 1 && t.month <= 12 && t.day >= 1
         && t.day <= DaysInMonth(t.year, t.month);
 }
 
@@ -94,14 +93,22 @@ std::optional<SystemTime> FromTicks(std::int64_t ticks)
 
 } // namespace
 
-SystemTime AddDays(const SystemTime& date, std::int64_t days)
+std::optional<SystemTime> MoveByDays(const SystemTime& date, std::int64_t days)
 {
     if (!IsCalendarDate(date) || days < -LastDay || days > LastDay)
-        return date;
-    const std::int64_t count = DayCount(date.year, date.month, date.day) + days;
+        return std::nullopt;
+    // The whole days of an overlong time of day are carried before the range check, so that the tick
+    // count below never exceeds the last day's.
+    const std::int64_t timeOfDay = TimeOfDayMilliseconds(date);
+    const std::int64_t count = DayCount(date.year, date.month, date.day) + days + timeOfDay / MillisecondsPerDay;
     if (count < 0 || count > LastDay)
-        return date;
-    return FromTicks(count * TicksPerDay + TimeOfDayMilliseconds(date) * TicksPerMillisecond).value_or(date);
+        return std::nullopt;
+    return FromTicks(count * TicksPerDay + timeOfDay % MillisecondsPerDay * TicksPerMillisecond);
+}
+
+SystemTime AddDays(const SystemTime& date, std::int64_t days)
+{
+    return MoveByDays(date, days).value_or(date);
 }
 
 bool IsLaterDay(const SystemTime& a, const SystemTime& b)

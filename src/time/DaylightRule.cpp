@@ -4,6 +4,8 @@
 #include "text/WideText.h"
 #include "time/CalendarDays.h"
 
+#include <optional>
+
 namespace {
 
 // Cuts the next field off the front of `rest`.
@@ -19,14 +21,19 @@ std::int32_t NextNumber(std::wstring_view& rest)
     return Wtol(std::wstring(NextField(rest)));
 }
 
-SystemTime Boundary(int year, std::int32_t day, std::int32_t hour)
+SystemTime FirstOfYear(int year, std::int32_t hour)
 {
     SystemTime firstOfYear;
     firstOfYear.year = static_cast<std::uint16_t>(year);
     firstOfYear.month = 1;
     firstOfYear.day = 1;
     firstOfYear.hour = static_cast<std::uint16_t>(hour);
-    return AddDays(firstOfYear, std::int64_t {day} - 1);
+    return firstOfYear;
+}
+
+std::optional<SystemTime> Boundary(int year, std::int32_t day, std::int32_t hour)
+{
+    return MoveByDays(FirstOfYear(year, hour), std::int64_t {day} - 1);
 }
 
 } // namespace
@@ -47,14 +54,19 @@ DaylightRule ParseDaylightRule(std::wstring_view text)
 
 DaylightPeriod DaylightPeriodOf(const DaylightRule& rule, int year)
 {
-    DaylightPeriod period {Boundary(year, rule.startDay, rule.startHour), Boundary(year, rule.endDay, rule.endHour)};
+    const auto start = Boundary(year, rule.startDay, rule.startHour);
+    auto end = Boundary(year, rule.endDay, rule.endHour);
     // Only the year field moves: day and month stay as counted in this year, leap day included.
-    if (period.end.month < period.start.month)
-        period.end.year = static_cast<std::uint16_t>(year + 1);
-    return period;
+    if (start && end && end->month < start->month)
+        end->year = static_cast<std::uint16_t>(year + 1);
+    if (!start || !end || end->year > LastCalendarYear) {
+        const SystemTime firstOfYear = AddDays(FirstOfYear(year, 0), 0); // with its day of the week
+        return {firstOfYear, firstOfYear, false};
+    }
+    return {*start, *end};
 }
 
 bool IsInDaylightPeriod(const DaylightPeriod& period, const SystemTime& now)
 {
-    return !IsLaterDay(period.start, now) && !IsLaterDay(now, period.end);
+    return period.applies && !IsLaterDay(period.start, now) && !IsLaterDay(now, period.end);
 }

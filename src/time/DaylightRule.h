@@ -29,6 +29,9 @@ struct DaylightPeriod
 {
     SystemTime start;
     SystemTime end;
+    // False when a boundary falls outside the dates the calendar supports (1601 to 30827), as a hostile
+    // day or hour number makes it: such a rule never applies, and both boundaries read 1 January.
+    bool applies = true;
 
     friend bool operator==(const DaylightPeriod&, const DaylightPeriod&) = default;
 };
@@ -37,11 +40,13 @@ struct DaylightPeriod
 // reads as 0. Nothing past the shift field is read when the city never observes.
 DaylightRule ParseDaylightRule(std::wstring_view text);
 
-// The boundaries in the given year: 1 January at the boundary hour, moved on by (day - 1) days.
+// The boundaries in the given year: 1 January at the boundary hour, moved on by (day - 1) days. The hour
+// is kept in 16 bits, as the handheld's date fields were; hours past 23 carry into the following days.
 // An end whose month comes before the start's month gets next year's year number, keeping the day and
 // month counted in this year (southern rules).
 DaylightPeriod DaylightPeriodOf(const DaylightRule& rule, int year);
 
 // True unless the start's day is later than now's or now's day is later than the end's, comparing
-// days with their milliseconds: now on the end day is outside, except at exactly 0 ms.
+// days with their milliseconds: now on the end day is outside, except at exactly 0 ms. Never true for a
+// period that does not apply.
 bool IsInDaylightPeriod(const DaylightPeriod& period, const SystemTime& now);

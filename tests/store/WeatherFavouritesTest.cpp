@@ -42,8 +42,9 @@ TEST(WeatherFavourites, LoadsTheFavouritesFile)
             {L"Rome|1||01/01/2000|X", L"Rome|2||01/01/2000|Y"}},
         {"missing fields are empty", "2\nFrance;Paris\nSpain\n",
             {L"|||01/01/2000|Spain", L"Paris|||01/01/2000|France"}},
-        {"a count larger than the lines gives empty records", "3\nX;A;1\n",
-            {L"|||01/01/2000|", L"|||01/01/2000|", L"A|1||01/01/2000|X"}},
+        {"a count larger than the lines gives one empty record for all the missing lines", "3\nX;A;1\n",
+            {L"|||01/01/2000|", L"A|1||01/01/2000|X"}},
+        {"a count alone gives one empty record", "65535\n", {L"|||01/01/2000|"}},
         {"a count of 0 writes nothing", "0\nX;A;1\n", {}},
         {"a negative count writes nothing", "-1\nX;A;1\n", {}},
         {"the code keeps further semicolons", "1\nX;A;1;2\n", {L"A|1;2||01/01/2000|X"}},
@@ -60,12 +61,19 @@ TEST(WeatherFavourites, LoadsTheFavouritesFile)
     }
 }
 
-TEST(WeatherFavourites, AHugeCountStopsAtWhatADatabaseCanCount)
+TEST(WeatherFavourites, ACountStopsAtWhatTheFileOrADatabaseCanHold)
 {
-    Device device("2147483647\nX;A;1\n");
-    auto favourites = device.favourites();
-    favourites.loadFavouritesOnce();
-    EXPECT_EQ(favourites.count(), 65535);
+    // 70,000 lines "X;A;1": a database counts only 65,535 of them.
+    std::string manyLines = "2147483647\n";
+    for (int i = 0; i < 70'000; ++i)
+        manyLines += "X;A;1\n";
+    const std::pair<std::string, int> cases[] = {{"2147483647\nX;A;1\n", 2}, {manyLines, 65535}};
+    for (const auto& [file, count] : cases) {
+        TestDevice device;
+        WeatherFavourites favourites(*device.store, device.paths, device.messages);
+        favourites.loadFavouritesOnce([&file] { return file; });
+        EXPECT_EQ(favourites.count(), count);
+    }
 }
 
 TEST(WeatherFavourites, AMissingFileIsReportedAtEveryStartUntilItIsThere)

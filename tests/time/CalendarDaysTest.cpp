@@ -47,6 +47,23 @@ TEST(CalendarDays, AddDaysLeavesWhatItCannotMove)
     EXPECT_EQ(AddDays(firstDay, std::int64_t {1} << 40), firstDay);
 }
 
+TEST(CalendarDays, AnOverlongTimeOfDayCarriesIntoTheDaysUpToTheLastSupportedDay)
+{
+    // 65,535 hours are 2,730 days and 15 hours: 2026 to 2032 hold 2,557 days (two leap years), and the
+    // remaining 173 days from 1 January 2033 end on 23 June.
+    SystemTime hour65535 = C::at(2026, 1, 1, 0, 0, 0);
+    hour65535.hour = 65535;
+    SystemTime lastDayHour24 = C::at(30827, 12, 31, 0, 0, 0);
+    lastDayHour24.hour = 24;
+    SystemTime lastDayHour23 = lastDayHour24;
+    lastDayHour23.hour = 23;
+    EXPECT_EQ(MoveByDays(hour65535, 0), C::at(2033, 6, 23, 15, 0, 0));
+    EXPECT_EQ(MoveByDays(lastDayHour23, 0), C::at(30827, 12, 31, 23, 0, 0));
+    EXPECT_EQ(MoveByDays(lastDayHour24, 0), std::nullopt);
+    EXPECT_EQ(MoveByDays(lastDayHour24, -1), C::at(30827, 12, 31, 0, 0, 0));
+    EXPECT_EQ(AddDays(lastDayHour24, 1), lastDayHour24);
+}
+
 TEST(CalendarDays, IsLaterDayComparesDaysWithTheirMilliseconds)
 {
     const std::tuple<SystemTime, SystemTime, bool> cases[]

@@ -23,6 +23,8 @@ TEST(CityPanelValues, StatusPeriodAndTimeZone)
         // The text is cut as it stands, not read as a number.
         {{L"100", L"0"}, july, {L"Never observing", L"-", L"1h00"}},
         {{L"-10", L"0"}, july, {L"Never observing", L"-", L"-h10"}},
+        // A start past the last supported day (31/12/30827) never applies; both dates read 1 January.
+        {{L"0", L"1:10519714:6195:300:2"}, july, {L"Not observing now", L"1/1/2026-1/1/2026", L"0h"}},
     };
     for (const auto& [city, now, expected] : cases) {
         const CityPanelValues values = ComputeCityPanelValues(city, {2, 0}, now);

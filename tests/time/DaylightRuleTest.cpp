@@ -93,3 +93,28 @@ TEST(DaylightRule, ObservesFromTheStartDayToTheEndOfTheYearForNextYearEnds)
         EXPECT_EQ(IsInDaylightPeriod(DaylightPeriodOf(ParseDaylightRule(rule), now.year), now), observing)
             << rule << " on " << now.day << "/" << now.month << "/" << now.year;
 }
+
+TEST(DaylightRule, ABoundaryPastTheSupportedDatesMakesARuleThatNeverApplies)
+{
+    // 1 January 2026 is day 155,228 since 1 January 1601 and 31 December 30827, the last supported day, is
+    // day 10,674,941 (29,227 years holding 7,087 leap days): so start day 10,519,714 falls on that last day,
+    // and any hour from 24 on carries it past.
+    const SystemTime lastDay = C::at(30827, 12, 31, 0, 0, 0);
+    const SystemTime never = C::at(2026, 1, 1, 0, 0, 0);
+    const std::tuple<std::wstring, int, DaylightPeriod> cases[] = {
+        {L"1:10519714:0:300:2", 2026, {lastDay, Renumbered(C::at(2026, 10, 27, 2, 0, 0), 2027)}},
+        {L"1:10519714:24:300:2", 2026, {never, never, false}},
+        {L"1:10519714:6195:300:2", 2026, {never, never, false}},
+        {L"1:88:2:2147483647:3", 2026, {never, never, false}},
+        {L"1:-2147483648:2:298:3", 2026, {never, never, false}},
+        // The southern end is numbered 30828, past the last supported year.
+        {L"1:277:2:95:3", 30827, {C::at(30827, 1, 1, 0, 0, 0), C::at(30827, 1, 1, 0, 0, 0), false}},
+    };
+    for (const auto& [rule, year, period] : cases) {
+        const DaylightPeriod got = DaylightPeriodOf(ParseDaylightRule(rule), year);
+        EXPECT_EQ(got, period) << rule << " in " << year;
+        // The first case runs from 30827 back to 2027: never in effect either.
+        for (const SystemTime& now : {never, C::at(2026, 7, 1, 12, 0, 0), lastDay})
+            EXPECT_FALSE(IsInDaylightPeriod(got, now)) << rule;
+    }
+}

@@ -51,6 +51,34 @@ check "the first instance keeps running" 0 $?
 kill $first
 wait $first 2>/dev/null
 
+# Many starts at the same moment on the same state: exactly one keeps running and the others leave
+# with 0. The survivor is then killed, leaving its socket behind for the next round to take over.
+# WANDERKIT_RACE_ROUNDS sets the rounds (default 3, of 10 starts each).
+for round in $(seq "${WANDERKIT_RACE_ROUNDS:-3}"); do
+    pids=()
+    for _ in $(seq 10); do
+        "$program" --state-dir "$work/race" >/dev/null 2>&1 &
+        pids+=($!)
+    done
+    for _ in $(seq 150); do
+        running=0
+        for pid in "${pids[@]}"; do kill -0 "$pid" 2>/dev/null && running=$((running + 1)); done
+        [ "$running" -le 1 ] && break
+        sleep 0.2
+    done
+    check "round $round: one of ten simultaneous starts keeps running" 1 "$running"
+    left=0
+    for pid in "${pids[@]}"; do
+        if kill -0 "$pid" 2>/dev/null; then
+            kill -9 "$pid"
+            wait "$pid" 2>/dev/null
+        else
+            wait "$pid" && left=$((left + 1))
+        fi
+    done
+    check "round $round: the other nine leave with 0" 9 "$left"
+done
+
 timeout 60 "$program" --state-dir "$work/state3" --exit-after-first-paint >/dev/null 2>&1
 check "--exit-after-first-paint ends with 0" 0 $?
 test "$(stat -c %a "$work/state3")" = 700

@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/SettingsCommand.h"
+
+#include "cli/CommandSession.h"
+#include "settings/RegistryValueText.h"
+#include "text/WideText.h"
+
+#include <charconv>
+#include <cstdio>
+#include <optional>
+#include <ostream>
+#include <string>
+#include <vector>
+
+namespace {
+
+constexpr const char* Usage
+    = "usage: wanderkit settings [get KEY NAME | set KEY NAME VALUE [--type dword|string] | reset]\n";
+
+// The words of the command with the value of --type set apart.
+struct SettingsWords
+{
+    std::vector<std::string> words;
+    std::string type = "dword";
+};
+
+std::optional<SettingsWords> splitWords(const std::vector<std::string>& args)
+{
+    SettingsWords split;
+    for (std::size_t i = 0; i < args.size(); ++i) {
+        if (args[i] == "--type" && i + 1 < args.size())
+            split.type = args[++i];
+        else if (args[i].starts_with("--type="))
+            split.type = args[i].substr(7);
+        else if (args[i].starts_with("--"))
+            return std::nullopt;
+        else
+            split.words.push_back(args[i]);
+    }
+    return split;
+}
+
+std::string typeName(RegistryType type)
+{
+    switch (type) {
+    case RegistryType::Dword:
+        return "dword";
+    case RegistryType::String:
+        return "string";
+    case RegistryType::Binary:
+        return "binary";
+    }
+    return "type " + std::to_string(static_cast<std::uint32_t>(type));
+}
+
+// A number as a number, a text as UTF-8, anything else as hexadecimal bytes.
+std::string valueText(const RegistryValue& value)
+{
+    if (value.type == RegistryType::Dword)
+        return std::to_string(RegistryDwordOf(value.data));
+    if (value.type == RegistryType::String)
+        return WideToUtf8(RegistryTextOf(value.data));
+    std::string hex;
+    for (const std::uint8_t byte : value.data) {
+        char pair[4];
+        std::snprintf(pair, sizeof pair, "%s%02x", hex.empty() ? "" : " ", byte);
+        hex += pair;
+    }
+    return hex;
+}
+
+// A 32-bit number written in decimal, negative ones as their two's complement.
+std::optional<std::uint32_t> parseDword(const std::string& text)
+{
+    long long number = 0;
+    const auto [end, ec] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (ec != std::errc() || end != text.data() + text.size() || number < -2147483648LL || number > 4294967295LL)
+        return std::nullopt;
+    return static_cast<std::uint32_t>(number);
+}
+
+int list(RegistrySettings& settings, std::ostream& out)
+{
+    for (const StoredRegistryValue& stored : settings.ListValues())
+        out << WideToUtf8(stored.key) << '\t' << WideToUtf8(stored.name) << '\t' << typeName(stored.value.type) << '\t'
+            << valueText(stored.value) << '\n';
+    return 0;
+}
+
+int get(
+    RegistrySettings& settings, const std::string& key, const std::string& name, std::ostream& out, std::ostream& err)
+{
+    const auto value = settings.GetValue(Utf8ToWide(key), Utf8ToWide(name));
+    if (!value) {
+        err << "wanderkit settings: no value \"" << name << "\" under \"" << key << "\"\n";
+        return 1;
+    }
+    out << valueText(*value) << '\n';
+    return 0;
+}
+
+int set(RegistrySettings& settings, const std::vector<std::string>& words, const std::string& type, std::ostream& err)
+{
+    const std::wstring key = Utf8ToWide(words[1]);
+    const std::wstring name = Utf8ToWide(words[2]);
+    if (type == "string") {
+        settings.SetString(key, name, Utf8ToWide(words[3]));
+        return 0;
+    }
+    const auto number = parseDword(words[3]);
+    if (!number) {
+        err << "wanderkit settings: \"" << words[3] << "\" is not a whole number that fits in 32 bits"
+            << " (-2147483648 to 4294967295)\n";
+        return 2;
+    }
+    settings.SetDWORD(key, name, *number);
+    return 0;
+}
+
+} // namespace
+
+int RunSettingsCommand(const CommandRequest& request, std::ostream& out, std::ostream& err)
+{
+    const auto args = splitWords(request.args);
+    const std::vector<std::string> none;
+    const auto& words = args ? args->words : none;
+    const std::string action = words.empty() ? "" : words[0];
+    const bool wellFormed = args && (args->type == "dword" || args->type == "string")
+        && ((action.empty() && words.empty()) || (action == "get" && words.size() == 3)
+            || (action == "set" && words.size() == 4) || (action == "reset" && words.size() == 1));
+    if (!wellFormed) {
+        err << "wanderkit settings: unexpected arguments\n" << Usage;
+        return 2;
+    }
+    const auto session = CommandSession::open(request, err);
+    if (!session)
+        return 1;
+    RegistrySettings& settings = session->settings();
+    if (action == "get")
+        return get(settings, words[1], words[2], out, err);
+    if (action == "set")
+        return set(settings, words, args->type, err);
+    if (action == "reset")
+        return settings.Clear() ? 0 : 1;
+    return list(settings, out);
+}

@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "device/StateFolder.h"
+
+#include "CommandResult.h"
+#include "TempDir.h"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr uid_t Nobody = 65534;
+
+mode_t modeOf(const fs::path& path)
+{
+    struct stat info = {};
+    return ::stat(path.c_str(), &info) == 0 ? info.st_mode & 0777 : 0;
+}
+
+// What `wanderkit cities` says with `state` as its state folder.
+CommandResult citiesIn(const fs::path& state)
+{
+    DeviceOptions options;
+    options.stateDir = state;
+    return CommandResult::of("cities", {}, options);
+}
+
+// A child process holding a write lock on the whole of `file` until it is ended.
+class LockHolder
+{
+public:
+    explicit LockHolder(const fs::path& file)
+    {
+        int ready[2];
+        EXPECT_EQ(::pipe(ready), 0);
+        m_pid = ::fork();
+        if (m_pid == 0) {
+            const int fd = ::open(file.c_str(), O_RDWR);
+            struct flock lock = {};
+            lock.l_type = F_WRLCK;
+            lock.l_whence = SEEK_SET;
+            ::fcntl(fd, F_SETLK, &lock);
+            (void)!::write(ready[1], "l", 1);
+            ::pause();
+            ::_exit(0);
+        }
+        char byte = 0;
+        EXPECT_EQ(::read(ready[0], &byte, 1), 1);
+        ::close(ready[0]);
+        ::close(ready[1]);
+    }
+    ~LockHolder()
+    {
+        ::kill(m_pid, SIGKILL);
+        ::waitpid(m_pid, nullptr, 0);
+    }
+    pid_t pid() const { return m_pid; }
+
+private:
+    pid_t m_pid = -1;
+};
+
+} // namespace
+
+TEST(StateFolder, IsCreatedPrivateAndItsFilesToo)
+{
+    TempDir dir;
+    const fs::path state = dir.path() / "a" / "state";
+    dir.write("old/registry.db", "");
+    ::chmod((dir.path() / "old" / "registry.db").c_str(), 0644);
+    for (const fs::path& folder : {state, dir.path() / "old"}) {
+        const CommandResult result = citiesIn(folder);
+        EXPECT_EQ(result.code, 0) << result.err;
+        for (const char* file : {"registry.db", "objectstore.db"})
+            EXPECT_EQ(modeOf(folder / file), 0600u) << folder / file;
+    }
+    EXPECT_EQ(modeOf(state), 0700u);
+}
+
+TEST(StateFolder, RefusesStateFilesThatAreNotRegularFilesOfTheUsers)
+{
+    using Make = void (*)(const fs::path& file);
+    const std::tuple<const char*, Make, const char*> cases[] = {
+        {"registry.db", [](const fs::path& file) { fs::create_directory(file); }, " is a folder"},
+        {"objectstore.db", [](const fs::path& file) { ::mkfifo(file.c_str(), 0600); }, " is a named pipe (FIFO)"},
+        {"registry.db", [](const fs::path& file) { fs::create_symlink("/etc/passwd", file); }, " is a symbolic link"},
+        {"objectstore.db-wal", [](const fs::path& file) { fs::create_symlink("elsewhere", file); },
+            " is a symbolic link"},
+    };
+    for (const auto& [name, make, problem] : cases) {
+        SCOPED_TRACE(name + std::string(problem));
+        TempDir state;
+        make(state.path() / name);
+        const CommandResult result = citiesIn(state.path());
+        EXPECT_EQ(result.code, 1);
+        EXPECT_NE(result.err.find((state.path() / name).string() + problem), std::string::npos) << result.err;
+        EXPECT_EQ(fs::symlink_status(state.path() / name).type() == fs::file_type::symlink,
+            std::string(problem) == " is a symbolic link")
+            << "left as it was";
+    }
+}
+
+TEST(StateFolder, NamesTheProgramThatHoldsALockOnAStateFile)
+{
+    TempDir state;
+    const fs::path file = state.write("registry.db", "");
+    LockHolder holder(file);
+    EXPECT_EQ(StateFolder::openFailure(file),
+        "Cannot use the state file " + file.string() + ": it is locked by another program (process "
+            + std::to_string(holder.pid()) + ")");
+}
+
+TEST(StateFolder, RefusesAFolderOfAnotherUserEvenThroughALink)
+{
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "giving a folder to another user needs root";
+    TempDir dir;
+    const fs::path theirs = dir.path() / "theirs";
+    const fs::path mine = dir.path() / "mine";
+    fs::create_directory(theirs);
+    fs::create_directory(mine);
+    ASSERT_EQ(::chown(theirs.c_str(), Nobody, Nobody), 0);
+    fs::create_directory_symlink(theirs, dir.path() / "to-theirs");
+    fs::create_directory_symlink(mine, dir.path() / "to-mine");
+    const std::pair<fs::path, std::string> cases[] = {
+        {dir.path() / "to-theirs", ": it is a symbolic link to " + theirs.string() + ", which belongs to another user"},
+        {theirs, ": it belongs to another user"},
+        {dir.path() / "to-mine", ""},
+    };
+    for (const auto& [folder, problem] : cases) {
+        std::string error;
+        EXPECT_EQ(StateFolder::prepare(folder, error), problem.empty()) << folder;
+        EXPECT_EQ(error, problem.empty() ? "" : "Cannot use the state folder " + folder.string() + problem);
+    }
+    EXPECT_TRUE(fs::is_empty(theirs)) << "nothing written there";
+}
