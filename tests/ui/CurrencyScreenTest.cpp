@@ -9,7 +9,6 @@
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTest>
-#include <QTimer>
 
 #include <tuple>
 
@@ -183,16 +182,11 @@ private slots:
         ConverterBench t(std::array {Euro, Dollar, Pound});
         t.bench.visit(t.screen, [&] {
             t.type(3, QStringLiteral("2"));
-            QObject context;
             int preselected = -2;
-            connect(&t.bench.window, &DeviceWindow::screenShown, &context, [&](Screen& shown) {
-                if (&shown == &t.screen)
-                    return;
-                QTimer::singleShot(0, &context, [&] {
-                    preselected = static_cast<SelectDialog&>(shown).selection();
-                    t.bench.press(Qt::Key_Down); // Euro
-                    shown.sendCommand(Commands::Done);
-                });
+            t.bench.whenNextShown(t.screen, [&](Screen& shown) {
+                preselected = static_cast<SelectDialog&>(shown).selection();
+                t.bench.press(Qt::Key_Down); // Euro
+                shown.sendCommand(Commands::Done);
             });
             t.screen.sendCommand(Commands::ChangeCurrency);
             QCOMPARE(preselected, static_cast<int>(Pound));
@@ -210,16 +204,11 @@ private slots:
             t.type(1, QStringLiteral("2"));
             const QStringList before = t.texts();
             t.screen.setFocus();
-            QObject context;
             bool opened = false;
-            connect(&t.bench.window, &DeviceWindow::screenShown, &context, [&](Screen& shown) {
-                if (&shown == &t.screen)
-                    return;
+            t.bench.whenNextShown(t.screen, [&](Screen& shown) {
                 opened = true;
-                QTimer::singleShot(0, &context, [&] {
-                    t.bench.press(Qt::Key_Down);
-                    shown.sendCommand(Commands::Done);
-                });
+                t.bench.press(Qt::Key_Down);
+                shown.sendCommand(Commands::Done);
             });
             QSignalSpy painted(&t.screen, &Screen::painted);
             t.bench.press(Qt::Key_Return); // the action key changes a currency too

@@ -12,7 +12,6 @@
 #include "ui/SoftKeyBar.h"
 
 #include <QTest>
-#include <QTimer>
 
 namespace {
 
@@ -284,13 +283,10 @@ private slots:
         MapBench t;
         WriteSetting(t.registry, Settings::MapClock, 684);
         t.run([&] {
-            QObject context;
-            connect(&t.bench.window, &DeviceWindow::screenShown, &context, [&](Screen& dialog) {
-                QTimer::singleShot(0, &context, [&] {
-                    QCOMPARE(static_cast<SelectDialog&>(dialog).selection(), 684);
-                    t.bench.press(Qt::Key_Down);
-                    dialog.sendCommand(Commands::Done);
-                });
+            t.bench.whenNextShown(t.screen, [&](Screen& dialog) {
+                QCOMPARE(static_cast<SelectDialog&>(dialog).selection(), 684);
+                t.bench.press(Qt::Key_Down);
+                dialog.sendCommand(Commands::Done);
             });
             t.screen.sendCommand(Commands::ChangeCity);
             QCOMPARE(t.screen.selectedCity(), 685);

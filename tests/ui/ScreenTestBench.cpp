@@ -54,6 +54,18 @@ void ScreenTestBench::whenShown(Screen& screen, const std::function<void()>& dri
           });
 }
 
+void ScreenTestBench::whenNextShown(Screen& current, const std::function<void(Screen&)>& drive)
+{
+    auto connection = std::make_shared<QMetaObject::Connection>();
+    *connection
+        = QObject::connect(&window, &DeviceWindow::screenShown, &current, [&current, connection, drive](Screen& shown) {
+              if (&shown == &current)
+                  return;
+              QObject::disconnect(*connection);
+              QTimer::singleShot(0, &shown, [drive, &shown] { drive(shown); });
+          });
+}
+
 void ScreenTestBench::press(Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
     QTest::keyClick(window.focusWidget(), key, modifiers);

@@ -31,6 +31,8 @@ public:
     void visit(Screen& screen, const std::function<void()>& check);
     // Calls `drive` once `screen` is next shown, when someone else (the launcher) opens it.
     void whenShown(Screen& screen, const std::function<void()>& drive);
+    // Calls `drive` with the next screen shown over `current` (a dialog it opens), once.
+    void whenNextShown(Screen& current, const std::function<void(Screen&)>& drive);
     // Presses `key` on the widget that has the focus.
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     // Moves the device clock and the screens' timers on together, firing the timers that fall due.

@@ -17,7 +17,6 @@
 
 #include <QPushButton>
 #include <QTest>
-#include <QTimer>
 
 #include <filesystem>
 
@@ -215,15 +214,12 @@ private slots:
         t.setWetp(1);
         t.bench.visit(t.screen, [&] {
             t.bench.press(Qt::Key_Right);
-            QObject context;
-            connect(&t.bench.window, &DeviceWindow::screenShown, &context, [&](Screen& shown) {
+            t.bench.whenNextShown(t.screen, [&](Screen& shown) {
                 auto& dialog = static_cast<FavouritesDialog&>(shown);
-                QTimer::singleShot(0, &context, [&] {
-                    QCOMPARE(dialog.currentCountry(), L"France"); // Paris, preselected
-                    t.bench.press(Qt::Key_Right);
-                    QCOMPARE(dialog.currentCountry(), L"Italy");
-                    dialog.sendCommand(Commands::Done);
-                });
+                QCOMPARE(dialog.currentCountry(), L"France"); // Paris, preselected
+                t.bench.press(Qt::Key_Right);
+                QCOMPARE(dialog.currentCountry(), L"Italy");
+                dialog.sendCommand(Commands::Done);
             });
             t.bench.press(Qt::Key_Return); // the action key, as "Change City"
             QCOMPARE(t.screen.favouriteName(), L"Rome");

@@ -15,7 +15,6 @@
 #include "ui/Spinner.h"
 
 #include <QTest>
-#include <QTimer>
 
 #include <algorithm>
 #include <tuple>
@@ -197,14 +196,11 @@ private slots:
         t.run([&] {
             t.bench.press(Qt::Key_Right);
             t.bench.press(Qt::Key_Right); // "c1"
-            QObject context;
-            connect(&t.bench.window, &DeviceWindow::screenShown, &context, [&](Screen& dialog) {
-                QTimer::singleShot(0, &context, [&] {
-                    QCOMPARE(static_cast<SelectDialog&>(dialog).selection(), 684);
-                    t.bench.press(Qt::Key_Down);
-                    t.bench.press(Qt::Key_Down);
-                    dialog.sendCommand(Commands::Done);
-                });
+            t.bench.whenNextShown(t.screen, [&](Screen& dialog) {
+                QCOMPARE(static_cast<SelectDialog&>(dialog).selection(), 684);
+                t.bench.press(Qt::Key_Down);
+                t.bench.press(Qt::Key_Down);
+                dialog.sendCommand(Commands::Done);
             });
             t.bench.press(Qt::Key_Return);
             QCOMPARE(t.screen.slotCity(1), 686u);
