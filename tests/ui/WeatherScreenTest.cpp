@@ -13,6 +13,7 @@
 #include "ui/Commands.h"
 #include "ui/SoftKeyBar.h"
 #include "ui/Spinner.h"
+#include "ui/WideString.h"
 #include "weather/ForecastTable.h"
 
 #include <QPushButton>
@@ -93,7 +94,7 @@ struct WeatherBench
 
 QString conditionOf(const WeatherScreen& screen)
 {
-    return QString::fromStdWString(screen.shownDay().condition);
+    return ToQString(screen.shownDay().condition);
 }
 
 Spinner* spinner(QWidget& screen, const char* name)

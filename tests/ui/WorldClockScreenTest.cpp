@@ -13,6 +13,7 @@
 #include "ui/Painting.h"
 #include "ui/SoftKeyBar.h"
 #include "ui/Spinner.h"
+#include "ui/WideString.h"
 
 #include <QTest>
 
@@ -106,7 +107,7 @@ private slots:
         std::uint32_t widest = 0;
         QString widestName;
         for (std::uint32_t i = 0; i < cities.Count(); ++i) {
-            const QString name = QString::fromStdWString(cities.Record(i).name);
+            const QString name = ToQString(cities.Record(i).name);
             if (metrics.horizontalAdvance(name) > metrics.horizontalAdvance(widestName))
                 std::tie(widest, widestName) = std::pair(i, name);
         }
