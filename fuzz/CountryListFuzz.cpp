@@ -16,7 +16,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         found += list.codeOf(std::wstring_view(city).substr(city.size() / 2)).has_value();
     }
     found += list.codeOf(L";").has_value() + list.codeOf(L"\n").has_value();
-    static volatile std::size_t answers; // the lookups are what is fuzzed; keep them from being dropped
-    answers = found;
+    if (found > 2 * list.cities().size() + 2) // each lookup answers at most once
+        __builtin_trap();
     return 0;
 }
