@@ -36,6 +36,13 @@ int fieldTop(std::size_t field)
     return FirstFieldTop + static_cast<int>(field) * FieldPitch;
 }
 
+// The focus band's top: 110 pixels above the bottom, but never over the third field, which a work area
+// turned on its side (240 high) would otherwise reach. The rate lines follow the band.
+int focusBandTop(int height)
+{
+    return std::max(height - 110, fieldTop(2) + FieldHeight + 4);
+}
+
 } // namespace
 
 CurrencyScreen::CurrencyScreen(
@@ -167,21 +174,22 @@ void CurrencyScreen::paint(QPainter& painter)
         Painting::drawTextAt(painter, m_titleFont, CodeLeft, fieldTop(k), ToQString(m_currencies[k].label).left(3));
 
     Painting::drawTextAt(painter, m_textFont, 5, height - 25, m_lastUpdate);
-    paintRateLines(painter, height);
-    painter.fillRect(QRect(0, height - 110, width, 20), Painting::ConverterBand);
-    Painting::drawTextAt(painter, m_textFont, 10, height - 110, m_focusLabel);
+    const int band = focusBandTop(height);
+    paintRateLines(painter, band);
+    painter.fillRect(QRect(0, band, width, 20), Painting::ConverterBand);
+    Painting::drawTextAt(painter, m_textFont, 10, band, m_focusLabel);
     if (!m_focusFrame.isNull())
         Painting::drawRaisedEdge(painter, m_focusFrame.left(), m_focusFrame.top(),
             m_focusFrame.left() + m_focusFrame.width(), m_focusFrame.top() + m_focusFrame.height());
 }
 
 // The second line starts where the first line's equals sign stands: after the width of "1 CODE ".
-void CurrencyScreen::paintRateLines(QPainter& painter, int height)
+void CurrencyScreen::paintRateLines(QPainter& painter, int bandTop)
 {
     const auto& [first, second, third] = m_currencies;
-    Painting::drawTextAt(painter, m_textFont, 5, height - 75, ToQString(FirstRateLine(first, second)));
+    Painting::drawTextAt(painter, m_textFont, 5, bandTop + 35, ToQString(FirstRateLine(first, second)));
     const int lead = QFontMetrics(m_textFont).horizontalAdvance(ToQString(FirstRateLineLead(first)));
-    Painting::drawTextAt(painter, m_textFont, 5 + lead, height - 60, ToQString(SecondRateLine(first, third)));
+    Painting::drawTextAt(painter, m_textFont, 5 + lead, bandTop + 50, ToQString(SecondRateLine(first, third)));
 }
 
 void CurrencyScreen::destroyWork()

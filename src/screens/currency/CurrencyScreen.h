@@ -49,7 +49,7 @@ private:
     void fieldFocused(std::size_t field);
     void convertFrom(std::size_t field);
     void changeCurrency();
-    void paintRateLines(QPainter& painter, int height);
+    void paintRateLines(QPainter& painter, int bandTop);
 
     const InitialCurrencyList& m_initialCurrencies;
     CurrencyStore m_store;
