@@ -135,8 +135,14 @@ private slots:
         RegistrySettings settings(bench.settings);
         for (const auto& [value, rows] : rounds()) {
             store(settings, value, rows);
+            const auto favourite = settings.GetValue(Settings::WeatherPosition.subkey, Settings::WeatherPosition.name);
             bench.boxes.shown.clear();
             const QStringList shown = tour(bench, pictures);
+            // Only "Change City" writes the favourite position: a hostile one is still there, as stored.
+            const auto after = settings.GetValue(Settings::WeatherPosition.subkey, Settings::WeatherPosition.name);
+            QCOMPARE(after.has_value(), favourite.has_value());
+            if (favourite)
+                QVERIFY(after->type == favourite->type && after->data == favourite->data);
             const QSet<QString> missing
                 = QSet<QString>(everyScreen.begin(), everyScreen.end()) - QSet<QString>(shown.begin(), shown.end());
             // A screen that cannot show the stored choice may refuse to open, but only with a message.
