@@ -11,7 +11,6 @@
 #include "ui/QtMessageSink.h"
 #include "ui/QtScreenTimers.h"
 
-#include <QApplication>
 #include <QEventLoop>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -109,13 +108,3 @@ void ImportThenOpenTheConverter(benchmark::State& state)
 BENCHMARK(ImportThenOpenTheConverter)->Unit(benchmark::kMillisecond)->UseManualTime()->Iterations(30);
 
 } // namespace
-
-int main(int argc, char** argv)
-{
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}

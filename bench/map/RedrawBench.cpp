@@ -6,7 +6,6 @@
 #include "screens/map/MapRenderer.h"
 #include "ui/Painting.h"
 
-#include <QGuiApplication>
 #include <QImageReader>
 #include <benchmark/benchmark.h>
 
@@ -43,13 +42,3 @@ void MapRedraw(benchmark::State& state)
 BENCHMARK(MapRedraw)->Arg(3)->Arg(6)->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime()->Repetitions(3);
 
 } // namespace
-
-int main(int argc, char** argv)
-{
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QGuiApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}

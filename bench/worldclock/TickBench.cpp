@@ -3,9 +3,7 @@
 // Target: at most 1 ms of CPU time.
 #include "WorldClockRig.h"
 
-#include <QApplication>
 #include <QEventLoop>
-
 #include <benchmark/benchmark.h>
 
 namespace {
@@ -34,13 +32,3 @@ void WorldClockTick(benchmark::State& state)
 BENCHMARK(WorldClockTick)->Unit(benchmark::kMicrosecond)->Iterations(1000)->Repetitions(3)->MeasureProcessCPUTime();
 
 } // namespace
-
-int main(int argc, char** argv)
-{
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}

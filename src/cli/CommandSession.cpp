@@ -17,6 +17,15 @@ std::unique_ptr<CommandSession> CommandSession::open(const CommandRequest& reque
     return session;
 }
 
+WeatherFavourites& CommandSession::favourites()
+{
+    if (!m_favourites) {
+        m_favourites = std::make_unique<WeatherFavourites>(m_device->objects(), m_device->paths(), *m_messages);
+        m_favourites->loadFavouritesOnce();
+    }
+    return *m_favourites;
+}
+
 CommandSession::CommandSession(std::unique_ptr<StreamMessageSink> messages, std::unique_ptr<DeviceSession> device)
     : m_messages(std::move(messages))
     , m_device(std::move(device))

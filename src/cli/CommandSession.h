@@ -6,6 +6,7 @@
 #include "session/DeviceSession.h"
 #include "settings/RegistrySettings.h"
 #include "store/CityCatalogue.h"
+#include "store/WeatherFavourites.h"
 
 #include <iosfwd>
 #include <memory>
@@ -23,6 +24,8 @@ public:
     const DevicePaths& paths() const { return m_device->paths(); }
     RegistrySettings& settings() { return m_registry; }
     CityCatalogue& cities() { return m_cities; }
+    // The weather favourites, loaded from the shipped list on first use.
+    WeatherFavourites& favourites();
     MessageSink& messages() { return *m_messages; }
 
 private:
@@ -32,4 +35,5 @@ private:
     std::unique_ptr<DeviceSession> m_device;
     RegistrySettings m_registry;
     CityCatalogue m_cities;
+    std::unique_ptr<WeatherFavourites> m_favourites;
 };

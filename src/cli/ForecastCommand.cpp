@@ -108,8 +108,7 @@ int RunForecastCommand(const CommandRequest& request, std::ostream& out, std::os
     const auto session = CommandSession::open(request, err);
     if (!session)
         return Unusable;
-    WeatherFavourites favourites(session->device().objects(), session->paths(), session->messages());
-    favourites.loadFavouritesOnce();
+    WeatherFavourites& favourites = session->favourites();
     const auto position = targetFavourite(*session, favourites, *wanted, *forecast, err);
     if (!position)
         return UsageError;

@@ -75,8 +75,7 @@ int RunWeatherCommand(const CommandRequest& request, std::ostream& out, std::ost
     const auto session = CommandSession::open(request, err);
     if (!session)
         return Unusable;
-    WeatherFavourites favourites(session->device().objects(), session->paths(), session->messages());
-    favourites.loadFavouritesOnce();
+    WeatherFavourites& favourites = session->favourites();
     std::uint32_t position = ReadSetting(session->settings(), Settings::WeatherPosition);
     if (!wanted->favourite.empty()) {
         const auto found = FindFavourite(favourites, wanted->favourite);
@@ -111,8 +110,7 @@ int RunFavouritesCommand(const CommandRequest& request, std::ostream& out, std::
     const auto session = CommandSession::open(request, err);
     if (!session)
         return Unusable;
-    WeatherFavourites favourites(session->device().objects(), session->paths(), session->messages());
-    favourites.loadFavouritesOnce();
+    WeatherFavourites& favourites = session->favourites();
     const std::uint16_t count = favourites.count();
     for (std::uint32_t i = 0; i < count; ++i)
         out << WideToUtf8(favourites.getName(i)) << '\t' << WideToUtf8(favourites.getLocationCode(i)) << '\t'
