@@ -115,8 +115,6 @@ TEST(EcbRatesReader, RefusesFilesThatAreNotADailyRatesFile)
             "it declares a document type"},
         {"undefined entity", replaced(good, "Reference rates", "&lol;"), "it is not well-formed XML (line 3"},
         {"truncated", good.substr(0, good.size() / 2), "it is not well-formed XML"},
-        {"truncated before its end tag", good.substr(0, good.size() - 20), "it is not well-formed XML"},
-        {"mismatched tags", Envelope + "<Cube></Cub></gesmes:Envelope>", "it is not well-formed XML"},
         {"empty", "", "it is not well-formed XML (line 1, column 0): no element found"},
         {"binary", std::string("\0\x01\xff\xfe", 4), "it is not well-formed XML"},
         {"another XML file", "<html><body>404</body></html>", "its root element is not the gesmes:Envelope"},

@@ -55,12 +55,6 @@ const std::pair<const char*, OpenAndCheck> Kinds[] = {
     {"objectstore.db", &objectStoreMarker},
 };
 
-std::string fileBytes(const std::filesystem::path& file)
-{
-    std::ifstream in(file, std::ios::binary);
-    return std::string((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-}
-
 // A real state file cut in the middle of its pages.
 void truncateToHalf(const std::filesystem::path& file)
 {
@@ -110,12 +104,12 @@ TEST(StateFile, UnreadableFilesAreSetAsideAndReplaced)
             RecordingMessageSink messages;
             ASSERT_TRUE(openAndCheck(file, messages, true));
             damage(file);
-            const std::string damaged = fileBytes(file);
+            const std::string damaged = TempDir::read(file);
 
             EXPECT_FALSE(openAndCheck(file, messages, false)) << "a fresh file has no marker";
             const auto aside = setAside(dir.path());
             ASSERT_EQ(aside.size(), 1u);
-            EXPECT_TRUE(fileBytes(aside[0]) == damaged) << "nothing is lost";
+            EXPECT_TRUE(TempDir::read(aside[0]) == damaged) << "nothing is lost";
             ASSERT_EQ(messages.messages.size(), 1u);
             const auto& [text, caption] = messages.messages[0];
             EXPECT_NE(text.find(Utf8ToWide(file.string())), std::wstring::npos);

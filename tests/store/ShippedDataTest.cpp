@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The shipped device root, read with the program's own readers.
 #include "RecordingMessageSink.h"
+#include "TempDir.h"
 #include "device/DevicePaths.h"
 #include "store/CityCatalogue.h"
 #include "store/CountryCityList.h"
@@ -14,8 +15,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <set>
 
 namespace {
@@ -25,8 +24,7 @@ class ShippedData : public ::testing::Test
 protected:
     static std::string fileBytes(const char* name)
     {
-        std::ifstream in(std::filesystem::path(WANDERKIT_SHIPPED_DEVICE_ROOT) / name, std::ios::binary);
-        return std::string(std::istreambuf_iterator<char>(in), {});
+        return TempDir::read(std::filesystem::path(WANDERKIT_SHIPPED_DEVICE_ROOT) / name);
     }
 
     // The count on the second line of "\cities.lst", below its header line.

@@ -28,3 +28,9 @@ std::filesystem::path TempDir::write(const std::filesystem::path& relative, std:
     out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     return file;
 }
+
+std::string TempDir::read(const std::filesystem::path& file)
+{
+    std::ifstream in(file, std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(in), {});
+}

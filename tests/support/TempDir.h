@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
 #include <string_view>
 
 // A fresh folder under the system's temporary folder, removed with everything in it at the end.
@@ -16,6 +17,8 @@ public:
     const std::filesystem::path& path() const { return m_path; }
     // Writes `bytes` to a file below the folder (parent folders created) and returns its path.
     std::filesystem::path write(const std::filesystem::path& relative, std::string_view bytes) const;
+    // The bytes of any file; empty when it cannot be read.
+    static std::string read(const std::filesystem::path& file);
 
 private:
     std::filesystem::path m_path;

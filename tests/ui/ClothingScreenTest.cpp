@@ -50,15 +50,6 @@ void store(ScreenTestBench& bench, std::optional<std::uint32_t> who, std::option
         WriteSetting(settings, Settings::ClothesKind, *cloth);
 }
 
-constexpr std::uint32_t NotStored = 0xFFFFFFFFu;
-
-std::uint32_t stored(ScreenTestBench& bench, const DwordSetting& setting)
-{
-    RegistrySettings settings(bench.settings);
-    const std::uint32_t value = settings.GetDWORD(setting.subkey, setting.name);
-    return settings.Status() == RegistrySettings::Read ? value : NotStored;
-}
-
 } // namespace
 
 class ClothingScreenTest : public QObject
@@ -130,12 +121,12 @@ private slots:
                 QCOMPARE(spinner(screen, "garmentSpinner")->currentIndex(), garment);
                 QCOMPARE(screen.tableTitle(), table(wearer, garment).first);
                 // Reading writes no default back.
-                QCOMPARE(stored(bench, Settings::ClothesWho), who.value_or(NotStored));
-                QCOMPARE(stored(bench, Settings::ClothesKind), cloth.value_or(NotStored));
+                QCOMPARE(bench.stored(Settings::ClothesWho), who.value_or(ScreenTestBench::NotStored));
+                QCOMPARE(bench.stored(Settings::ClothesKind), cloth.value_or(ScreenTestBench::NotStored));
             });
             // Leaving writes what was shown.
-            QCOMPARE(stored(bench, Settings::ClothesWho), static_cast<std::uint32_t>(wearer));
-            QCOMPARE(stored(bench, Settings::ClothesKind), static_cast<std::uint32_t>(garment));
+            QCOMPARE(bench.stored(Settings::ClothesWho), static_cast<std::uint32_t>(wearer));
+            QCOMPARE(bench.stored(Settings::ClothesKind), static_cast<std::uint32_t>(garment));
         }
     }
 
@@ -163,8 +154,8 @@ private slots:
             QCOMPARE(screen.tableTitle(), table(1, 2).first);
             bench.press(Qt::Key_F1);
         });
-        QCOMPARE(stored(bench, Settings::ClothesWho), 1u);
-        QCOMPARE(stored(bench, Settings::ClothesKind), 2u);
+        QCOMPARE(bench.stored(Settings::ClothesWho), 1u);
+        QCOMPARE(bench.stored(Settings::ClothesKind), 2u);
         bench.visit(screen, [&] { QCOMPARE(screen.tableTitle(), table(1, 2).first); });
     }
 };

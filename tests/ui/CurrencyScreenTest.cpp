@@ -9,7 +9,6 @@
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTest>
-#include <QTimer>
 
 #include <tuple>
 
@@ -92,15 +91,6 @@ private slots:
             // The Back key erases the last character: 1 dollar.
             t.bench.press(Qt::Key_Escape);
             QCOMPARE(t.texts(), lines({"0.80000000", "1", "0.64000000"}));
-
-            // Text after the number is ignored; no number converts as 0.
-            t.field(1)->setFocus();
-            t.field(1)->setText(QStringLiteral("2.5 EUR"));
-            QCOMPARE(t.texts(), lines({"2.5 EUR", "3.12500000", "2.00000000"}));
-            t.field(3)->setFocus();
-            t.field(3)->setText(QStringLiteral("abc"));
-            QCOMPARE(t.texts(), lines({"0.00000000", "0.00000000", "abc"}));
-            QCOMPARE(t.screen.focusLabel(), QStringLiteral("GBP - British Pound"));
         });
     }
 
@@ -126,9 +116,8 @@ private slots:
         using Case = std::tuple<std::array<std::uint32_t, 3>, const char*, const char*, const char*>;
         const Case cases[] = {
             {{Euro, Euro, Euro}, "1", "1.00000000", "1.00000000"},
-            // A currency with no record has a rate of 0: 1.25 / 0 and 0 / 0.
+            // A currency with no record has a rate of 0: 1.25 / 0 and 0 / 0 (the signs are the conversion's).
             {{Euro, Nowhere, Dollar}, "5", "inf", "6.25000000"},
-            {{Euro, Nowhere, Dollar}, "-5", "-inf", "-6.25000000"},
             {{Nowhere, Nowhere, Dollar}, "5", "nan", "0.00000000"},
         };
         for (const auto& [positions, typed, second, third] : cases) {
@@ -193,16 +182,11 @@ private slots:
         ConverterBench t(std::array {Euro, Dollar, Pound});
         t.bench.visit(t.screen, [&] {
             t.type(3, QStringLiteral("2"));
-            QObject context;
             int preselected = -2;
-            connect(&t.bench.window, &DeviceWindow::screenShown, &context, [&](Screen& shown) {
-                if (&shown == &t.screen)
-                    return;
-                QTimer::singleShot(0, &context, [&] {
-                    preselected = static_cast<SelectDialog&>(shown).selection();
-                    t.bench.press(Qt::Key_Down); // Euro
-                    shown.sendCommand(Commands::Done);
-                });
+            t.bench.whenNextShown(t.screen, [&](Screen& shown) {
+                preselected = static_cast<SelectDialog&>(shown).selection();
+                t.bench.press(Qt::Key_Down); // Euro
+                shown.sendCommand(Commands::Done);
             });
             t.screen.sendCommand(Commands::ChangeCurrency);
             QCOMPARE(preselected, static_cast<int>(Pound));
@@ -220,16 +204,11 @@ private slots:
             t.type(1, QStringLiteral("2"));
             const QStringList before = t.texts();
             t.screen.setFocus();
-            QObject context;
             bool opened = false;
-            connect(&t.bench.window, &DeviceWindow::screenShown, &context, [&](Screen& shown) {
-                if (&shown == &t.screen)
-                    return;
+            t.bench.whenNextShown(t.screen, [&](Screen& shown) {
                 opened = true;
-                QTimer::singleShot(0, &context, [&] {
-                    t.bench.press(Qt::Key_Down);
-                    shown.sendCommand(Commands::Done);
-                });
+                t.bench.press(Qt::Key_Down);
+                shown.sendCommand(Commands::Done);
             });
             QSignalSpy painted(&t.screen, &Screen::painted);
             t.bench.press(Qt::Key_Return); // the action key changes a currency too

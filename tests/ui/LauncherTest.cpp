@@ -179,19 +179,6 @@ private slots:
         });
     }
 
-    void theRenderedLauncherHasItsGradientAndRaisedEdge()
-    {
-        ScreenTestBench bench;
-        ServicesApp launcher(bench.environment, bench.window);
-        QImage image;
-        withLauncher(bench, launcher, [&] { image = bench.render(); });
-        QCOMPARE(image.pixelColor(1, 267), QColor(85, 121, 151));
-        QCOMPARE(image.pixelColor(1, 0), QColor(114, 150, 180));
-        // Service 0: icon at x = 22, highlight from (20, 48) to (40, 68), light outer edge on top.
-        QCOMPARE(image.pixelColor(25, 48), QColor(230, 230, 230));
-        QCOMPARE(image.pixelColor(39, 60), QColor(64, 64, 64));
-    }
-
     void servicesComesBackToTheSelectionAndExitEndsEveryScreen()
     {
         for (const int service : {5, 6}) {

@@ -12,11 +12,8 @@
 #include "ui/SoftKeyBar.h"
 
 #include <QTest>
-#include <QTimer>
 
 namespace {
-
-constexpr std::uint32_t NotStored = 0xFFFFFFFFu;
 
 // Six cities "A0" to "A5" at chosen whole-degree coordinates (longitude, latitude), on GMT.
 const std::pair<int, int> Places[] = {{0, 0}, {0, 90}, {-120, 20}, {60, -30}, {120, 45}, {10, 10}};
@@ -47,12 +44,6 @@ struct MapBench
             drive();
             screen.sendCommand(Commands::Services);
         });
-    }
-
-    std::uint32_t stored(const DwordSetting& setting)
-    {
-        const std::uint32_t value = registry.GetDWORD(setting.subkey, setting.name);
-        return registry.Status() == RegistrySettings::Read ? value : NotStored;
     }
 
     // The map as drawn after a full repaint.
@@ -93,18 +84,18 @@ private slots:
             QCOMPARE(t.screen.selectedCity(), 0);
             t.bench.press(Qt::Key_Left); // left from the first city: the last
             QCOMPARE(t.screen.selectedCity(), 999);
-            QCOMPARE(t.stored(Settings::MapClock), 999u); // written at once
+            QCOMPARE(t.bench.stored(Settings::MapClock), 999u); // written at once
             QCOMPARE(t.screen.shownCityName(), QStringLiteral("C0999"));
             t.bench.press(Qt::Key_Right); // right from the last: the first
             QCOMPARE(t.screen.selectedCity(), 0);
-            QCOMPARE(t.stored(Settings::MapClock), 0u);
+            QCOMPARE(t.bench.stored(Settings::MapClock), 0u);
             t.bench.press(Qt::Key_Right);
             t.bench.press(Qt::Key_Right);
             QCOMPARE(t.screen.selectedCity(), 2);
             // Someone else's value is overwritten on leaving.
             t.registry.SetDWORD(Settings::MapKey, L"mapclock", 7);
         });
-        QCOMPARE(t.stored(Settings::MapClock), 2u);
+        QCOMPARE(t.bench.stored(Settings::MapClock), 2u);
     }
 
     void aStepDrawsItsArrowLargeUntilTheNextTick()
@@ -139,7 +130,7 @@ private slots:
                 QCOMPARE(t.screen.selectedCity(), 0);
                 QCOMPARE(t.screen.shownCityName(), QStringLiteral("C0000"));
             });
-            QCOMPARE(t.stored(Settings::MapClock), 0u);
+            QCOMPARE(t.bench.stored(Settings::MapClock), 0u);
         }
         MapBench t;
         WriteSetting(t.registry, Settings::MapClock, 999);
@@ -179,10 +170,10 @@ private slots:
             t.screen.sendCommand(Commands::ShowCitiesOnMap);
             QVERIFY(!t.screen.showCities());
             QVERIFY(!t.screen.softKeys()->isItemChecked(Commands::ShowCitiesOnMap));
-            QCOMPARE(t.stored(Settings::ShowCities), 0u);
+            QCOMPARE(t.bench.stored(Settings::ShowCities), 0u);
             QVERIFY(t.map().pixel(120, 69) != MapRenderer::SelectedColour.rgb());
             t.screen.sendCommand(Commands::ShowCitiesOnMap);
-            QCOMPARE(t.stored(Settings::ShowCities), 1u);
+            QCOMPARE(t.bench.stored(Settings::ShowCities), 1u);
             QCOMPARE(t.map().pixel(120, 69), MapRenderer::SelectedColour.rgb());
         });
         MapBench hidden(writePlaces);
@@ -205,19 +196,8 @@ private slots:
         t.run([&] {
             QVERIFY(t.screen.holdsNightPicture());
             const QImage map = t.map();
-            int night = 0;
-            for (int y = 0; y < map.height(); ++y) {
-                for (int x = 0; x < map.width(); ++x) {
-                    const QRgb before = day.pixel(x, y);
-                    const QRgb after = map.pixel(x, y);
-                    if (after != before) {
-                        QCOMPARE(after, qRgb(0, 0, qBlue(before)));
-                        ++night;
-                    }
-                }
-            }
+            // Every pixel's rule is tested with the renderer; here the screen's picture at known places.
             // 1 January, 12:00 UTC: night around the antimeridian and over the north pole; day at (0, 0).
-            QVERIFY(night > 240 * 138 / 4);
             QCOMPARE(map.pixel(120, 69), day.pixel(120, 69));
             QCOMPARE(map.pixel(0, 69), qRgb(0, 0, qBlue(day.pixel(0, 69))));
             QCOMPARE(map.pixel(120, 0), qRgb(0, 0, qBlue(day.pixel(120, 0))));
@@ -303,17 +283,14 @@ private slots:
         MapBench t;
         WriteSetting(t.registry, Settings::MapClock, 684);
         t.run([&] {
-            QObject context;
-            connect(&t.bench.window, &DeviceWindow::screenShown, &context, [&](Screen& dialog) {
-                QTimer::singleShot(0, &context, [&] {
-                    QCOMPARE(static_cast<SelectDialog&>(dialog).selection(), 684);
-                    t.bench.press(Qt::Key_Down);
-                    dialog.sendCommand(Commands::Done);
-                });
+            t.bench.whenNextShown(t.screen, [&](Screen& dialog) {
+                QCOMPARE(static_cast<SelectDialog&>(dialog).selection(), 684);
+                t.bench.press(Qt::Key_Down);
+                dialog.sendCommand(Commands::Done);
             });
             t.screen.sendCommand(Commands::ChangeCity);
             QCOMPARE(t.screen.selectedCity(), 685);
-            QCOMPARE(t.stored(Settings::MapClock), 685u);
+            QCOMPARE(t.bench.stored(Settings::MapClock), 685u);
             QCOMPARE(t.screen.shownCityName(), QStringLiteral("C0685"));
         });
     }

@@ -63,15 +63,6 @@ void store(ScreenTestBench& bench, const Stored& stored)
         WriteSetting(settings, Settings::MeasureValue, *stored.value);
 }
 
-constexpr std::uint32_t NotStored = 0xFFFFFFFFu;
-
-std::uint32_t stored(ScreenTestBench& bench, const DwordSetting& setting)
-{
-    RegistrySettings settings(bench.settings);
-    const std::uint32_t value = settings.GetDWORD(setting.subkey, setting.name);
-    return settings.Status() == RegistrySettings::Read ? value : NotStored;
-}
-
 // Types into the amount field as the user does.
 void type(MeasureScreen& screen, const QString& keys)
 {
@@ -219,12 +210,12 @@ private slots:
                 QCOMPARE(spinner(screen, "fromSpinner")->currentIndex(), from);
                 QCOMPARE(spinner(screen, "toSpinner")->currentIndex(), to);
                 // Reading writes nothing.
-                QCOMPARE(stored(bench, Settings::MeasureType), given.type.value_or(NotStored));
-                QCOMPARE(stored(bench, Settings::MeasureUnit1), given.unit1.value_or(NotStored));
+                QCOMPARE(bench.stored(Settings::MeasureType), given.type.value_or(ScreenTestBench::NotStored));
+                QCOMPARE(bench.stored(Settings::MeasureUnit1), given.unit1.value_or(ScreenTestBench::NotStored));
             });
-            QCOMPARE(stored(bench, Settings::MeasureType), type);
-            QCOMPARE(stored(bench, Settings::MeasureUnit1), unit1);
-            QCOMPARE(stored(bench, Settings::MeasureUnit2), unit2);
+            QCOMPARE(bench.stored(Settings::MeasureType), type);
+            QCOMPARE(bench.stored(Settings::MeasureUnit1), unit1);
+            QCOMPARE(bench.stored(Settings::MeasureUnit2), unit2);
         }
     }
 
@@ -249,8 +240,8 @@ private slots:
             QCOMPARE(spinner(screen, "fromSpinner")->currentText(), QStringLiteral("Yard"));
         });
         // The units had no selection: only the category is written.
-        QCOMPARE(stored(bench, Settings::MeasureType), 1u);
-        QCOMPARE(stored(bench, Settings::MeasureUnit1), 0u);
+        QCOMPARE(bench.stored(Settings::MeasureType), 1u);
+        QCOMPARE(bench.stored(Settings::MeasureUnit1), 0u);
     }
 
     void theAmountIsSavedUpTo49Characters()

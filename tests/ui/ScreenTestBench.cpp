@@ -54,6 +54,18 @@ void ScreenTestBench::whenShown(Screen& screen, const std::function<void()>& dri
           });
 }
 
+void ScreenTestBench::whenNextShown(Screen& current, const std::function<void(Screen&)>& drive)
+{
+    auto connection = std::make_shared<QMetaObject::Connection>();
+    *connection
+        = QObject::connect(&window, &DeviceWindow::screenShown, &current, [&current, connection, drive](Screen& shown) {
+              if (&shown == &current)
+                  return;
+              QObject::disconnect(*connection);
+              QTimer::singleShot(0, &shown, [drive, &shown] { drive(shown); });
+          });
+}
+
 void ScreenTestBench::press(Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
     QTest::keyClick(window.focusWidget(), key, modifiers);
@@ -67,4 +79,11 @@ void ScreenTestBench::advance(long long milliseconds)
 QImage ScreenTestBench::render()
 {
     return window.grab().toImage();
+}
+
+std::uint32_t ScreenTestBench::stored(const DwordSetting& setting)
+{
+    RegistrySettings registry(settings);
+    const std::uint32_t value = registry.GetDWORD(setting.subkey, setting.name);
+    return registry.Status() == RegistrySettings::Read ? value : NotStored;
 }

@@ -7,6 +7,7 @@
 #include "RecordingMessageSink.h"
 #include "TempDir.h"
 #include "session/DeviceSession.h"
+#include "settings/SettingsTable.h"
 #include "ui/DeviceWindow.h"
 #include "ui/ScreenEnvironment.h"
 
@@ -30,12 +31,17 @@ public:
     void visit(Screen& screen, const std::function<void()>& check);
     // Calls `drive` once `screen` is next shown, when someone else (the launcher) opens it.
     void whenShown(Screen& screen, const std::function<void()>& drive);
+    // Calls `drive` with the next screen shown over `current` (a dialog it opens), once.
+    void whenNextShown(Screen& current, const std::function<void(Screen&)>& drive);
     // Presses `key` on the widget that has the focus.
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     // Moves the device clock and the screens' timers on together, firing the timers that fall due.
     void advance(long long milliseconds);
     // The whole device window, rendered.
     QImage render();
+    // A DWORD setting as stored, or NotStored when it cannot be read.
+    std::uint32_t stored(const DwordSetting& setting);
+    static constexpr std::uint32_t NotStored = 0xFFFFFFFFu;
 
     TempDir root;
     FakeDeviceClock clock;

@@ -100,18 +100,21 @@ void pressKeys(ScreenTestBench& bench, const QList<int>& keys)
         bench.press(static_cast<Qt::Key>(key));
 }
 
-// Adds each gesture row once for the mouse and once for a finger.
-void addRows(const QString& name, QPoint from, QPoint to, const QList<int>& keys)
+// Adds each gesture row once for the mouse and once for a finger. A row with an `entry` taps the middle
+// of that World Clocks focus entry instead of going from `from` to `to`.
+void addRows(const char* name, QPoint from, QPoint to, const QList<int>& keys, int entry = -1)
 {
     for (const Pointer pointer : {Pointer::Mouse, Pointer::Touch}) {
-        const QString by = pointer == Pointer::Mouse ? QStringLiteral(" (mouse)") : QStringLiteral(" (touch)");
-        QTest::newRow(qPrintable(name + by)) << pointer << from << to << keys;
+        const char* by = pointer == Pointer::Mouse ? " (mouse)" : " (touch)";
+        QTest::newRow(qPrintable(QString::fromUtf8(name) + QLatin1String(by)))
+            << pointer << entry << from << to << keys;
     }
 }
 
 void gestureColumns()
 {
     QTest::addColumn<Pointer>("pointer");
+    QTest::addColumn<int>("entry");
     QTest::addColumn<QPoint>("from");
     QTest::addColumn<QPoint>("to");
     QTest::addColumn<QList<int>>("keys");
@@ -174,14 +177,14 @@ struct ClockDevice
     WorldClockScreen screen {bench.environment, bench.window, cities, favourites};
 };
 
-Outcome clocksAfter(const std::function<void(ClockDevice&)>& drive)
+Outcome clocksAfter(const std::function<void(ScreenTestBench&)>& drive)
 {
     ClockDevice device;
     Outcome outcome;
     closeWhatOpens(device.bench, device.screen, outcome);
     device.bench.run(device.screen, [&] {
         activate(device.bench);
-        drive(device);
+        drive(device.bench);
         outcome.index = device.screen.findChild<Spinner*>(QStringLiteral("focusSpinner"))->currentIndex();
         outcome.boxes = device.bench.boxes.shown.size();
         outcome.picture = device.bench.render();
@@ -209,6 +212,28 @@ Outcome selectAfter(const std::function<void(ScreenTestBench&)>& drive)
 }
 
 // A screen with one of each control a finger meets: a spinner, an edit field and a button.
+// Plays the current row's gesture on a fresh device made by `after` and its keys on another: both end in
+// the same state and picture, and only a gesture that stands for keys changes anything.
+void gestureIsItsKeys(Outcome (*after)(const std::function<void(ScreenTestBench&)>&))
+{
+    QFETCH(Pointer, pointer);
+    QFETCH(int, entry);
+    QFETCH(QPoint, from);
+    QFETCH(QPoint, to);
+    QFETCH(QList<int>, keys);
+    const Outcome touched = after([&](ScreenTestBench& bench) {
+        const QPoint start
+            = entry < 0 ? from : static_cast<WorldClockScreen*>(bench.window.topScreen())->entryRect(entry).center();
+        Finger(pointer).swipe(bench.window, start, entry < 0 ? to : start);
+    });
+    const Outcome keyed = after([&](ScreenTestBench& bench) { pressKeys(bench, keys); });
+    QCOMPARE(touched.index, keyed.index);
+    QCOMPARE(touched.opened, keyed.opened);
+    QCOMPARE(touched.boxes, keyed.boxes);
+    QVERIFY(touched.picture == keyed.picture);
+    QCOMPARE(keys.isEmpty(), touched == after([](ScreenTestBench&) {}));
+}
+
 class ControlsScreen final : public Screen
 {
 public:
@@ -252,94 +277,41 @@ private slots:
         const int Left = Qt::Key_Left, Right = Qt::Key_Right, Return = Qt::Key_Return;
         // Icons are 16 pixels in four 60-pixel columns, rows at y = 50 and 80; the arrows and the
         // label share the bottom 40 pixels; the big icon is 32 pixels at (104, 144).
-        addRows(QStringLiteral("tap the third icon"), {150, 58}, {150, 58}, {Right, Right});
-        addRows(QStringLiteral("tap the sixth icon"), {90, 88}, {90, 88}, {Right, Right, Right, Right, Right});
-        addRows(QStringLiteral("tap the left arrow"), {28, 250}, {28, 250}, {Left});
-        addRows(QStringLiteral("tap the right arrow"), {216, 250}, {216, 250}, {Right});
-        addRows(QStringLiteral("swipe to the left"), {200, 150}, {80, 150}, {Right});
-        addRows(QStringLiteral("swipe to the right"), {60, 150}, {200, 150}, {Left});
-        addRows(QStringLiteral("tap the selected icon"), {30, 58}, {30, 58}, {Return});
-        addRows(QStringLiteral("tap the big icon"), {120, 160}, {120, 160}, {Return});
-        addRows(QStringLiteral("tap the label"), {120, 250}, {120, 250}, {Return});
-        addRows(QStringLiteral("tap above the icons"), {120, 20}, {120, 20}, {});
-        addRows(QStringLiteral("tap between icons and big icon"), {120, 120}, {120, 120}, {});
-        addRows(QStringLiteral("slanted drag"), {100, 130}, {130, 190}, {});
+        addRows("tap the third icon", {150, 58}, {150, 58}, {Right, Right});
+        addRows("tap the sixth icon", {90, 88}, {90, 88}, {Right, Right, Right, Right, Right});
+        addRows("tap the left arrow", {28, 250}, {28, 250}, {Left});
+        addRows("tap the right arrow", {216, 250}, {216, 250}, {Right});
+        addRows("swipe to the left", {200, 150}, {80, 150}, {Right});
+        addRows("swipe to the right", {60, 150}, {200, 150}, {Left});
+        addRows("tap the selected icon", {30, 58}, {30, 58}, {Return});
+        addRows("tap the big icon", {120, 160}, {120, 160}, {Return});
+        addRows("tap the label", {120, 250}, {120, 250}, {Return});
+        addRows("tap above the icons", {120, 20}, {120, 20}, {});
+        addRows("tap between icons and big icon", {120, 120}, {120, 120}, {});
+        addRows("slanted drag", {100, 130}, {130, 190}, {});
     }
 
-    void launcherGesturesAreTheirKeys()
-    {
-        QFETCH(Pointer, pointer);
-        QFETCH(QPoint, from);
-        QFETCH(QPoint, to);
-        QFETCH(QList<int>, keys);
-        const Outcome touched
-            = launcherAfter([&](ScreenTestBench& bench) { Finger(pointer).swipe(bench.window, from, to); });
-        const Outcome keyed = launcherAfter([&](ScreenTestBench& bench) { pressKeys(bench, keys); });
-        const Outcome untouched = launcherAfter([](ScreenTestBench&) {});
-        QCOMPARE(touched.index, keyed.index);
-        QCOMPARE(touched.opened, keyed.opened);
-        QCOMPARE(touched.boxes, std::size_t(0));
-        QVERIFY(touched.picture == keyed.picture);
-        QCOMPARE(keys.isEmpty(), touched == untouched);
-    }
+    void launcherGesturesAreTheirKeys() { gestureIsItsKeys(launcherAfter); }
 
     // ---- World Clocks: faces and weather icons take the action key, the title arrows step the focus.
     void clockGesturesAreTheirKeys_data()
     {
-        QTest::addColumn<Pointer>("pointer");
-        QTest::addColumn<int>("entry"); // tap the middle of this focus entry; -1: use the points
-        QTest::addColumn<QPoint>("from");
-        QTest::addColumn<QPoint>("to");
-        QTest::addColumn<QList<int>>("keys");
+        gestureColumns();
         const int Left = Qt::Key_Left, Right = Qt::Key_Right, Return = Qt::Key_Return, C = Qt::Key_C, W = Qt::Key_W;
-        struct Row
-        {
-            const char* name;
-            int entry;
-            QPoint from, to;
-            QList<int> keys;
-        };
-        const Row rows[] = {
-            {"home clock face", 0, {}, {}, {Return}},
-            // Letters walk the focus entries ("c", "w", "c1", "w1", ...) without arrow feedback, as a tap.
-            {"third clock face", 4, {}, {}, {C, C, Return}},
-            {"first city's weather icon", 3, {}, {}, {W, W, Return}},
-            {"home weather icon", 1, {}, {}, {W, Return}},
-            // The title's arrows stand at x = 180..204 and 201..225 of the 25-pixel band.
-            {"title's left arrow", -1, {190, 12}, {190, 12}, {Left}},
-            {"title's right arrow", -1, {222, 12}, {222, 12}, {Right}},
-            {"swipe to the left", -1, {200, 200}, {60, 200}, {Right}},
-            {"swipe to the right", -1, {60, 200}, {200, 200}, {Left}},
-            {"tap the title's text", -1, {40, 12}, {40, 12}, {}},
-        };
-        for (const Row& row : rows) {
-            for (const Pointer pointer : {Pointer::Mouse, Pointer::Touch}) {
-                QTest::newRow(qPrintable(QString::fromUtf8(row.name)
-                    + (pointer == Pointer::Mouse ? QStringLiteral(" (mouse)") : QStringLiteral(" (touch)"))))
-                    << pointer << row.entry << row.from << row.to << row.keys;
-            }
-        }
+        addRows("home clock face", {}, {}, {Return}, 0);
+        // Letters walk the focus entries ("c", "w", "c1", "w1", ...) without arrow feedback, as a tap.
+        addRows("third clock face", {}, {}, {C, C, Return}, 4);
+        addRows("first city's weather icon", {}, {}, {W, W, Return}, 3);
+        addRows("home weather icon", {}, {}, {W, Return}, 1);
+        // The title's arrows stand at x = 180..204 and 201..225 of the 25-pixel band.
+        addRows("title's left arrow", {190, 12}, {190, 12}, {Left});
+        addRows("title's right arrow", {222, 12}, {222, 12}, {Right});
+        addRows("swipe to the left", {200, 200}, {60, 200}, {Right});
+        addRows("swipe to the right", {60, 200}, {200, 200}, {Left});
+        addRows("tap the title's text", {40, 12}, {40, 12}, {});
     }
 
-    void clockGesturesAreTheirKeys()
-    {
-        QFETCH(Pointer, pointer);
-        QFETCH(int, entry);
-        QFETCH(QPoint, from);
-        QFETCH(QPoint, to);
-        QFETCH(QList<int>, keys);
-        const Outcome touched = clocksAfter([&](ClockDevice& device) {
-            const QPoint start = entry < 0 ? from : device.screen.entryRect(entry).center();
-            Finger(pointer).swipe(device.bench.window, start, entry < 0 ? to : start);
-        });
-        const Outcome keyed = clocksAfter([&](ClockDevice& device) { pressKeys(device.bench, keys); });
-        const Outcome untouched = clocksAfter([](ClockDevice&) {});
-        QCOMPARE(touched.index, keyed.index);
-        QCOMPARE(touched.opened, keyed.opened);
-        QCOMPARE(touched.boxes, keyed.boxes);
-        QVERIFY(touched.picture == keyed.picture);
-        QCOMPARE(keys.isEmpty(), touched == untouched);
-    }
+    void clockGesturesAreTheirKeys() { gestureIsItsKeys(clocksAfter); }
 
     // ---- The Select dialog's list: a tap on the box steps on, the arrows and a swipe step it.
     void selectListGesturesAreTheirKeys_data()
@@ -347,29 +319,15 @@ private slots:
         gestureColumns();
         const int Up = Qt::Key_Up, Down = Qt::Key_Down;
         // The list is at (5, 30), 225 x 25 pixels; its arrows are the last 25, up then down.
-        addRows(QStringLiteral("tap the list"), {60, 42}, {60, 42}, {Down});
-        addRows(QStringLiteral("tap the up arrow"), {210, 42}, {210, 42}, {Up});
-        addRows(QStringLiteral("tap the down arrow"), {225, 42}, {225, 42}, {Down});
-        addRows(QStringLiteral("swipe the list to the left"), {180, 42}, {40, 42}, {Down});
-        addRows(QStringLiteral("swipe the list to the right"), {40, 42}, {180, 42}, {Up});
-        addRows(QStringLiteral("tap the panel"), {120, 200}, {120, 200}, {});
+        addRows("tap the list", {60, 42}, {60, 42}, {Down});
+        addRows("tap the up arrow", {210, 42}, {210, 42}, {Up});
+        addRows("tap the down arrow", {225, 42}, {225, 42}, {Down});
+        addRows("swipe the list to the left", {180, 42}, {40, 42}, {Down});
+        addRows("swipe the list to the right", {40, 42}, {180, 42}, {Up});
+        addRows("tap the panel", {120, 200}, {120, 200}, {});
     }
 
-    void selectListGesturesAreTheirKeys()
-    {
-        QFETCH(Pointer, pointer);
-        QFETCH(QPoint, from);
-        QFETCH(QPoint, to);
-        QFETCH(QList<int>, keys);
-        const Outcome touched
-            = selectAfter([&](ScreenTestBench& bench) { Finger(pointer).swipe(bench.window, from, to); });
-        const Outcome keyed = selectAfter([&](ScreenTestBench& bench) { pressKeys(bench, keys); });
-        const Outcome untouched = selectAfter([](ScreenTestBench&) {});
-        QCOMPARE(touched.index, keyed.index);
-        QCOMPARE(touched.opened, keyed.opened);
-        QVERIFY(touched.picture == keyed.picture);
-        QCOMPARE(keys.isEmpty(), touched == untouched);
-    }
+    void selectListGesturesAreTheirKeys() { gestureIsItsKeys(selectAfter); }
 
     // ---- Soft keys are F1/F2, a popup's item is chosen by a tap.
     void softKeysAndMenuItems_data()
