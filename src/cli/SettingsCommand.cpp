@@ -99,22 +99,27 @@ int get(
     return 0;
 }
 
+// Exit code of a write: a write that failed (the state file unwritable) is reported, never silently lost.
+int stored(bool written, const std::vector<std::string>& words, std::ostream& err)
+{
+    if (!written)
+        err << "wanderkit settings: could not store \"" << words[2] << "\" under \"" << words[1] << "\"\n";
+    return written ? 0 : 1;
+}
+
 int set(RegistrySettings& settings, const std::vector<std::string>& words, const std::string& type, std::ostream& err)
 {
     const std::wstring key = Utf8ToWide(words[1]);
     const std::wstring name = Utf8ToWide(words[2]);
-    if (type == "string") {
-        settings.SetString(key, name, Utf8ToWide(words[3]));
-        return 0;
-    }
+    if (type == "string")
+        return stored(settings.SetString(key, name, Utf8ToWide(words[3])), words, err);
     const auto number = parseDword(words[3]);
     if (!number) {
         err << "wanderkit settings: \"" << words[3] << "\" is not a whole number that fits in 32 bits"
             << " (-2147483648 to 4294967295)\n";
         return 2;
     }
-    settings.SetDWORD(key, name, *number);
-    return 0;
+    return stored(settings.SetDWORD(key, name, *number), words, err);
 }
 
 } // namespace

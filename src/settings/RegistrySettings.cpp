@@ -39,16 +39,16 @@ std::optional<RegistryValue> RegistrySettings::GetValue(std::wstring_view subkey
     return read(subkey, name);
 }
 
-void RegistrySettings::SetString(std::wstring_view subkey, std::wstring_view name, std::wstring_view text)
+bool RegistrySettings::SetString(std::wstring_view subkey, std::wstring_view name, std::wstring_view text)
 {
-    m_hive.setValue(subkey, name, RegistryType::String, RegistryTextBytes(text));
+    return m_hive.setValue(subkey, name, RegistryType::String, RegistryTextBytes(text));
 }
 
-void RegistrySettings::SetDWORD(std::wstring_view subkey, std::wstring_view name, std::uint32_t value)
+bool RegistrySettings::SetDWORD(std::wstring_view subkey, std::wstring_view name, std::uint32_t value)
 {
     const std::array<std::uint8_t, 4> bytes = {static_cast<std::uint8_t>(value), static_cast<std::uint8_t>(value >> 8),
         static_cast<std::uint8_t>(value >> 16), static_cast<std::uint8_t>(value >> 24)};
-    m_hive.setValue(subkey, name, RegistryType::Dword, bytes);
+    return m_hive.setValue(subkey, name, RegistryType::Dword, bytes);
 }
 
 void RegistrySettings::SetBinary(

@@ -29,8 +29,9 @@ public:
     std::uint32_t GetDWORD(std::wstring_view subkey, std::wstring_view name);
     // The stored value with its type; nothing on any miss.
     std::optional<RegistryValue> GetValue(std::wstring_view subkey, std::wstring_view name);
-    void SetString(std::wstring_view subkey, std::wstring_view name, std::wstring_view text);
-    void SetDWORD(std::wstring_view subkey, std::wstring_view name, std::uint32_t value);
+    // True when the value was stored (screens ignore a failed write, the settings command reports it).
+    bool SetString(std::wstring_view subkey, std::wstring_view name, std::wstring_view text);
+    bool SetDWORD(std::wstring_view subkey, std::wstring_view name, std::uint32_t value);
     void SetBinary(std::wstring_view subkey, std::wstring_view name, const std::uint8_t* bytes, std::size_t length);
     // Every stored value, by key and name; and emptying the registry, so that the next start writes the
     // defaults.
