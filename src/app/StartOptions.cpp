@@ -116,7 +116,8 @@ Options:
   --help                  show this help and exit
   --version               show the version and exit
   --size WxH              work area in logical pixels (default 240x268)
-  --scale N               window scale (default: fill a phone's screen; 2 at most on a desktop)
+  --scale N               window scale (default 2; under a phone's shell, the scale that
+                          fills the screen)
   --state-dir DIR         folder of registry.db and objectstore.db
                           (default $XDG_DATA_HOME/wanderkit)
   --device-root DIR       folder of the shipped data files
