@@ -9,6 +9,7 @@
 #include "screens/weather/WeatherScreen.h"
 #include "screens/worldclock/WorldClockScreen.h"
 #include "ui/Icons.h"
+#include "ui/StringIds.h"
 
 namespace {
 
@@ -56,14 +57,13 @@ std::unique_ptr<Screen> dialingCodes(ServiceContext& c)
 const std::array<Service, ServiceCount>& Services()
 {
     static const std::array<Service, ServiceCount> table {{
-        {40008, Icons::Service, worldClocks}, // "World Clocks"
-        {40009, Icons::Service, worldWeather}, // "World Weather"
-        {40025, Icons::Service, worldMap}, // "World Map"
-        {40034, Icons::Service, currencyConverter}, // "Currency Converter"
-        {40044, Icons::Service, measurements}, // "Measurements"
-        {40045, Icons::Service, clothingSizes}, // "Clothing sizes"
-        {40046, Icons::Service, dialingCodes}, // "Dialing codes"
-        {40047, Icons::Service, nullptr}, // "Todo List": listed and selectable, opens nothing
+        {StringIds::WorldClocks, Icons::Service, worldClocks}, {StringIds::WorldWeather, Icons::Service, worldWeather},
+        {StringIds::WorldMap, Icons::Service, worldMap},
+        {StringIds::CurrencyConverter, Icons::Service, currencyConverter},
+        {StringIds::Measurements, Icons::Service, measurements},
+        {StringIds::ClothingSizes, Icons::Service, clothingSizes},
+        {StringIds::DialingCodes, Icons::Service, dialingCodes},
+        {StringIds::TodoList, Icons::Service, nullptr}, // listed and selectable, opens nothing
     }};
     return table;
 }

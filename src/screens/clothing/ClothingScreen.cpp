@@ -4,6 +4,7 @@
 #include "settings/SettingsTable.h"
 #include "ui/Painting.h"
 #include "ui/Spinner.h"
+#include "ui/StringIds.h"
 #include "ui/WideString.h"
 
 #include <QPainter>
@@ -11,8 +12,6 @@
 #include <algorithm>
 
 namespace {
-
-constexpr int ScreenTitle = 40045; // "Clothing sizes"
 
 // Layout, b being the title band's height: the wearer and garment spinners one above the other at
 // (6, b+6) and (6, b+36), W-17 wide and 24 high; the table title at (5, b+70); the four rows from
@@ -36,7 +35,7 @@ int positionOrFirst(std::uint32_t stored, std::size_t count)
 
 ClothingScreen::ClothingScreen(ScreenEnvironment& environment, DeviceWindow& window)
     : Screen(environment, window, MenuBarId::Converter, QStringLiteral("clothing"))
-    , m_title(Painting::ConverterBand, ScreenTitle)
+    , m_title(Painting::ConverterBand, StringIds::ClothingSizes)
     , m_settings(environment.settings)
     , m_wearerSpinner(new Spinner(this))
     , m_garmentSpinner(new Spinner(this))

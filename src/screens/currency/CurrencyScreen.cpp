@@ -9,6 +9,7 @@
 #include "ui/DeviceWindow.h"
 #include "ui/NumericEdit.h"
 #include "ui/Painting.h"
+#include "ui/StringIds.h"
 #include "ui/WideString.h"
 
 #include <QPainter>
@@ -17,7 +18,6 @@
 
 namespace {
 
-constexpr int ScreenTitle = 40034; // "Currency Converter"
 constexpr int Band = TitleBand::Height; // b
 constexpr int FieldLeft = 55;
 constexpr int FieldRight = 200;
@@ -53,7 +53,7 @@ CurrencyScreen::CurrencyScreen(
     , m_settings(environment.settings)
     , m_titleFont(Painting::makeFont(23, Painting::Bold))
     , m_textFont(Painting::makeFont(20, Painting::Bold))
-    , m_titleBand(Painting::ConverterBand, ScreenTitle, m_titleFont)
+    , m_titleBand(Painting::ConverterBand, StringIds::CurrencyConverter, m_titleFont)
 {
     setBackgroundPicture(L"back.jpg");
     m_titleBand.setTextOrigin(QPoint(5, 2));

@@ -8,20 +8,12 @@
 #include "ui/ReportList.h"
 #include "ui/SoftKeyBar.h"
 #include "ui/Spinner.h"
+#include "ui/StringIds.h"
 #include "ui/WideString.h"
 
 #include <QPainter>
 
 namespace {
-
-constexpr int ScreenTitle = 40046; // "Dialing codes"
-constexpr int InternationalItem = 40082;
-constexpr int AreaCodesItem = 40078;
-constexpr int CityText = 40022;
-constexpr int CountryText = 40023;
-constexpr int CodeText = 40080;
-constexpr int GmtText = 40081;
-constexpr int RegionText = 40083;
 
 // The chooser at (6, b+6), W-17 wide and 24 high; both lists share (0, b+36) to the bottom right.
 constexpr int Band = TitleBand::Height;
@@ -43,13 +35,14 @@ ReportList* makeList(QWidget* parent, const QString& name, std::vector<ReportLis
 
 DialingScreen::DialingScreen(ScreenEnvironment& environment, DeviceWindow& window)
     : Screen(environment, window, MenuBarId::Launcher, QStringLiteral("dialing"))
-    , m_title(Painting::ConverterBand, ScreenTitle)
+    , m_title(Painting::ConverterBand, StringIds::DialingCodes)
     , m_chooser(new Spinner(this))
 {
     m_title.setTextOrigin(QPoint(5, 0));
     setBackgroundPicture(L"bconv.jpg");
     m_chooser->setObjectName(QStringLiteral("chooserSpinner"));
-    m_chooser->setItems({Painting::loadString(InternationalItem), Painting::loadString(AreaCodesItem)});
+    m_chooser->setItems(
+        {Painting::loadString(StringIds::InternationalDialingCodes), Painting::loadString(StringIds::UsAreaCodes)});
     connect(m_chooser, &Spinner::currentChanged, this, &DialingScreen::showChosenList);
 }
 
@@ -59,12 +52,12 @@ DialingScreen::~DialingScreen() = default;
 void DialingScreen::createLists()
 {
     m_international = makeList(this, QStringLiteral("internationalReportList"),
-        {{Painting::loadString(CountryText), 45}, {Painting::loadString(CodeText), 26},
-            {Painting::loadString(GmtText), 21, 1}});
+        {{Painting::loadString(StringIds::Country), 45}, {Painting::loadString(StringIds::Code), 26},
+            {Painting::loadString(StringIds::Gmt), 21, 1}});
     // The state and the code share what the city leaves, 92 % in all as above, room kept for the scroll bar.
     m_areaCodes = makeList(this, QStringLiteral("areaCodeReportList"),
-        {{Painting::loadString(CityText), 35}, {Painting::loadString(RegionText), 40},
-            {Painting::loadString(CodeText), 17}});
+        {{Painting::loadString(StringIds::City), 35}, {Painting::loadString(StringIds::RegionState), 40},
+            {Painting::loadString(StringIds::Code), 17}});
 }
 
 void DialingScreen::initialise()

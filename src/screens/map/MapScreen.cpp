@@ -20,6 +20,7 @@
 #include "ui/Painting.h"
 #include "ui/SoftKeyBar.h"
 #include "ui/Spinner.h"
+#include "ui/StringIds.h"
 #include "ui/WideString.h"
 
 #include <QPainter>
@@ -27,7 +28,6 @@
 namespace {
 
 constexpr int TickTimer = 1;
-constexpr int LongLatString = 40024;
 const QColor TimeColour(51, 102, 150);
 const QColor CityTimeColour(0, 0, 100);
 const QColor WindowFill(150, 150, 150);
@@ -319,8 +319,8 @@ void MapScreen::paintCity(QPainter& painter) const
 
     painter.setFont(m_smallFont);
     painter.drawText(m_layout.coordinates, Qt::AlignLeft | Qt::AlignVCenter,
-        Painting::loadString(LongLatString) + QStringLiteral(": ") + ToQString(m_city.coordinate1) + QLatin1Char('/')
-            + ToQString(m_city.coordinate2));
+        Painting::loadString(StringIds::LongLat) + QStringLiteral(": ") + ToQString(m_city.coordinate1)
+            + QLatin1Char('/') + ToQString(m_city.coordinate2));
 
     const QRect& sun = m_layout.sun;
     painter.setFont(m_sunFont);

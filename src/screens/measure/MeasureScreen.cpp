@@ -9,6 +9,7 @@
 #include "ui/Painting.h"
 #include "ui/SoftKeyBar.h"
 #include "ui/Spinner.h"
+#include "ui/StringIds.h"
 #include "ui/TitleBand.h"
 #include "ui/WideString.h"
 #include "units/UnitConversion.h"
@@ -17,12 +18,6 @@
 #include <QSignalBlocker>
 
 namespace {
-
-constexpr int ScreenTitle = 40044; // "Measurements"
-constexpr int ConvertLabel = 40054;
-constexpr int FromLabel = 40052;
-constexpr int ToLabel = 40053;
-constexpr int BelowAbsoluteZero = 40055;
 
 // Layout, b being the title band's height and W the work area's width: the category list at (6, b+26),
 // W-17 wide; the from list, the amount field, the to list and the result field below it. Lists are 24
@@ -68,7 +63,7 @@ int placed(int top, int height)
 
 MeasureScreen::MeasureScreen(ScreenEnvironment& environment, DeviceWindow& window)
     : Screen(environment, window, MenuBarId::Converter, QStringLiteral("measure"))
-    , m_title(Painting::ConverterBand, ScreenTitle)
+    , m_title(Painting::ConverterBand, StringIds::Measurements)
     , m_settings(environment.settings)
     , m_catalogue(environment.objects)
     , m_categorySpinner(new Spinner(this))
@@ -156,7 +151,7 @@ void MeasureScreen::convert()
     const auto result = UnitConversion::Convert(m_units, m_categorySpinner->currentIndex(),
         m_fromSpinner->currentIndex(), m_toSpinner->currentIndex(), ToWide(m_amountEdit->text()));
     if (result.belowAbsoluteZero)
-        environment().boxes.show(this, Painting::loadString(BelowAbsoluteZero), QString());
+        environment().boxes.show(this, Painting::loadString(StringIds::BelowAbsoluteZero), QString());
     m_resultEdit->setText(ToQString(result.text));
     setUndoEnabled(true);
 }
@@ -216,9 +211,12 @@ void MeasureScreen::paint(QPainter& painter)
     m_title.paint(painter);
     painter.setPen(Painting::White);
     const int height = workHeight();
-    Painting::drawTextAt(painter, m_labelFont, LabelLeft, placed(ConvertLabelTop, height), Painting::loadString(ConvertLabel));
-    Painting::drawTextAt(painter, m_labelFont, LabelLeft, placed(FromLabelTop, height), Painting::loadString(FromLabel));
-    Painting::drawTextAt(painter, m_labelFont, LabelLeft, placed(ToLabelTop, height), Painting::loadString(ToLabel));
+    Painting::drawTextAt(
+        painter, m_labelFont, LabelLeft, placed(ConvertLabelTop, height), Painting::loadString(StringIds::Convert));
+    Painting::drawTextAt(
+        painter, m_labelFont, LabelLeft, placed(FromLabelTop, height), Painting::loadString(StringIds::From));
+    Painting::drawTextAt(
+        painter, m_labelFont, LabelLeft, placed(ToLabelTop, height), Painting::loadString(StringIds::To));
 }
 
 void MeasureScreen::destroyWork()

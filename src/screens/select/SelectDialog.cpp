@@ -7,6 +7,7 @@
 #include "time/CityInformation.h"
 #include "ui/Painting.h"
 #include "ui/Spinner.h"
+#include "ui/StringIds.h"
 #include "ui/WideString.h"
 
 #include <QPainter>
@@ -116,11 +117,12 @@ void SelectDialog::layout(int width, int)
 void SelectDialog::paint(QPainter& painter)
 {
     const bool city = m_mode == Mode::City;
-    Painting::drawBand(
-        painter, m_titleBand, Painting::ShellBand, Painting::loadString(city ? 40020 : 40037), m_titleFont);
+    Painting::drawBand(painter, m_titleBand, Painting::ShellBand,
+        Painting::loadString(city ? StringIds::SelectCity : StringIds::SelectCurrency), m_titleFont);
     if (!city)
         return;
-    Painting::drawBand(painter, m_infoBand, Painting::ShellBand, Painting::loadString(40021), m_titleFont);
+    Painting::drawBand(
+        painter, m_infoBand, Painting::ShellBand, Painting::loadString(StringIds::CityInformations), m_titleFont);
     painter.setPen(Qt::black);
     const QStringList& lines = m_panelLines;
     const int width = workWidth() - 10;

@@ -7,6 +7,7 @@
 #include "ui/Painting.h"
 #include "ui/SoftKeyBar.h"
 #include "ui/Spinner.h"
+#include "ui/StringIds.h"
 #include "ui/WideString.h"
 #include "weather/WeatherCountries.h"
 
@@ -17,8 +18,6 @@
 
 namespace {
 
-constexpr int FavoritesListTitle = 40040; // "Favorites List"
-constexpr int InformationTitle = 40021; // "City Informations"
 constexpr int BandHeight = 24;
 constexpr int RowHeight = 26;
 constexpr int Gap = 5;
@@ -213,9 +212,10 @@ void FavouritesDialog::layout(int width, int height)
 
 void FavouritesDialog::paint(QPainter& painter)
 {
-    Painting::drawBand(painter, m_listBand, Painting::ShellBand, Painting::loadString(FavoritesListTitle), m_bandFont);
     Painting::drawBand(
-        painter, m_informationBand, Painting::ShellBand, Painting::loadString(InformationTitle), m_bandFont);
+        painter, m_listBand, Painting::ShellBand, Painting::loadString(StringIds::FavoritesList), m_bandFont);
+    Painting::drawBand(
+        painter, m_informationBand, Painting::ShellBand, Painting::loadString(StringIds::CityInformations), m_bandFont);
     painter.setPen(Qt::black);
     painter.setFont(m_textFont);
     const QFontMetrics metrics(m_textFont);

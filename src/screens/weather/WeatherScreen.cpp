@@ -17,6 +17,7 @@
 #include "ui/Painting.h"
 #include "ui/SoftKeyBar.h"
 #include "ui/Spinner.h"
+#include "ui/StringIds.h"
 #include "ui/WideString.h"
 #include "weather/OpenMeteoForecast.h"
 #include "weather/WeatherTexts.h"
@@ -26,9 +27,6 @@
 
 namespace {
 
-constexpr int ScreenTitle = 40009; // "World Weather"
-constexpr int NotAvailable = 40039;
-constexpr int RealFeel = 40038;
 constexpr int IconSize = 48;
 constexpr int RowHeight = 20;
 constexpr int Margin = 6;
@@ -72,7 +70,7 @@ WeatherScreen::WeatherScreen(ScreenEnvironment& environment, DeviceWindow& windo
     , m_cities(environment.objects, environment.paths, environment.messages)
     , m_settings(environment.settings)
     , m_days(new Spinner(this))
-    , m_title(Painting::ShellBand, ScreenTitle)
+    , m_title(Painting::ShellBand, StringIds::WorldWeather)
 {
     m_days->setObjectName(QStringLiteral("daySpinner"));
     m_days->setWrapping(true);
@@ -107,7 +105,7 @@ void WeatherScreen::initialise()
     m_conditionFont = Painting::makeFont(18, Painting::Bold);
     m_cityFont = Painting::makeFont(20, Painting::Bold);
     m_temperatureFont = Painting::makeFont(35, Painting::Bold);
-    m_title = TitleBand(Painting::ShellBand, ScreenTitle, m_titleFont);
+    m_title = TitleBand(Painting::ShellBand, StringIds::WorldWeather, m_titleFont);
     m_days->setItems(
         {QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3"), QStringLiteral("4"), QStringLiteral("5")});
     m_days->setFont(m_valueFont);
@@ -144,8 +142,8 @@ bool WeatherScreen::computeForecast()
     const ForecastSources sources {m_mapping, m_iconFolder, DevicePaths::ProgramPath, m_temperatureUnit};
     m_display = ForecastDisplay::ofFavourite(m_favourites, m_favouriteName, m_today, sources);
     if (!m_display) {
-        environment().boxes.show(this, Painting::loadString(NotAvailable), QStringLiteral("Wanderkit"), QMessageBox::Ok,
-            QMessageBox::Information);
+        environment().boxes.show(this, Painting::loadString(StringIds::ForecastNotAvailable),
+            QStringLiteral("Wanderkit"), QMessageBox::Ok, QMessageBox::Information);
         endScreen();
         return false;
     }
@@ -228,7 +226,7 @@ void WeatherScreen::layout(int width, int height)
                                 : QRect(Margin, m_cityBand.bottom() + 4, spinnerLeft - 4 - Margin, 26);
     m_days->setGeometry(spinnerLeft, m_weekdayInCard ? lineTop : m_dayBand.top(), DaySpinnerWidth, 26);
     m_details = QRect(Margin, m_card.bottom() + 5, inner, std::max(0, height - m_card.bottom() - 5));
-    m_labelWidth = QFontMetrics(m_labelFont).horizontalAdvance(Painting::loadString(RealFeel)) + 10;
+    m_labelWidth = QFontMetrics(m_labelFont).horizontalAdvance(Painting::loadString(StringIds::RealFeel)) + 10;
 }
 
 void WeatherScreen::paint(QPainter& painter)
@@ -297,7 +295,7 @@ void WeatherScreen::paintDetails(QPainter& painter) const
         ? QString()
         : ToQString(m_shown.sunrise) + QStringLiteral(" - ") + ToQString(m_shown.sunset);
     const std::array<std::pair<QString, QString>, 4> rows {{
-        {Painting::loadString(RealFeel), ToQString(m_shown.realFeel)},
+        {Painting::loadString(StringIds::RealFeel), ToQString(m_shown.realFeel)},
         {QStringLiteral("Wind"), ToQString(m_shown.wind)},
         {QStringLiteral("Rain"), ToQString(m_shown.precipitation)},
         {QStringLiteral("Sun"), sun},

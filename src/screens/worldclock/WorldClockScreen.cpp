@@ -17,6 +17,7 @@
 #include "ui/Painting.h"
 #include "ui/SoftKeyBar.h"
 #include "ui/Spinner.h"
+#include "ui/StringIds.h"
 #include "ui/WideString.h"
 
 #include <QPainter>
@@ -53,7 +54,7 @@ WorldClockScreen::WorldClockScreen(
     , m_favourites(favourites)
     , m_settings(environment.settings)
     , m_focusList(new Spinner(this))
-    , m_title(Painting::ConverterBand, 40008, Painting::makeFont(23, Painting::Bold)) // "World Clocks"
+    , m_title(Painting::ConverterBand, StringIds::WorldClocks, Painting::makeFont(23, Painting::Bold))
 {
     m_focusList->setObjectName(QStringLiteral("focusSpinner"));
     m_focusList->setWrapping(true);
@@ -341,8 +342,9 @@ void WorldClockScreen::showWeather(int slot)
     const auto index = static_cast<std::size_t>(slot);
     if (!m_favourite[index]) {
         const bool added = addFavourite(m_cityOf[index]);
-        environment().boxes.show(this, Painting::loadString(added ? 40041 : 40039), QStringLiteral("Wanderkit"),
-            QMessageBox::Ok, QMessageBox::Information);
+        environment().boxes.show(this,
+            Painting::loadString(added ? StringIds::AddedToFavorites : StringIds::ForecastNotAvailable),
+            QStringLiteral("Wanderkit"), QMessageBox::Ok, QMessageBox::Information);
         update();
         if (!added)
             return;
