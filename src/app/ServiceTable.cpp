@@ -13,43 +13,16 @@
 
 namespace {
 
-std::unique_ptr<Screen> worldClocks(ServiceContext& c)
+// A service's screen, built from the environment, the window and the launcher's stores it names, in that
+// order. A screen that can show a city's weather is handed the launcher's way to open the weather screen.
+template<class ScreenType, class... Stores>
+std::unique_ptr<Screen> makeScreen(ServiceContext& context)
 {
-    auto screen = std::make_unique<WorldClockScreen>(c.environment, c.window, c.cities, c.favourites);
-    screen->setWeatherOpener(&c.weather);
+    auto screen
+        = std::make_unique<ScreenType>(context.environment, context.window, std::get<Stores&>(context.stores)...);
+    if constexpr (requires { screen->setWeatherOpener(&context.weather); })
+        screen->setWeatherOpener(&context.weather);
     return screen;
-}
-
-std::unique_ptr<Screen> worldWeather(ServiceContext& c)
-{
-    return std::make_unique<WeatherScreen>(c.environment, c.window, c.favourites);
-}
-
-std::unique_ptr<Screen> worldMap(ServiceContext& c)
-{
-    auto screen = std::make_unique<MapScreen>(c.environment, c.window, c.cities, c.favourites);
-    screen->setWeatherOpener(&c.weather);
-    return screen;
-}
-
-std::unique_ptr<Screen> currencyConverter(ServiceContext& c)
-{
-    return std::make_unique<CurrencyScreen>(c.environment, c.window, c.initialCurrencies);
-}
-
-std::unique_ptr<Screen> measurements(ServiceContext& c)
-{
-    return std::make_unique<MeasureScreen>(c.environment, c.window);
-}
-
-std::unique_ptr<Screen> clothingSizes(ServiceContext& c)
-{
-    return std::make_unique<ClothingScreen>(c.environment, c.window);
-}
-
-std::unique_ptr<Screen> dialingCodes(ServiceContext& c)
-{
-    return std::make_unique<DialingScreen>(c.environment, c.window);
 }
 
 } // namespace
@@ -57,12 +30,13 @@ std::unique_ptr<Screen> dialingCodes(ServiceContext& c)
 const std::array<Service, ServiceCount>& Services()
 {
     static const std::array<Service, ServiceCount> table {{
-        {StringIds::WorldClocks, Icons::Service, worldClocks}, {StringIds::WorldWeather, Icons::Service, worldWeather},
-        {StringIds::WorldMap, Icons::Service, worldMap},
-        {StringIds::CurrencyConverter, Icons::Service, currencyConverter},
-        {StringIds::Measurements, Icons::Service, measurements},
-        {StringIds::ClothingSizes, Icons::Service, clothingSizes},
-        {StringIds::DialingCodes, Icons::Service, dialingCodes},
+        {StringIds::WorldClocks, Icons::Service, makeScreen<WorldClockScreen, CityCatalogue, WeatherFavourites>},
+        {StringIds::WorldWeather, Icons::Service, makeScreen<WeatherScreen, WeatherFavourites>},
+        {StringIds::WorldMap, Icons::Service, makeScreen<MapScreen, CityCatalogue, WeatherFavourites>},
+        {StringIds::CurrencyConverter, Icons::Service, makeScreen<CurrencyScreen, const InitialCurrencyList>},
+        {StringIds::Measurements, Icons::Service, makeScreen<MeasureScreen>},
+        {StringIds::ClothingSizes, Icons::Service, makeScreen<ClothingScreen>},
+        {StringIds::DialingCodes, Icons::Service, makeScreen<DialingScreen>},
         {StringIds::TodoList, Icons::Service, nullptr}, // listed and selectable, opens nothing
     }};
     return table;

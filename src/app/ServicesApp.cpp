@@ -31,7 +31,7 @@ ServicesApp::ServicesApp(ScreenEnvironment& environment, DeviceWindow& window)
     m_selector->setObjectName(QStringLiteral("serviceSpinner"));
     m_selector->setWrapping(true);
     watchSpinner(*m_selector);
-    ServiceContext context {environment, window, m_cities, m_favourites, m_currencies, m_initialCurrencies, *this};
+    ServiceContext context {environment, window, {m_cities, m_favourites, m_currencies, m_initialCurrencies}, *this};
     for (std::size_t i = 0; i < m_screens.size(); ++i) {
         if (const auto make = Services()[i].makeScreen)
             m_screens[i] = make(context);
