@@ -10,6 +10,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <functional>
 
 namespace {
 
@@ -36,27 +37,22 @@ int positionOrFirst(std::uint32_t stored, std::size_t count)
 ClothingScreen::ClothingScreen(ScreenEnvironment& environment, DeviceWindow& window)
     : Screen(environment, window, MenuBarId::Converter, QStringLiteral("clothing"))
     , m_title(Painting::ConverterBand, StringIds::ClothingSizes)
-    , m_settings(environment.settings)
-    , m_wearerSpinner(new Spinner(this))
-    , m_garmentSpinner(new Spinner(this))
-    , m_shiftSpinner(new Spinner(this))
+    , m_wearerSpinner(addSpinner(QStringLiteral("wearerSpinner")))
+    , m_garmentSpinner(addSpinner(QStringLiteral("garmentSpinner")))
+    , m_shiftSpinner(addSpinner(QStringLiteral("shiftSpinner"), std::bind_front(&ClothingScreen::shiftRows, this)))
 {
     setBackgroundPicture(L"bconv.jpg");
-    m_wearerSpinner->setObjectName(QStringLiteral("wearerSpinner"));
-    m_garmentSpinner->setObjectName(QStringLiteral("garmentSpinner"));
-    m_shiftSpinner->setObjectName(QStringLiteral("shiftSpinner"));
+    keepSetting(Settings::ClothesWho, *m_wearerSpinner);
+    keepSetting(Settings::ClothesKind, *m_garmentSpinner);
     m_shiftSpinner->setItems({QStringLiteral("1"), QStringLiteral("2")});
     setTabOrder(m_wearerSpinner, m_garmentSpinner);
     setTabOrder(m_garmentSpinner, m_shiftSpinner);
-    watchSpinner(*m_shiftSpinner);
     connect(m_wearerSpinner, &Spinner::currentChanged, this, [this] {
         fillGarments(0);
         showTable();
     });
     connect(m_garmentSpinner, &Spinner::currentChanged, this, &ClothingScreen::showTable);
 }
-
-ClothingScreen::~ClothingScreen() = default;
 
 QString ClothingScreen::tableTitle() const
 {
@@ -89,9 +85,9 @@ void ClothingScreen::initialise()
     for (const int id : ClothingSizes::Wearers())
         wearers << Painting::loadString(id);
     m_wearerSpinner->setItems(wearers);
-    const int wearer = positionOrFirst(ReadSetting(m_settings, Settings::ClothesWho), ClothingSizes::Wearers().size());
+    const int wearer = positionOrFirst(ReadSetting(settings(), Settings::ClothesWho), ClothingSizes::Wearers().size());
     m_wearerSpinner->setCurrentIndex(wearer);
-    const std::uint32_t garment = ReadSetting(m_settings, Settings::ClothesKind);
+    const std::uint32_t garment = ReadSetting(settings(), Settings::ClothesKind);
     fillGarments(positionOrFirst(garment, ClothingSizes::Garments(wearer).size()));
     showTable();
     m_shiftSpinner->setFocus();
@@ -130,14 +126,8 @@ void ClothingScreen::paint(QPainter& painter)
         Painting::drawTextAt(painter, m_rowFont, TextLeft, FirstRowTop + i * RowPitch, rows.at(i));
 }
 
-void ClothingScreen::spinnerDelta(Spinner&, int delta)
+void ClothingScreen::shiftRows(int delta)
 {
     m_shift = std::clamp(m_shift + delta, 0, ClothingSizes::MaxShift);
     update();
-}
-
-void ClothingScreen::destroyWork()
-{
-    WriteSetting(m_settings, Settings::ClothesWho, static_cast<std::uint32_t>(m_wearerSpinner->currentIndex()));
-    WriteSetting(m_settings, Settings::ClothesKind, static_cast<std::uint32_t>(m_garmentSpinner->currentIndex()));
 }

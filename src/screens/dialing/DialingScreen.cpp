@@ -36,17 +36,14 @@ ReportList* makeList(QWidget* parent, const QString& name, std::vector<ReportLis
 DialingScreen::DialingScreen(ScreenEnvironment& environment, DeviceWindow& window)
     : Screen(environment, window, MenuBarId::Launcher, QStringLiteral("dialing"))
     , m_title(Painting::ConverterBand, StringIds::DialingCodes)
-    , m_chooser(new Spinner(this))
+    , m_chooser(addSpinner(QStringLiteral("chooserSpinner")))
 {
     m_title.setTextOrigin(QPoint(5, 0));
     setBackgroundPicture(L"bconv.jpg");
-    m_chooser->setObjectName(QStringLiteral("chooserSpinner"));
     m_chooser->setItems(
         {Painting::loadString(StringIds::InternationalDialingCodes), Painting::loadString(StringIds::UsAreaCodes)});
     connect(m_chooser, &Spinner::currentChanged, this, &DialingScreen::showChosenList);
 }
-
-DialingScreen::~DialingScreen() = default;
 
 // The lists are made on the first opening, so that the program's start does not pay for them.
 void DialingScreen::createLists()

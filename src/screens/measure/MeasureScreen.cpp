@@ -17,6 +17,8 @@
 #include <QPainter>
 #include <QSignalBlocker>
 
+#include <functional>
+
 namespace {
 
 // Layout, b being the title band's height and W the work area's width: the category list at (6, b+26),
@@ -64,18 +66,14 @@ int placed(int top, int height)
 MeasureScreen::MeasureScreen(ScreenEnvironment& environment, DeviceWindow& window)
     : Screen(environment, window, MenuBarId::Converter, QStringLiteral("measure"))
     , m_title(Painting::ConverterBand, StringIds::Measurements)
-    , m_settings(environment.settings)
     , m_catalogue(environment.objects)
-    , m_categorySpinner(new Spinner(this))
-    , m_fromSpinner(new Spinner(this))
-    , m_toSpinner(new Spinner(this))
+    , m_categorySpinner(addSpinner(QStringLiteral("categorySpinner")))
+    , m_fromSpinner(addSpinner(QStringLiteral("fromSpinner")))
+    , m_toSpinner(addSpinner(QStringLiteral("toSpinner")))
     , m_amountEdit(new NumericEdit(this))
     , m_resultEdit(new NumericEdit(this))
 {
     setBackgroundPicture(L"bconv.jpg");
-    m_categorySpinner->setObjectName(QStringLiteral("categorySpinner"));
-    m_fromSpinner->setObjectName(QStringLiteral("fromSpinner"));
-    m_toSpinner->setObjectName(QStringLiteral("toSpinner"));
     m_amountEdit->setObjectName(QStringLiteral("amountLineEdit"));
     m_resultEdit->setObjectName(QStringLiteral("resultLineEdit"));
     m_resultEdit->setReadOnly(true); // looks like the amount field; the program alone writes it
@@ -87,9 +85,13 @@ MeasureScreen::MeasureScreen(ScreenEnvironment& environment, DeviceWindow& windo
     connect(m_fromSpinner, &Spinner::currentChanged, this, &MeasureScreen::convert);
     connect(m_toSpinner, &Spinner::currentChanged, this, &MeasureScreen::convert);
     connect(m_amountEdit, &QLineEdit::textChanged, this, &MeasureScreen::convert);
+    keepSetting(Settings::MeasureType, *m_categorySpinner);
+    keepSetting(Settings::MeasureUnit1, *m_fromSpinner);
+    keepSetting(Settings::MeasureUnit2, *m_toSpinner);
+    keepSetting(Settings::MeasureValue, [this] { return UnitConversion::AmountText(ToWide(m_amountEdit->text())); });
+    onCommand({Commands::Clear}, std::bind_front(&MeasureScreen::clear, this));
+    onCommand({Commands::Undo}, std::bind_front(&MeasureScreen::undo, this));
 }
-
-MeasureScreen::~MeasureScreen() = default;
 
 void MeasureScreen::initialise()
 {
@@ -106,16 +108,16 @@ void MeasureScreen::initialise()
     for (const UnitCategory& category : UnitTables::Categories())
         titles << Painting::loadString(category.titleId);
     m_categorySpinner->setItems(titles);
-    m_categorySpinner->setCurrentIndex(static_cast<int>(ReadSetting(m_settings, Settings::MeasureType)));
+    m_categorySpinner->setCurrentIndex(static_cast<int>(ReadSetting(settings(), Settings::MeasureType)));
     fillUnitLists();
-    m_fromSpinner->setCurrentIndex(static_cast<int>(ReadSetting(m_settings, Settings::MeasureUnit1)));
-    m_toSpinner->setCurrentIndex(static_cast<int>(ReadSetting(m_settings, Settings::MeasureUnit2)));
+    m_fromSpinner->setCurrentIndex(static_cast<int>(ReadSetting(settings(), Settings::MeasureUnit1)));
+    m_toSpinner->setCurrentIndex(static_cast<int>(ReadSetting(settings(), Settings::MeasureUnit2)));
 
     for (Spinner* list : {m_categorySpinner, m_fromSpinner, m_toSpinner})
         list->setFont(m_listFont);
     m_resultEdit->setText(QStringLiteral("0"));
     setAmount(QStringLiteral("0"));
-    setAmount(ToQString(ReadSetting(m_settings, Settings::MeasureValue)));
+    setAmount(ToQString(ReadSetting(settings(), Settings::MeasureValue)));
     // The conversions made while opening leave "Undo" grey.
     setUndoEnabled(false);
     m_categorySpinner->setFocus();
@@ -184,16 +186,6 @@ void MeasureScreen::setUndoEnabled(bool enabled)
         keys->setItemEnabled(Commands::Undo, enabled);
 }
 
-void MeasureScreen::command(int id)
-{
-    if (id == Commands::Clear)
-        clear();
-    else if (id == Commands::Undo)
-        undo();
-    else
-        Screen::command(id);
-}
-
 void MeasureScreen::layout(int width, int height)
 {
     m_title.layout(width);
@@ -217,18 +209,4 @@ void MeasureScreen::paint(QPainter& painter)
         painter, m_labelFont, LabelLeft, placed(FromLabelTop, height), Painting::loadString(StringIds::From));
     Painting::drawTextAt(
         painter, m_labelFont, LabelLeft, placed(ToLabelTop, height), Painting::loadString(StringIds::To));
-}
-
-void MeasureScreen::destroyWork()
-{
-    const std::pair<const DwordSetting&, Spinner*> lists[] = {
-        {Settings::MeasureType, m_categorySpinner},
-        {Settings::MeasureUnit1, m_fromSpinner},
-        {Settings::MeasureUnit2, m_toSpinner},
-    };
-    for (const auto& [setting, list] : lists) {
-        if (list->currentIndex() >= 0)
-            WriteSetting(m_settings, setting, static_cast<std::uint32_t>(list->currentIndex()));
-    }
-    WriteSetting(m_settings, Settings::MeasureValue, UnitConversion::AmountText(ToWide(m_amountEdit->text())));
 }

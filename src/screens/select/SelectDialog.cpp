@@ -31,7 +31,6 @@ SelectDialog::SelectDialog(ScreenEnvironment& environment, DeviceWindow& window)
     : Screen(environment, window, MenuBarId::Select, QStringLiteral("select"))
     , m_cities(environment.objects, environment.paths, environment.messages)
     , m_currencies(environment.objects)
-    , m_settings(environment.settings)
     , m_list(new Spinner(this, Spinner::Orientation::Vertical))
 {
     m_list->setObjectName(QStringLiteral("choiceSpinner"));
@@ -96,7 +95,7 @@ void SelectDialog::computePanel()
     if (m_mode != Mode::City || index < 0)
         return;
     const DeviceClock& clock = environment().clock;
-    const DeviceOffset device = HomeCity::deviceOffset(m_cities, HomeCity::position(m_settings), clock);
+    const DeviceOffset device = HomeCity::deviceOffset(m_cities, HomeCity::position(settings()), clock);
     const CityRecord city = m_cities.Record(static_cast<std::uint32_t>(index));
     for (const std::wstring& line : CityInformationLines(city, device, clock.localTime()))
         m_panelLines << ToQString(line);

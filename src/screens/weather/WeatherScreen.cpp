@@ -25,6 +25,8 @@
 #include <QFile>
 #include <QPainter>
 
+#include <functional>
+
 namespace {
 
 constexpr int IconSize = 48;
@@ -68,13 +70,10 @@ WeatherScreen::WeatherScreen(ScreenEnvironment& environment, DeviceWindow& windo
     : Screen(environment, window, MenuBarId::Weather, QStringLiteral("weather"))
     , m_favourites(favourites)
     , m_cities(environment.objects, environment.paths, environment.messages)
-    , m_settings(environment.settings)
-    , m_days(new Spinner(this))
+    , m_days(addSpinner(QStringLiteral("daySpinner"), std::bind_front(&WeatherScreen::stepDay, this)))
     , m_title(Painting::ShellBand, StringIds::WorldWeather)
 {
-    m_days->setObjectName(QStringLiteral("daySpinner"));
     m_days->setWrapping(true);
-    watchSpinner(*m_days);
 }
 
 void WeatherScreen::setEntryCity(const std::wstring& cityName)
@@ -86,18 +85,18 @@ void WeatherScreen::setEntryCity(const std::wstring& cityName)
 void WeatherScreen::initialise()
 {
     readHomeCity();
-    m_mapping = ReadMappingText(m_settings, environment().paths);
+    m_mapping = ReadMappingText(settings(), environment().paths);
     m_favourites.loadFavouritesOnce();
     if (m_entryMode) {
         softKeys()->setItemEnabled(Commands::ChangeCity, false);
         softKeys()->setKeyEnabled(Commands::Services, false);
     } else {
-        m_favouritePosition = static_cast<std::int32_t>(ReadSetting(m_settings, Settings::WeatherPosition));
+        m_favouritePosition = static_cast<std::int32_t>(ReadSetting(settings(), Settings::WeatherPosition));
         m_favouriteName = m_favourites.getName(static_cast<std::uint32_t>(m_favouritePosition));
     }
     for (int day = 0; day < 7; ++day)
         m_weekdays[static_cast<std::size_t>(day)] = ToQString(WeekdayLabel(day));
-    m_iconFolder = ReadSetting(m_settings, Settings::IconFolder);
+    m_iconFolder = ReadSetting(settings(), Settings::IconFolder);
     m_today = environment().clock.localTime();
     m_titleFont = Painting::makeFont(23, Painting::Bold);
     m_labelFont = Painting::makeFont(18, Painting::Normal);
@@ -120,7 +119,7 @@ void WeatherScreen::initialise()
 void WeatherScreen::readHomeCity()
 {
     m_cities.Load();
-    const std::uint32_t home = HomeCity::position(m_settings);
+    const std::uint32_t home = HomeCity::position(settings());
     m_homeCityName = ToQString(m_cities.CityName(home));
     m_deviceOffset = HomeCity::deviceOffset(m_cities, home, environment().clock);
 }
@@ -160,7 +159,7 @@ void WeatherScreen::showDay(int day)
     update();
 }
 
-void WeatherScreen::spinnerDelta(Spinner&, int delta)
+void WeatherScreen::stepDay(int delta)
 {
     showDay(SteppedDay(m_currentDay, delta));
 }
@@ -185,7 +184,7 @@ void WeatherScreen::changeFavourite()
         return;
     m_favouritePosition = dialog.currentFavourite();
     m_favouriteName = m_favourites.getName(static_cast<std::uint32_t>(m_favouritePosition));
-    WriteSetting(m_settings, Settings::WeatherPosition, static_cast<std::uint32_t>(m_favouritePosition));
+    WriteSetting(settings(), Settings::WeatherPosition, static_cast<std::uint32_t>(m_favouritePosition));
     if (!computeForecast())
         return;
     m_days->setCurrentIndex(0);
@@ -327,7 +326,7 @@ void WeatherScreen::tourPrepare()
     const auto sample
         = file.open(QIODevice::ReadOnly) ? OpenMeteoForecast::read(file.readAll().toStdString(), error) : std::nullopt;
     m_favourites.loadFavouritesOnce();
-    const auto position = ReadSetting(m_settings, Settings::WeatherPosition);
+    const auto position = ReadSetting(settings(), Settings::WeatherPosition);
     const std::wstring name = m_favourites.getName(position);
     if (!sample || name.empty() || !m_favourites.getForecastText(position).empty())
         return;
