@@ -2,6 +2,7 @@
 #include "screens/clothing/ClothingScreen.h"
 
 #include "settings/SettingsTable.h"
+#include "ui/ConverterLayout.h"
 #include "ui/Painting.h"
 #include "ui/Spinner.h"
 #include "ui/StringIds.h"
@@ -18,13 +19,11 @@ namespace {
 // (6, b+6) and (6, b+36), W-17 wide and 24 high; the table title at (5, b+70); the four rows from
 // (5, b+100), 28 pixels apart. The hidden shift spinner sits at (W-25, 10), 0 x 0.
 constexpr int Band = TitleBand::Height;
-constexpr int SpinnerHeight = 24;
 constexpr int WearerTop = Band + 6;
 constexpr int GarmentTop = Band + 36;
 constexpr int TableTitleTop = Band + 70;
 constexpr int FirstRowTop = Band + 100;
 constexpr int RowPitch = 28;
-constexpr int TextLeft = 5;
 
 // A stored list position, or 0 when it is not one of `count` positions.
 int positionOrFirst(std::uint32_t stored, std::size_t count)
@@ -111,8 +110,8 @@ void ClothingScreen::showTable()
 void ClothingScreen::layout(int width, int)
 {
     m_title.layout(width);
-    m_wearerSpinner->setGeometry(6, WearerTop, width - 17, SpinnerHeight);
-    m_garmentSpinner->setGeometry(6, GarmentTop, width - 17, SpinnerHeight);
+    m_wearerSpinner->setGeometry(ConverterLayout::listBox(WearerTop, width));
+    m_garmentSpinner->setGeometry(ConverterLayout::listBox(GarmentTop, width));
     m_shiftSpinner->hideAt(width - 25, 10);
 }
 
@@ -120,10 +119,10 @@ void ClothingScreen::paint(QPainter& painter)
 {
     m_title.paint(painter);
     painter.setPen(Painting::White);
-    Painting::drawTextAt(painter, m_labelFont, TextLeft, TableTitleTop, tableTitle());
+    Painting::drawTextAt(painter, m_labelFont, ConverterLayout::TextLeft, TableTitleTop, tableTitle());
     const QStringList rows = shownRows();
     for (int i = 0; i < rows.size(); ++i)
-        Painting::drawTextAt(painter, m_rowFont, TextLeft, FirstRowTop + i * RowPitch, rows.at(i));
+        Painting::drawTextAt(painter, m_rowFont, ConverterLayout::TextLeft, FirstRowTop + i * RowPitch, rows.at(i));
 }
 
 void ClothingScreen::shiftRows(int delta)

@@ -4,6 +4,7 @@
 #include "reference/DialingCodes.h"
 #include "ui/BusyCursor.h"
 #include "ui/Commands.h"
+#include "ui/ConverterLayout.h"
 #include "ui/Painting.h"
 #include "ui/ReportList.h"
 #include "ui/SoftKeyBar.h"
@@ -18,7 +19,6 @@ namespace {
 // The chooser at (6, b+6), W-17 wide and 24 high; both lists share (0, b+36) to the bottom right.
 constexpr int Band = TitleBand::Height;
 constexpr int ChooserTop = Band + 6;
-constexpr int ChooserHeight = 24;
 constexpr int ListTop = Band + 36;
 // The chooser's longest item, "International Dialing Codes", fits its box at this height.
 constexpr int ListFontHeight = 15;
@@ -97,7 +97,7 @@ void DialingScreen::showChosenList()
 void DialingScreen::layout(int width, int height)
 {
     m_title.layout(width);
-    m_chooser->setGeometry(6, ChooserTop, width - 17, ChooserHeight);
+    m_chooser->setGeometry(ConverterLayout::listBox(ChooserTop, width));
     const QRect lists(0, ListTop, width, height - ListTop);
     m_international->setGeometry(lists);
     m_areaCodes->setGeometry(lists);

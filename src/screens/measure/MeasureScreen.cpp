@@ -4,6 +4,7 @@
 #include "settings/SettingsTable.h"
 #include "ui/BusyCursor.h"
 #include "ui/Commands.h"
+#include "ui/ConverterLayout.h"
 #include "ui/MessageBox.h"
 #include "ui/NumericEdit.h"
 #include "ui/Painting.h"
@@ -25,9 +26,6 @@ namespace {
 // W-17 wide; the from list, the amount field, the to list and the result field below it. Lists are 24
 // high and end 11 pixels from the right edge, the fields 25 high and 10 from it.
 constexpr int Band = TitleBand::Height;
-constexpr int ListLeft = 6;
-constexpr int ListHeight = 24;
-constexpr int ListRightMargin = 11;
 constexpr int FieldLeft = 5;
 constexpr int FieldHeight = 25;
 constexpr int FieldRightMargin = 10;
@@ -37,7 +35,6 @@ constexpr int AmountTop = Band + 115;
 constexpr int ToTop = Band + 176;
 constexpr int ResultTop = Band + 205;
 // The labels: "Convert:" under the band, "From:" and "To:" above their lists.
-constexpr int LabelLeft = 5;
 constexpr int ConvertLabelTop = 28;
 constexpr int FromLabelTop = Band + 60;
 constexpr int ToLabelTop = Band + 150;
@@ -189,12 +186,11 @@ void MeasureScreen::setUndoEnabled(bool enabled)
 void MeasureScreen::layout(int width, int height)
 {
     m_title.layout(width);
-    const int listWidth = width - ListRightMargin - ListLeft;
     const int fieldWidth = width - FieldRightMargin - FieldLeft;
-    m_categorySpinner->setGeometry(ListLeft, placed(CategoryTop, height), listWidth, ListHeight);
-    m_fromSpinner->setGeometry(ListLeft, placed(FromTop, height), listWidth, ListHeight);
+    m_categorySpinner->setGeometry(ConverterLayout::listBox(placed(CategoryTop, height), width));
+    m_fromSpinner->setGeometry(ConverterLayout::listBox(placed(FromTop, height), width));
     m_amountEdit->setGeometry(FieldLeft, placed(AmountTop, height), fieldWidth, FieldHeight);
-    m_toSpinner->setGeometry(ListLeft, placed(ToTop, height), listWidth, ListHeight);
+    m_toSpinner->setGeometry(ConverterLayout::listBox(placed(ToTop, height), width));
     m_resultEdit->setGeometry(FieldLeft, placed(ResultTop, height), fieldWidth, FieldHeight);
 }
 
@@ -203,10 +199,10 @@ void MeasureScreen::paint(QPainter& painter)
     m_title.paint(painter);
     painter.setPen(Painting::White);
     const int height = workHeight();
-    Painting::drawTextAt(
-        painter, m_labelFont, LabelLeft, placed(ConvertLabelTop, height), Painting::loadString(StringIds::Convert));
-    Painting::drawTextAt(
-        painter, m_labelFont, LabelLeft, placed(FromLabelTop, height), Painting::loadString(StringIds::From));
-    Painting::drawTextAt(
-        painter, m_labelFont, LabelLeft, placed(ToLabelTop, height), Painting::loadString(StringIds::To));
+    Painting::drawTextAt(painter, m_labelFont, ConverterLayout::TextLeft, placed(ConvertLabelTop, height),
+        Painting::loadString(StringIds::Convert));
+    Painting::drawTextAt(painter, m_labelFont, ConverterLayout::TextLeft, placed(FromLabelTop, height),
+        Painting::loadString(StringIds::From));
+    Painting::drawTextAt(painter, m_labelFont, ConverterLayout::TextLeft, placed(ToLabelTop, height),
+        Painting::loadString(StringIds::To));
 }
