@@ -5,7 +5,6 @@
 #include "device/DeviceClock.h"
 #include "device/DevicePaths.h"
 #include "screens/select/SelectDialog.h"
-#include "screens/weather/WeatherOpener.h"
 #include "session/HomeCity.h"
 #include "settings/SettingsTable.h"
 #include "store/CityCatalogue.h"
@@ -49,9 +48,7 @@ QImage loadPicture(const DevicePaths& paths, const wchar_t* name)
 
 MapScreen::MapScreen(
     ScreenEnvironment& environment, DeviceWindow& window, CityCatalogue& cities, WeatherFavourites& favourites)
-    : Screen(environment, window, MenuBarId::Map, QStringLiteral("worldmap"))
-    , m_cities(cities)
-    , m_favourites(favourites)
+    : CityScreen(environment, window, MenuBarId::Map, QStringLiteral("worldmap"), cities, favourites)
     , m_spinner(addSpinner(QStringLiteral("citySpinner"), std::bind_front(&MapScreen::stepCity, this)))
 {
     keepSetting(Settings::MapClock, [this] { return static_cast<std::uint32_t>(m_selected); });
@@ -188,8 +185,7 @@ void MapScreen::selectCity(std::int32_t city)
 
 void MapScreen::showWeather()
 {
-    if (m_weatherOpener)
-        m_weatherOpener->openWeather(*this, m_cities.CityName(static_cast<std::uint32_t>(m_selected)));
+    openWeatherFor(static_cast<std::uint32_t>(m_selected));
 }
 
 void MapScreen::toggleMarkers()

@@ -2,10 +2,10 @@
 #pragma once
 
 #include "astro/CitySunTimes.h"
+#include "screens/city/CityScreen.h"
 #include "screens/map/MapLayout.h"
 #include "screens/map/MapRenderer.h"
 #include "time/ClockOffsets.h"
-#include "ui/Screen.h"
 
 #include <QFont>
 
@@ -16,9 +16,8 @@ class WeatherFavourites;
 // World Map: the world picture with the night side darkened, the device's time, and one selected
 // city with its time, coordinates, sunrise and sunset. Left/right step through the catalogue (wrapping
 // at both ends); the menu shows or hides the World Clocks cities and changes the city.
-class WeatherOpener;
 
-class MapScreen final : public Screen
+class MapScreen final : public CityScreen
 {
     Q_OBJECT
 
@@ -30,8 +29,6 @@ public:
         ScreenEnvironment& environment, DeviceWindow& window, CityCatalogue& cities, WeatherFavourites& favourites);
 
     std::int32_t selectedCity() const { return m_selected; }
-    // What "Weather Forecast" opens the World Weather screen with.
-    void setWeatherOpener(WeatherOpener* opener) { m_weatherOpener = opener; }
     bool showCities() const { return m_showCities; }
     const MapLayout& mapLayout() const { return m_layout; }
     // The texts as drawn: the device time (twelve-hour form applied), the city's time, name and sun.
@@ -69,9 +66,6 @@ private:
     void paintClock(QPainter& painter) const;
     void paintCity(QPainter& painter) const;
 
-    CityCatalogue& m_cities;
-    WeatherOpener* m_weatherOpener = nullptr;
-    WeatherFavourites& m_favourites;
     Spinner* m_spinner;
     std::int32_t m_selected = 0;
     bool m_showCities = true;

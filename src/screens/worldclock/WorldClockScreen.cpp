@@ -3,7 +3,6 @@
 
 #include "device/DeviceClock.h"
 #include "screens/select/SelectDialog.h"
-#include "screens/weather/WeatherOpener.h"
 #include "settings/SettingsTable.h"
 #include "store/CityCatalogue.h"
 #include "store/CountryCityList.h"
@@ -51,9 +50,7 @@ SystemTime handTime(const std::wstring& text, const SystemTime& now)
 
 WorldClockScreen::WorldClockScreen(
     ScreenEnvironment& environment, DeviceWindow& window, CityCatalogue& cities, WeatherFavourites& favourites)
-    : Screen(environment, window, MenuBarId::WorldClocks, QStringLiteral("worldclock"))
-    , m_cities(cities)
-    , m_favourites(favourites)
+    : CityScreen(environment, window, MenuBarId::WorldClocks, QStringLiteral("worldclock"), cities, favourites)
     , m_focusList(addSpinner(QStringLiteral("focusSpinner"), std::bind_front(&WorldClockScreen::showFocusStep, this)))
     , m_title(Painting::ConverterBand, StringIds::WorldClocks, Painting::makeFont(23, Painting::Bold))
 {
@@ -344,8 +341,7 @@ void WorldClockScreen::showWeather(int slot)
         if (!added)
             return;
     }
-    if (m_weatherOpener)
-        m_weatherOpener->openWeather(*this, m_cities.CityName(m_cityOf[index]));
+    openWeatherFor(m_cityOf[index]);
 }
 
 void WorldClockScreen::tourVisit()

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "screens/city/CityScreen.h"
 #include "screens/worldclock/ClockCell.h"
 #include "time/ClockOffsets.h"
 #include "time/ClockSlotText.h"
-#include "ui/Screen.h"
 #include "ui/TitleBand.h"
 
 #include <array>
@@ -13,13 +13,12 @@
 class CityCatalogue;
 class Spinner;
 class WeatherFavourites;
-class WeatherOpener;
 
 // World Clocks: the home clock (the device's own time) and four cities, each with an analog dial, its
 // time and date, a daylight-saving mark and a weather icon. Left/right move the focus over the ten
 // entries (clock faces and weather icons); the action key changes a clock's city or adds the city to
 // the weather favourites.
-class WorldClockScreen final : public Screen
+class WorldClockScreen final : public CityScreen
 {
     Q_OBJECT
 
@@ -42,8 +41,6 @@ public:
     // One tick of the clock: new texts from the device clock, and a repaint of what changed.
     void refresh();
     void tourVisit() override;
-    // Who opens the weather screen for a weather icon's city; without one the icon only adds the favourite.
-    void setWeatherOpener(WeatherOpener* opener) { m_weatherOpener = opener; }
 
 protected:
     void initialise() override;
@@ -71,9 +68,6 @@ private:
     // The focus entry (0 home dial, 1 home weather, 2 first city's dial, ...) under `at`, or -1.
     int entryAt(QPoint at) const;
 
-    CityCatalogue& m_cities;
-    WeatherFavourites& m_favourites;
-    WeatherOpener* m_weatherOpener = nullptr;
     std::array<std::uint32_t, SlotCount> m_cityOf {};
     std::array<QString, SlotCount> m_names;
     std::array<ZoneOffset, SlotCount> m_standardOffsets {};
