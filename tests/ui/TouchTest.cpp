@@ -144,11 +144,8 @@ void addRows(Kind kind, const char* name, QPoint from, QPoint to, const QList<in
 class ControlsScreen final : public Screen
 {
 public:
-    ControlsScreen(ScreenEnvironment& environment, DeviceWindow& window)
-        : Screen(environment, window, MenuBarId::Select, QStringLiteral("controls"))
-        , spinner(new Spinner(this))
-        , field(new QLineEdit(this))
-        , button(new QPushButton(QStringLiteral("OK"), this))
+    explicit ControlsScreen(ScreenTestBench& bench)
+        : Screen(bench.environment, bench.window, MenuBarId::Select, QStringLiteral("controls"))
     {
         spinner->setItems({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
         spinner->setGeometry(10, 10, 150, 25);
@@ -157,17 +154,13 @@ public:
         QObject::connect(button, &QPushButton::clicked, this, [this] { ++clicks; });
     }
 
-    Spinner* spinner;
-    QLineEdit* field;
-    QPushButton* button;
+    Spinner* spinner = new Spinner(this);
+    QLineEdit* field = new QLineEdit(this);
+    QPushButton* button = new QPushButton(QStringLiteral("OK"), this);
     int clicks = 0;
 
 protected:
-    void initialise() override
-    {
-        spinner->setCurrentIndex(1);
-        spinner->setFocus();
-    }
+    void initialise() override { spinner->setCurrentIndex(1), spinner->setFocus(); }
 };
 
 } // namespace
@@ -279,7 +272,7 @@ private slots:
         QVERIFY(!device.screen->isRunning());
 
         ScreenTestBench bench;
-        ControlsScreen screen(bench.environment, bench.window);
+        ControlsScreen screen(bench);
         QWidget& window = bench.window;
         bench.visit(screen, [&] {
             QList<int> steps;
@@ -321,7 +314,9 @@ private slots:
             {{800, 500}, {240, 268}, 500.0 / 294},
             // A tall work area 200 x 400 on a 600 x 1200 portrait screen: upright min(3, 2.838) = 2.838,
             // turned 400 x 226: min(1.5, 5.3) = 1.5.
-            {{600, 1200}, {200, 400}, 1.5}, {{}, {240, 268}, 2.0}, // no screen
+            {{600, 1200}, {200, 400}, 1.5},
+            // No screen: the largest scale.
+            {{}, {240, 268}, 2.0},
         };
         for (const auto& [available, workArea, scale] : cases)
             QCOMPARE(FitScale(available, workArea, SoftKeyBar::BarHeight, 2.0), scale);
@@ -330,14 +325,11 @@ private slots:
     void workAreaFollowsTheScreensRotation()
     {
         ScreenTestBench bench;
-        const std::pair<Qt::ScreenOrientation, QSize> steps[] = {
-            {Qt::LandscapeOrientation, {268, 240}},
-            {Qt::InvertedLandscapeOrientation, {268, 240}},
-            {Qt::PortraitOrientation, {240, 268}},
-            {Qt::PrimaryOrientation, {240, 268}},
-            {Qt::InvertedLandscapeOrientation, {268, 240}},
-            {Qt::InvertedPortraitOrientation, {240, 268}},
-        };
+        const QSize upright(240, 268), turned(268, 240);
+        const std::pair<Qt::ScreenOrientation, QSize> steps[]
+            = {{Qt::LandscapeOrientation, turned}, {Qt::InvertedLandscapeOrientation, turned},
+                {Qt::PortraitOrientation, upright}, {Qt::PrimaryOrientation, upright},
+                {Qt::InvertedLandscapeOrientation, turned}, {Qt::InvertedPortraitOrientation, upright}};
         for (const auto& [orientation, workArea] : steps) {
             emit QGuiApplication::primaryScreen()->orientationChanged(orientation);
             QCOMPARE(bench.window.workArea(), workArea);

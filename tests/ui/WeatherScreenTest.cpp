@@ -83,7 +83,7 @@ class WeatherScreenTest : public QObject
     Q_OBJECT
 
 private slots:
-    void showsTheFavouriteOfWetpDayByDay()
+    void showsTheFavouriteOfWetpDayByDayAndNoIconWhereThereIsNone()
     {
         WeatherBench t;
         t.storeParisForecast(1);
@@ -109,14 +109,9 @@ private slots:
             QCOMPARE(t.condition(), QStringLiteral("Day 4"));
         });
         QVERIFY(t.bench.boxes.shown.empty());
-    }
-
-    void emptyDaysAndMissingIconsDrawNoIcon()
-    {
         // A short forecast text is read by the forecast's own tests; here, Oslo has no forecast yet:
         // every day is empty and draws no icon.
-        WeatherBench t;
-        t.storeParisForecast(0);
+        t.bench.store(Settings::WeatherPosition, 0);
         t.bench.visit(t.screen, [&] {
             for (int day = 1; day <= 5; ++day, t.bench.press(Qt::Key_Right)) {
                 QCOMPARE(t.screen.shownDay(), ForecastDayTexts());
@@ -216,7 +211,7 @@ class FavouritesDialogTest : public QObject
     Q_OBJECT
 
 private slots:
-    void theAddViewAddsFromTheCountryLists()
+    void theAddViewAddsFromTheCountryListsAndShowsNoneWhenTheyAreMissing()
     {
         WeatherBench t;
         FavouritesDialog dialog(t.bench.environment, t.bench.window, t.favourites);
@@ -247,13 +242,8 @@ private slots:
             L"Lyon|2996944|01/01/2000|France", L"Oslo|3143244|01/01/2000|Norway", L"Paris|2988507|01/01/2000|France",
             L"Rome|3169070|01/01/2000|Italy"};
         QCOMPARE(t.names(), favourites);
-    }
-
-    void missingOrUnreadableCountryListsGiveEmptySpinners()
-    {
-        WeatherBench t;
+        // Missing country lists give empty spinners.
         std::filesystem::remove_all(t.bench.root.path() / "weatcs");
-        FavouritesDialog dialog(t.bench.environment, t.bench.window, t.favourites);
         // Then a name the device cannot open: a backslash in it reads as a folder on the device.
         for (const QStringList& countries : {QStringList(), QStringList {QStringLiteral("Bad\\Land")}}) {
             t.bench.visit(dialog, [&] {
