@@ -83,7 +83,7 @@ class WeatherScreenTest : public QObject
     Q_OBJECT
 
 private slots:
-    void showsTheFavouriteOfWetpDayByDayAndNoIconWhereThereIsNone()
+    void showsTheFavouriteOfWetpDayByDayNoIconWhereThereIsNoneAndNoneAfterTheLast()
     {
         WeatherBench t;
         t.storeParisForecast(1);
@@ -126,13 +126,10 @@ private slots:
             QVERIFY(t.screen.iconRect().isNull());
             t.bench.render();
         });
-    }
-
-    void aFavouriteNotFoundIsToldAndClosesTheScreen()
-    {
+        // A position past the favourites is told, and the screen closes.
         for (const std::uint32_t wetp : {3u, 0xFFFFFFFFu}) {
-            WeatherBench t;
             t.bench.store(Settings::WeatherPosition, wetp);
+            t.bench.boxes.shown.clear();
             bool driven = false;
             t.bench.run(t.screen, [&] { driven = true; });
             QVERIFY(!driven && !t.screen.isRunning());
