@@ -178,7 +178,7 @@ private slots:
         hidden.run([&] { QVERIFY(!hidden.screen.showCities()); });
     }
 
-    void nightPixelsKeepOnlyTheBlueChannelOfTheDayPicture()
+    void nightPixelsKeepOnlyTheBlueChannelOfTheDayPictureOrOfTheGradient()
     {
         // "bmap.jpg", the night picture, is loaded and held but never drawn: night is the day picture's blue.
         MapBench t([](const TempDir& root) {
@@ -204,23 +204,22 @@ private slots:
             QCOMPARE(map.pixel(0, 69), qRgb(0, 0, qBlue(day.pixel(0, 69))));
             QCOMPARE(map.pixel(120, 0), qRgb(0, 0, qBlue(day.pixel(120, 0))));
         });
-    }
-
-    void aMissingDayPictureLeavesTheGradient()
-    {
-        MapBench t;
-        t.bench.store(Settings::ShowCities, 0);
-        t.run([&] {
-            QVERIFY(!t.screen.holdsNightPicture()); // nor is there a "bmap.jpg": nothing is said about either
-            const QImage window = t.bench.render();
+        // Without a day picture the gradient is the day.
+        MapBench gradient;
+        gradient.bench.store(Settings::ShowCities, 0);
+        gradient.run([&] {
+            // Nor is there a "bmap.jpg": nothing is said about either.
+            QVERIFY(!gradient.screen.holdsNightPicture());
+            const QImage window = gradient.bench.render();
             // Band 30 (the top) is RGB(114, 150, 180): kept in day, only its blue at night.
             QCOMPARE(window.pixel(120, 69), qRgb(84 + 23, 120 + 23, 150 + 23)); // row 69 is in band 23
             QCOMPARE(window.pixel(120, 2), qRgb(0, 0, 180)); // the north pole's winter night
             QCOMPARE(window.pixel(2, 69), qRgb(0, 0, 173));
         });
-        for (const auto& message : t.bench.messages.messages) // the fixture has no favourites file, only that
+        // The fixture has no favourites file, and only that is said.
+        for (const auto& message : gradient.bench.messages.messages)
             QVERIFY(message.text.find(L"jpg") == std::wstring::npos);
-        QVERIFY(t.bench.boxes.shown.empty());
+        QVERIFY(gradient.bench.boxes.shown.empty());
     }
 
     void theCityTimeAndItsSunFollowTheZoneAndDaylightSaving()

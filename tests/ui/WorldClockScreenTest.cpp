@@ -82,14 +82,6 @@ private slots:
         });
         for (int slot = 0; slot < 5; ++slot)
             QCOMPARE(t.clock(names[slot]), cities[slot]);
-        // A missing value of an existing key: also written only on leaving.
-        WorldClockBench some;
-        some.registry.SetDWORD(ClockKey, L"clock1", 10);
-        some.bench.visit(some.screen, [&] {
-            QCOMPARE(some.screen.slotCity(1), 10u);
-            QCOMPARE(some.clock(L"clock2"), RegistrySettings::ValueMissing);
-        });
-        QCOMPARE(some.clock(L"clock2"), 756u);
     }
 
     void theHomeClockFitsItsWidestNameInBothOrientationsAndTheMenuTogglesTwelveHours()
@@ -194,7 +186,7 @@ private slots:
         QCOMPARE(opener.cities, (std::vector<std::wstring> {L"C0000", L"C0684", L"C0684"}));
     }
 
-    void theCityPanelDescribesTheHighlightedCityAndTheSelectionComesBack()
+    void theSelectDialogsPanelSelectionAndCurrencyMode()
     {
         WorldClockBench t({{684, "-5;1;67;2;305;2"}});
         t.bench.clock.set(FakeDeviceClock::at(2026, 7, 13, 12, 0, 0));
@@ -221,28 +213,24 @@ private slots:
         dialog.setSelection(5000);
         t.bench.run(dialog, [&] { dialog.sendCommand(Commands::Done); });
         QCOMPARE(dialog.selection(), -1);
-    }
-
-    void currencyModeSkipsEntriesWithoutCodeAndName()
-    {
-        ScreenTestBench bench;
-        // The count promises a third currency the file does not hold: it is stored empty.
-        bench.root.write("currs.lst", "3\nEUR_Euro_1.1#USD_US Dollar_1#");
-        CurrencyStore store(bench.objects);
-        store.SetInitialList(ReadInitialCurrencies(bench.paths, bench.messages));
+        // In currency mode the list skips entries without code and name: the count promises a third
+        // currency the file does not hold, which is stored empty.
+        t.bench.root.write("currs.lst", "3\nEUR_Euro_1.1#USD_US Dollar_1#");
+        CurrencyStore store(t.bench.objects);
+        store.SetInitialList(ReadInitialCurrencies(t.bench.paths, t.bench.messages));
         store.Load();
         QCOMPARE(store.RecordCount(), 3);
-        SelectDialog dialog(bench.environment, bench.window);
-        dialog.setMode(SelectDialog::Mode::Currency);
-        dialog.setSelection(0);
-        bench.run(dialog, [&] {
-            QCOMPARE(child<Spinner>(dialog, "choiceSpinner")->items(),
+        SelectDialog currencies(t.bench.environment, t.bench.window);
+        currencies.setMode(SelectDialog::Mode::Currency);
+        currencies.setSelection(0);
+        t.bench.run(currencies, [&] {
+            QCOMPARE(child<Spinner>(currencies, "choiceSpinner")->items(),
                 (QStringList {QStringLiteral("EUR - Euro"), QStringLiteral("USD - US Dollar")}));
-            QVERIFY(dialog.panelLines().isEmpty());
-            bench.press(Qt::Key_Down);
-            dialog.sendCommand(Commands::Done);
+            QVERIFY(currencies.panelLines().isEmpty());
+            t.bench.press(Qt::Key_Down);
+            currencies.sendCommand(Commands::Done);
         });
-        QCOMPARE(dialog.selection(), 1);
+        QCOMPARE(currencies.selection(), 1);
     }
 };
 
