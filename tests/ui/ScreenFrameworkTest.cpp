@@ -139,7 +139,7 @@ private slots:
             // "Exit" last, after a separator when there is more (the launcher's popup holds only it).
             QVERIFY(texts.isEmpty() || (texts.last() == QStringLiteral("Exit") && sent.last().at(0) == Commands::Exit));
             QVERIFY(texts.size() < 2 || texts.at(texts.size() - 2).isEmpty());
-            if (id == 108) // the map's, as printed
+            if (id == 108) // the map's popup, item by item
                 QCOMPARE(texts,
                     (QStringList {QStringLiteral("Show cities on Map"), QStringLiteral("Change City"),
                         QStringLiteral("Weather Forecast"), QString(), QStringLiteral("Exit")}));
