@@ -10,16 +10,15 @@ TEST(DelimitedFieldReader, ReadsFieldsAsTheDataFilesNeedThem)
 {
     // One read per delimiter character.
     using Case = std::tuple<const char*, std::string, std::string, std::vector<std::wstring>>;
-    const Case cases[] = {
-        {"fields up to each delimiter", "2\nUSD_Dollar_1.0#", "\n__#", {L"2", L"USD", L"Dollar", L"1.0"}},
-        {"a delimiter met first is skipped", ";;a;b", ";;", {L"a", L"b"}},
-        {"empty fields collapse", "a;;;b;", ";;;", {L"a", L"b", L""}},
-        {"other delimiters are field text", "a;b\nc\n", "\n\n", {L"a;b", L"c"}},
-        {"line breaks after a record begin the next field", "x#\r\nEUR_", "#_", {L"x", L"\r\nEUR"}},
-        {"end of file ends a field, then fields are empty", "abc", "###", {L"abc", L"", L""}},
-        {"bytes above 127 are Latin-1", "Z\xFCrich\xB0;\xFF", ";;", {L"Z\u00FCrich\u00B0", L"\u00FF"}},
-        {"a null byte is a character", std::string("a\0b;", 4), ";", {std::wstring(L"a\0b", 3)}},
-    };
+    const Case cases[]
+        = {{"fields up to each delimiter", "2\nUSD_Dollar_1.0#", "\n__#", {L"2", L"USD", L"Dollar", L"1.0"}},
+            {"a delimiter met first is skipped", ";;a;b", ";;", {L"a", L"b"}},
+            {"empty fields collapse", "a;;;b;", ";;;", {L"a", L"b", L""}},
+            {"other delimiters are field text", "a;b\nc\n", "\n\n", {L"a;b", L"c"}},
+            {"line breaks after a record begin the next field", "x#\r\nEUR_", "#_", {L"x", L"\r\nEUR"}},
+            {"end of file ends a field, then fields are empty", "abc", "###", {L"abc", L"", L""}},
+            {"bytes above 127 are Latin-1", "Z\xFCrich\xB0;\xFF", ";;", {L"Z\u00FCrich\u00B0", L"\u00FF"}},
+            {"a null byte is a character", std::string("a\0b;", 4), ";", {std::wstring(L"a\0b", 3)}}};
     for (const auto& [what, bytes, delimiters, expected] : cases) {
         SCOPED_TRACE(what);
         DelimitedFieldReader reader(bytes);

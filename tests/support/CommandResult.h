@@ -3,6 +3,8 @@
 
 #include "cli/CommandRunner.h"
 
+#include <gtest/gtest.h>
+
 #include <string>
 #include <vector>
 
@@ -16,4 +18,9 @@ struct CommandResult
     // Runs `command` with `args` on the device `device`.
     static CommandResult of(
         const std::string& command, const std::vector<std::string>& args, const DeviceOptions& device = {});
+
+    // Done: exit code 0, exactly `expected` printed and nothing on the error stream.
+    testing::AssertionResult printed(const std::string& expected) const;
+    // Exit code `expected`, nothing printed, and `message` within the error text.
+    testing::AssertionResult refused(int expected, const std::string& message) const;
 };

@@ -72,8 +72,6 @@ TEST(CalendarDays, IsLaterDayComparesDaysWithTheirMilliseconds)
             {C::at(2026, 3, 30, 0, 0, 0), C::at(2026, 3, 29, 23, 59, 59, 999), true},
             {C::at(2027, 1, 1, 0, 0, 0), C::at(2026, 12, 31, 0, 0, 0, 999), true},
             {SystemTime {}, C::at(2026, 1, 1, 0, 0, 0), false}};
-    for (std::size_t i = 0; i < std::size(cases); ++i) {
-        const auto& [a, b, later] = cases[i];
-        EXPECT_EQ(IsLaterDay(a, b), later) << "case " << i;
-    }
+    for (const auto& [a, b, later] : cases)
+        EXPECT_EQ(IsLaterDay(a, b), later) << a.day << " against " << b.day;
 }
