@@ -46,10 +46,7 @@ TEST(HorizonArc, PolarDayAndPolarNight)
             EXPECT_EQ(isNight(sun, lonW, 138, 138), south == Kind::AlwaysNight);
         }
     }
-}
 
-TEST(HorizonArc, TheEquatorHasHalfADayAndAHorizonMargin)
-{
     // On the equator at the equinox cos H0 = sin(-0.8333 x 3.14/180) / cos(dec) = -0.014544, so
     // H0 = acos(-0.014544) x 180/3.14 = 90.88 degrees: the day is a little longer than half.
     const HorizonArc arc = RowHorizonArc(sunAt(3, 20, 12), 69, 138);

@@ -54,7 +54,7 @@ TEST(TerminatorColumns, SamplesMatchAScanOfEveryRow)
     }
 }
 
-TEST(TerminatorColumns, ColumnStepAndExtent)
+TEST(TerminatorColumns, ColumnStepExtentAndPolarColumns)
 {
     // Month, map width; the step, the samples, the last sample (the loop runs while x < width + 2), the spans.
     const std::tuple<int, int, int, std::size_t, int, std::size_t> cases[] = {
@@ -75,10 +75,8 @@ TEST(TerminatorColumns, ColumnStepAndExtent)
     }
     EXPECT_TRUE(ComputeTerminatorColumns(sunAt(6, 1, 0), 0, 138, 6).spans.empty());
     EXPECT_TRUE(ComputeTerminatorColumns(sunAt(6, 1, 0), 240, 0, 6).spans.empty());
-}
 
-TEST(TerminatorColumns, PolarDayAndPolarNightColumns)
-{
+    // Polar day and polar night.
     // June: the south pole is in night in every column, so each span ends on row 138, one row past the
     // picture; the north pole never is. December: the other way round.
     for (const NightSpan& s : ComputeTerminatorColumns(sunAt(6, 21, 6), 240, 138, 6).samples)

@@ -9,7 +9,7 @@
 
 namespace {
 
-// The fixture catalogue with C0000 as home; the time arithmetic is checked in the time tests.
+// The fixture catalogue with C0000 as home; the time and sun arithmetic is checked in the time and astro tests.
 class CityCommands : public CommandFixture
 {
 protected:
@@ -43,10 +43,8 @@ TEST_F(CityCommands, TimeShowsWhatAWorldClockShows)
     };
     for (const auto& [args, out] : cases)
         EXPECT_TRUE(run("time", args).printed(out));
-}
 
-TEST_F(CityCommands, CityPrintsTheInformationPanel)
-{
+    // `city` prints the information panel.
     EXPECT_TRUE(run("city", {"C0684"}, "2026-01-13 12:00:00")
                     .printed("City: C0684\nCountry: Land\nLong/Lat: 2.35/48.85\nDaylight Saving: Not observing now\n"
                              "DST start/end: 8/3/2026-1/11/2026\nTime zone (GMT): -5h\n"));
@@ -69,4 +67,31 @@ TEST_F(CityCommands, UnknownAndAmbiguousCitiesAreUsageErrors)
     EXPECT_TRUE(ambiguous.refused(2, "0 Twin:Alpha"));
     EXPECT_NE(ambiguous.err.find("1 Twin:Beta"), std::string::npos);
     EXPECT_EQ(CommandResult::of("city", {"Twin:Beta"}, twins).code, 0);
+}
+
+// Every fixture city stands at 2.35 E 48.85 N, read as whole degrees 2 and 48.
+TEST_F(CityCommands, SunPrintsTheMapsTimesAndTheOffsetUsed)
+{
+    // Worked with a separate calculator: on 13 July 2026 at 48 N 2 E the Sun rises at 04:07 UTC and
+    // sets at 19:47 UTC, 15:40 of day; on 13 January at 07:39 and 16:22, 08:42 of day.
+    const std::tuple<std::vector<std::string>, std::string> cases[] = {
+        {{"C0000"}, "06:07\t21:47\t15:40\t2\n"}, // +1 with summer time
+        {{"684"}, "00:07\t15:47\t15:40\t-4\n"},
+        {{"C0010"}, "09:07\t00:47\t15:40\t5\n"}, // +5:30 uses 5 hours; the sunset at 24:47 loses 24 hours
+        {{"C0684", "--date", "2026-01-13"}, "02:39\t11:22\t08:42\t-5\n"}, // no summer time in January
+        {{"--date=2026-01-13", "C0000:land"}, "08:39\t17:22\t08:42\t1\n"},
+        {{"C0000", "--date", "2028-02-29"}, "07:34\t18:33\t10:58\t1\n"},
+    };
+    for (const auto& [args, out] : cases)
+        EXPECT_TRUE(run("sun", args).printed(out)) << args[0];
+
+    // Bad requests.
+    const std::vector<std::string> bad[] = {{}, {"C0000", "C0001"}, {"C0000", "--date"},
+        {"C0000", "--date", "2026-02-30"}, {"C0000", "--date", "13/07/2026"}, {"C0000", "--date", "1500-01-01"},
+        {"C0000", "--when", "today"}, {"Atlantis"}};
+    for (const auto& args : bad) {
+        const CommandResult result = run("sun", args);
+        EXPECT_TRUE(result.refused(2, "")) << testing::PrintToString(args);
+        EXPECT_FALSE(result.err.empty());
+    }
 }

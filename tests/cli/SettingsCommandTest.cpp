@@ -31,7 +31,7 @@ TEST_F(SettingsCommand, SetThenGetGivesBackWhatWasStored)
     }
 }
 
-TEST_F(SettingsCommand, ListsEveryValueAndResetEmptiesTheRegistry)
+TEST_F(SettingsCommand, ListsResetsAndRefuses)
 {
     ASSERT_EQ(run("settings", {"set", "Wanderkit\\wrldclk", "clock1", "100"}).code, 0);
     ASSERT_EQ(run("settings", {"set", "Wanderkit", "twelvehour", "1", "--type=dword"}).code, 0);
@@ -44,10 +44,8 @@ TEST_F(SettingsCommand, ListsEveryValueAndResetEmptiesTheRegistry)
     EXPECT_TRUE(run("settings", {}).printed(""));
     EXPECT_TRUE(run("settings", {"get", "Wanderkit\\wrldclk", "clock1"})
                     .refused(1, "no value \"clock1\" under \"Wanderkit\\wrldclk\""));
-}
 
-TEST_F(SettingsCommand, RefusesWhatItCannotStore)
-{
+    // What cannot be stored is refused.
     const std::vector<std::string> cases[] = {{"set", "Wanderkit", "n", "4294967296"},
         {"set", "Wanderkit", "n", "-2147483649"}, {"set", "Wanderkit", "n", "12abc"}, {"set", "Wanderkit", "n", ""},
         {"set", "Wanderkit", "n", "1", "--type", "qword"}, {"set", "Wanderkit", "n"}, {"get", "Wanderkit"},

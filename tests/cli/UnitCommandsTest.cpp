@@ -56,10 +56,8 @@ TEST_F(UnitCommands, ConvertReportsBadInput)
     // The same word on both sides is listed once; different ambiguous words each.
     EXPECT_EQ(std::ranges::count(run("convert", {"1", "yard", "yard"}).err, '\n'), 4);
     EXPECT_EQ(std::ranges::count(run("convert", {"1", "yard", "Yard"}).err, '\n'), 8);
-}
 
-TEST_F(UnitCommands, UnitsListsTheCatalogueInTheScreensOrder)
-{
+    // `units` lists the catalogue in the screen's order.
     const CommandResult lengths = run("units", {"1"});
     EXPECT_TRUE(lengths.out.starts_with("Lengths and Distances\nYard\t0.9144\nCable (in)\t219.456\n")) << lengths.out;
     EXPECT_EQ(std::ranges::count(lengths.out, '\n'), 1 + 16);

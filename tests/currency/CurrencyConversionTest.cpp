@@ -45,11 +45,9 @@ TEST(CurrencyConversion, RateLinesShareTheEqualsSign)
     const ConverterCurrency nothing {L"", L" - ", 0.0};
     EXPECT_EQ(FirstRateLine(euro, nothing), L"1 EUR = inf ");
     EXPECT_EQ(SecondRateLine(euro, nothing), L"= inf ");
-}
 
-// The year rule itself is checked with the store's LastUpdateDate.
-TEST(CurrencyConversion, LastUpdateText)
-{
+    // The last update's text; the year rule itself is checked with the store's LastUpdateDate.
+    // The year rule itself is checked with the store's LastUpdateDate.
     // 17 May 2024 at midnight, in 100 ns ticks: 19,860 days after 1 January 1970, which is 134,774 days
     // after 1 January 1601.
     constexpr std::uint64_t May17th2024 = (19860ULL + 134774) * 864000000000ULL;

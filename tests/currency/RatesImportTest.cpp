@@ -56,7 +56,7 @@ TEST(RatesImport, DollarRatesAreTheQuotientOfThePublishedRates)
     }
 }
 
-TEST(RatesImport, StampsAreMidnightOfTheFilesDate)
+TEST(RatesImport, StampsAndAFailedWrite)
 {
     EXPECT_EQ(RatesImport::fileTimeOf(1601y / 1 / 1), 0u);
     // The Unix epoch as a FILETIME.
@@ -72,10 +72,8 @@ TEST(RatesImport, StampsAreMidnightOfTheFilesDate)
         ASSERT_EQ(read->day, static_cast<unsigned>(date.day()));
         ASSERT_EQ(read->hour + read->minute + read->second + read->milliseconds, 0);
     }
-}
 
-TEST(RatesImport, AFailedWriteLeavesTheStoreAsItWas)
-{
+    // A failed write leaves the store as it was.
     auto objects = ObjectStore::openInMemory();
     auto store = storeOf(*objects);
     const auto before = ratesOf(*store);

@@ -105,10 +105,8 @@ TEST(StateFolder, RefusesStateFilesThatAreNotRegularFilesOfTheUsers)
             std::string(problem) == " is a symbolic link")
             << "left as it was";
     }
-}
 
-TEST(StateFolder, NamesTheProgramThatHoldsALockOnAStateFile)
-{
+    // The program that holds a lock on a state file is named.
     TempDir state;
     const fs::path file = state.write("registry.db", "");
     LockHolder holder(file);

@@ -25,10 +25,8 @@ TEST(MappingFile, ReadsWordsUpToTheEndMarker)
         RegistrySettings settings(*hive);
         EXPECT_EQ(ReadMappingText(settings, DevicePaths(dir.path())), mapping);
     }
-}
 
-TEST(MappingFile, FoundThroughTheInstallFolder)
-{
+    // The file is found through the install folder.
     TempDir dir;
     dir.write("Program Files/Wanderkit/mapping.cfg", "x=y >");
     dir.write("mapping.cfg", "root >");

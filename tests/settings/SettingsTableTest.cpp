@@ -43,10 +43,8 @@ TEST(SettingsTable, DefaultsAndWriteBack)
             : std::nullopt;
         EXPECT_EQ(stored, storedAfter);
     }
-}
 
-TEST(SettingsTable, StringRows)
-{
+    // String rows.
     auto hive = SettingsHive::openInMemory();
     RegistrySettings settings(*hive);
     EXPECT_EQ(ReadSetting(settings, Settings::IconFolder), L"\\wiconset\\");

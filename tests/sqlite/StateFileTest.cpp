@@ -111,10 +111,8 @@ TEST(StateFile, UnreadableFilesAreSetAsideAndReplaced)
             EXPECT_EQ(messages.messages.size(), 1u);
         }
     }
-}
 
-TEST(StateFile, NothingWhenNoFileCanBeCreated)
-{
+    // Nothing, and no message, when no file can be created.
     TempDir dir;
     dir.write("plain", "a file where a folder should be");
     RecordingMessageSink messages;

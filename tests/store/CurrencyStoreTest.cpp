@@ -54,10 +54,8 @@ TEST(InitialCurrencyList, ReadsTheCurrencyFile)
         EXPECT_EQ(std::tie(list.count, list.entries), std::tie(count, entries));
         EXPECT_EQ(list.size(), size);
     }
-}
 
-TEST(InitialCurrencyList, MissingFileKeepsThePresetCount)
-{
+    // A missing file keeps the preset count.
     TestDevice device;
     const InitialCurrencyList list = ReadInitialCurrencies(device.paths, device.messages);
     EXPECT_FALSE(list.fromFile);

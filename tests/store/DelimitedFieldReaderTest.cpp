@@ -27,10 +27,8 @@ TEST(DelimitedFieldReader, ReadsFieldsAsTheDataFilesNeedThem)
             fields.push_back(reader.read(delimiter));
         EXPECT_EQ(fields, expected);
     }
-}
 
-TEST(DelimitedFieldReader, KeepsAtMost1499CharactersAField)
-{
+    // At most 1499 characters a field are kept; the rest of a long field is dropped, not taken as the next field.
     DelimitedFieldReader reader(std::string(1600, 'a') + ";next;");
     EXPECT_EQ(reader.read(';'), std::wstring(1499, L'a'));
     EXPECT_EQ(reader.read(';'), L"next") << "the rest of the long field is dropped, not taken as the next field";

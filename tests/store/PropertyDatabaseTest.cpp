@@ -39,7 +39,7 @@ std::vector<std::wstring> column(PropertyDatabase& database, PropertyId id)
 
 } // namespace
 
-TEST(PropertyDatabase, TraversesInTheFirstSortOrder)
+TEST(PropertyDatabase, TraversesInItsSortOrders)
 {
     // Records added as (key, other), and their "other" texts in traversal order.
     const std::tuple<const char*, int, std::vector<std::array<std::wstring, 2>>, std::vector<std::wstring>> cases[] = {
@@ -62,10 +62,8 @@ TEST(PropertyDatabase, TraversesInTheFirstSortOrder)
             EXPECT_TRUE(database.Add(record(key, other), PropertyDatabase::NoKey));
         EXPECT_EQ(column(database, Other), expectedOthers);
     }
-}
 
-TEST(PropertyDatabase, OpensInAnotherSortOrder)
-{
+    // Opening in another sort order.
     auto store = ObjectStore::openInMemory();
     auto database = created(*store, 1);
     database.Add(record(L"a", L"z"), 0);

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-TEST(WideText, NumbersConvertAsTheCLibraryDoes)
+TEST(WideText, NumbersConvertAndFormatAsTheCLibraryDoes)
 {
     const std::pair<std::wstring, std::int32_t> wtol[] = {{L"-330", -330}, {L"  +7", 7}, {L"12abc", 12}, {L"abc", 0},
         {L"", 0}, {L"99999999999", 2147483647}, {L"-99999999999", -2147483647 - 1}, {L"1\r", 1}, {L"0:88", 0}};
@@ -13,10 +13,7 @@ TEST(WideText, NumbersConvertAsTheCLibraryDoes)
         {L"1.0e-9", 1.0e-9}, {L"907,18474", 907.0}, {L"  0.5x", 0.5}, {L"-", 0.0}, {L"", 0.0}, {L"1609.344", 1609.344}};
     for (const auto& [text, value] : wcstod)
         EXPECT_DOUBLE_EQ(Wcstod(text), value) << WideToUtf8(text);
-}
 
-TEST(WideText, FormatsLikePrintf)
-{
     EXPECT_EQ(FormatText(L"%d/%d %ls", 5, 3, L"Done"), L"5/3 Done");
     EXPECT_EQ(FormatText(L"%.8f", 1.0), L"1.00000000");
     const std::wstring longText(5000, L'x');

@@ -81,10 +81,8 @@ TEST(ClockOffsets, HomeSlotKeepsTheBiasUnlessSynchronised)
     EXPECT_EQ(slots[0].offset, -270);
     ComputeCityOffsets(slots, cities, true, 210, {2, 0}, now);
     EXPECT_EQ(slots[0], (ClockSlot {2, 1, C::at(2026, 3, 29, 2, 0, 0), C::at(2026, 10, 25, 3, 0, 0)}));
-}
 
-TEST(ClockOffsets, CityDaylightFollowsTheCitysOwnDate)
-{
+    // A city's daylight saving follows the city's own date.
     const CityZoneTexts london {L"0", L"1:88:1:298:2"};
     const DeviceOffset tokyo {9, 0};
     // Device in Tokyo on the start day; London reaches that day only at 09:00 Tokyo time.

@@ -62,7 +62,7 @@ TEST(WeatherTexts, IconPathsCutTheProgramPathAtItsFirstBackslash)
     }
 }
 
-TEST(WeatherTexts, CityLines)
+TEST(WeatherTexts, CityLinesWeekdaysAndDaySteps)
 {
     using Case = std::tuple<std::optional<ZoneOffset>, std::wstring>;
     const Case cases[] = {
@@ -75,10 +75,7 @@ TEST(WeatherTexts, CityLines)
     };
     for (const auto& [offset, line] : cases)
         EXPECT_EQ(WeatherCityLine(L"Paris", offset), line);
-}
 
-TEST(WeatherTexts, WeekdaysAndDaySteps)
-{
     // Sunday to Saturday; the Monday label reads "Done".
     const std::wstring_view labels[] = {L"Sun", L"Done", L"Tue", L"Wed", L"Thu", L"Fri", L"Sat"};
     for (int day = 0; day < 7; ++day) {
