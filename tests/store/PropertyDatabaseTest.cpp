@@ -21,10 +21,10 @@ std::array<Property, 2> record(std::wstring key, std::wstring other)
     return {{{Key, std::move(key)}, {Other, std::move(other)}}};
 }
 
-PropertyDatabase created(ObjectStore& store, int sortMode, int sortCount = 3)
+PropertyDatabase created(ObjectStore& store, int sortMode)
 {
     PropertyDatabase database(store);
-    database.Create(L"test", 1, sortCount, SortIds, sortMode);
+    database.Create(L"test", 1, 3, SortIds, sortMode);
     EXPECT_TRUE(database.Open(L"test"));
     return database;
 }
@@ -148,7 +148,7 @@ TEST(PropertyDatabase, CursorAndFlags)
     EXPECT_TRUE(empty.AtEnd());
 }
 
-TEST(PropertyDatabase, UpdatesAndDeletesByPosition)
+TEST(PropertyDatabase, UpdatesDeletesAndWhatARecordCanHold)
 {
     auto store = ObjectStore::openInMemory();
     auto database = created(*store, 1);
@@ -169,21 +169,19 @@ TEST(PropertyDatabase, UpdatesAndDeletesByPosition)
     EXPECT_EQ(column(database, Key), (std::vector<std::wstring> {L"d", L"z"}));
     EXPECT_FALSE(database.DeleteAt(2));
     EXPECT_EQ(database.RecordCount(), 2);
-}
 
-TEST(PropertyDatabase, WritesThePropertyCountAndKeepsWhatAStringCanHold)
-{
-    auto store = ObjectStore::openInMemory();
-    auto database = created(*store, 1, 2); // two sort orders: two properties a record
+    // With two sort orders a record has two properties.
+    PropertyDatabase narrow(*store);
+    narrow.Create(L"narrow", 1, 2, SortIds, 1);
     const std::array<Property, 3> three = {{{Key, L"k"}, {Other, std::wstring(L"a\0b", 3)}, {Third, L"t"}}};
-    ASSERT_TRUE(database.Add(three, 0));
-    EXPECT_EQ(database.ReadAt(0, Third), L"") << "only the property count's properties are written";
-    EXPECT_EQ(database.ReadAt(0, Other), L"a") << "a stored string ends at a null character";
+    ASSERT_TRUE(narrow.Open(L"narrow") && narrow.Add(three, 0));
+    EXPECT_EQ(narrow.ReadAt(0, Third), L"") << "only the property count's properties are written";
+    EXPECT_EQ(narrow.ReadAt(0, Other), L"a") << "a stored string ends at a null character";
 
     const std::wstring longText(1200, L'x');
-    database.UpdateAt(0, std::array<Property, 1> {{{Other, longText}}});
-    EXPECT_EQ(database.ReadAt(0, Other), longText.substr(0, 999)) << "reads go through a 1000-character buffer";
-    const auto all = database.ReadRecordAt(0);
+    narrow.UpdateAt(0, std::array<Property, 1> {{{Other, longText}}});
+    EXPECT_EQ(narrow.ReadAt(0, Other), longText.substr(0, 999)) << "reads go through a 1000-character buffer";
+    const auto all = narrow.ReadRecordAt(0);
     ASSERT_EQ(all.size(), 2u);
     EXPECT_EQ(all[1].text.size(), 999u);
 }
