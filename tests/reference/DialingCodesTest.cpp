@@ -30,23 +30,18 @@ std::string Trimmed(std::wstring_view text)
     return WideToUtf8(text.substr(0, text.find_last_not_of(L' ') + 1));
 }
 
-std::vector<std::string> Fields(const std::string& line)
-{
-    std::vector<std::string> fields;
-    std::istringstream in(line);
-    for (std::string field; std::getline(in, field, '\t');)
-        fields.push_back(field);
-    return fields;
-}
-
 // The rows of the snapshot written by tools/dialing: row, country, iso, code, capital, zone, gmt.
 std::vector<std::vector<std::string>> SnapshotRows()
 {
     std::ifstream in(WANDERKIT_DIALING_SNAPSHOT);
     std::vector<std::vector<std::string>> rows;
     for (std::string line; std::getline(in, line);) {
-        if (!line.starts_with('#') && !line.starts_with("row\t"))
-            rows.push_back(Fields(line));
+        if (line.starts_with('#') || line.starts_with("row\t"))
+            continue;
+        std::istringstream fields(line);
+        rows.emplace_back();
+        for (std::string field; std::getline(fields, field, '\t');)
+            rows.back().push_back(field);
     }
     return rows;
 }
