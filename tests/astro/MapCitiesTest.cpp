@@ -10,10 +10,11 @@
 TEST(MapCities, SteppingWrapsAndStoredSelectionsOutsideShowTheFirstCity)
 {
     // Left from the first city selects the last, right from the last the first.
-    const std::tuple<std::int32_t, int, std::int32_t> steps[] = {{0, -1, 1089}, {1089, 1, 0}, {5, -1, 4}, {5, 1, 6}};
+    const std::tuple<std::int32_t, int, std::int32_t> steps[]
+        = {{0, -1, 1089}, {1089, 1, 0}, {5, -1, 4}, {5, 1, 6}, {7, 0, 7}};
     for (const auto& [selected, delta, next] : steps)
         EXPECT_EQ(MapCities::steppedSelection(selected, delta, 1090), next) << selected << ' ' << delta;
-    const std::pair<std::int32_t, std::int32_t> stored[] = {{1089, 1089}, {1090, 0}, {-1, 0}, {INT32_MIN, 0}};
+    const std::pair<std::int32_t, std::int32_t> stored[] = {{0, 0}, {1089, 1089}, {1090, 0}, {-1, 0}, {INT32_MIN, 0}};
     for (const auto& [position, shown] : stored)
         EXPECT_EQ(MapCities::validSelection(position, 1090), shown) << position;
 

@@ -31,6 +31,7 @@ TEST_F(UnitCommands, ConvertFindsUnitsByNameStartOrCode)
         // "Yard" is in three categories; the other unit picks one.
         {{"1", "yard", "m - Meter"}, "0.914400\n"},
         {{"1", "Yard", "Liter"}, "764.554861\n"},
+        {{"1", "yard", "square foot"}, "9.000000\n"},
     };
     for (const auto& [args, expected] : cases)
         EXPECT_TRUE(run("convert", args).printed(expected)) << args[1];

@@ -118,6 +118,7 @@ TEST(EcbRatesReader, RefusesFilesThatAreNotADailyRatesFile)
         {"two days", replaced(good, "</Cube>\n\t</Cube>", "</Cube><Cube time='2024-05-16'></Cube>\n\t</Cube>"),
             "it holds the rates of more than one day"},
         {"impossible date", replaced(good, "2024-05-17", "2024-02-30"), "its date \"2024-02-30\" is not a date"},
+        {"day first", replaced(good, "2024-05-17", "17/05/2024"), "its date \"17/05/2024\" is not a date"},
         {"before the euro", replaced(good, "2024-05-17", "1998-12-31"), "its date \"1998-12-31\" is not a date"},
         {"too many rates", manyRates(1001), "it lists more than 1000 rates"},
         {"larger than 1 MiB", replaced(good, "Reference rates", std::string(1 << 20, 'x')), "it is larger than 1 MiB"},
@@ -151,7 +152,7 @@ TEST(EcbRatesReader, SkipsUnusableEntriesAndSaysWhy)
 {
     std::string file = EcbFile("2024-05-17",
         {{"USD", "1.0859"}, {"JPY", "-169.03"}, {"CHF", "0.000"}, {"SEK", "1e3"}, {"NOK", " 11.6"}, {"HUF", "395."},
-            {"usd", "1"}, {"EURO", "1"}, {"EUR", "1"}, {"USD", "1.2"}, {"CZK", "25.1"}});
+            {"ISK", ""}, {"usd", "1"}, {"EURO", "1"}, {"EUR", "1"}, {"USD", "1.2"}, {"CZK", "25.1"}});
     file = replaced(file, "<Cube currency='CZK' rate='25.1'/>",
         "<Cube currency='CZK'/><Cube currency='U\xC3\xA9"
         "D' rate='1'/>");
@@ -164,6 +165,7 @@ TEST(EcbRatesReader, SkipsUnusableEntriesAndSaysWhy)
         "skipped SEK: its rate \"1e3\" is not a positive decimal number",
         "skipped NOK: its rate \" 11.6\" is not a positive decimal number",
         "skipped HUF: its rate \"395.\" is not a positive decimal number",
+        "skipped ISK: its rate \"\" is not a positive decimal number",
         "skipped the rate of \"usd\": not a three-letter currency code",
         "skipped the rate of \"EURO\": not a three-letter currency code",
         "skipped EUR: the euro is the base the file's rates are given in", "skipped the second rate of USD",

@@ -44,11 +44,13 @@ TEST(CityCatalogue, LoadsTheCitiesFile)
             {L"Paris|France|2.3", L"Rome|Italy|12.5"}},
         {"'>' as country ends the load", "3\n" + rome + "2;End;>;2;2;2;a;b;c;d;e\n" + paris, {L"Rome|Italy|12.5"}},
         {"'>' as second coordinate ends the load", "2\n" + rome + "2;End;X;2;>;2;a;b;c;d;e\n", {L"Rome|Italy|12.5"}},
+        {"'>' as rule field 4 ends the load", "2\n" + rome + "2;End;X;2;2;2;a;b;c;>;e\n", {L"Rome|Italy|12.5"}},
         {"'>' in other fields is text", "1\n1;>;X;>;2;>;>;>;>;d;>\n", {L">|X|>"}},
         {"'>' inside a field is text", "1\n1;Rome;>>;1;1;1;a;b;c;d;e\n", {L"Rome|>>|1"}},
         {"a count larger than the lines adds one empty city", "5\n" + rome, {L"||", L"Rome|Italy|12.5"}},
+        {"a huge count ends at the end of the file", "2147483647\n" + rome, {L"||", L"Rome|Italy|12.5"}},
         {"a count smaller than the lines reads that many", "1\n" + rome + paris, {L"Rome|Italy|12.5"}},
-        {"a negative count", "-4\n" + rome, {}},
+        {"a count of 0", "0\n" + rome, {}}, {"a negative count", "-4\n" + rome, {}},
         {"bytes above 127 are Latin-1", "1\n1;Z\xFCrich;Schweiz;1;1;1;a;b;c;d;e\n", {L"Z\u00FCrich|Schweiz|1"}}};
     for (const auto& [what, afterHeader, cities] : cases) {
         SCOPED_TRACE(what);

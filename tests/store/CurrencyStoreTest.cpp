@@ -37,6 +37,7 @@ TEST(InitialCurrencyList, ReadsTheCurrencyFile)
             {"a line break after '#' starts the next code", "2\nUSD_Dollar_1#\nEUR_Euro_2#\n", 2,
                 {{L"USD", L"Dollar", L"1"}, {L"\nEUR", L"Euro", L"2"}}, 2},
             {"a count of 0 gives an empty list", "0\nUSD_Dollar_1#", 0, {}, 0},
+            {"a negative count gives an empty list", "-3\nUSD_Dollar_1#", -3, {}, 0}, {"no count line", "", 0, {}, 0},
             {"a record cut short keeps what was read; the rest are empty", "3\nUSD_Dollar_1#EUR_Eu", 3,
                 {{L"USD", L"Dollar", L"1"}, {L"EUR", L"Eu", L""}}, 3},
             {"a huge count costs nothing", "2147483647\nUSD_Dollar_1#", 2147483647, {{L"USD", L"Dollar", L"1"}},
@@ -136,7 +137,8 @@ TEST(CurrencyStore, UpdatesAndDeletes)
 TEST(CurrencyStore, LastUpdateDate)
 {
     const std::tuple<const char*, std::uint64_t, int, std::optional<SystemTime>> cases[]
-        = {{"zero is never", 0, 2026, std::nullopt},
+        = {{"zero is never", 0, 2026, std::nullopt}, {"1 January 1601", 1, 2026, std::nullopt},
+            {"beyond FILETIME's range", 0x8000000000000000ULL, 30000, std::nullopt},
             {"2024-02-29 13:45:30.250, a Thursday", 133536879302500000ULL, 2026,
                 SystemTime {2024, 2, 4, 29, 13, 45, 30, 250}},
             {"1900-01-01, a Monday", 94354848000000000ULL, 2026, SystemTime {1900, 1, 1, 1, 0, 0, 0, 0}},

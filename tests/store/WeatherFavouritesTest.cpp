@@ -44,7 +44,7 @@ TEST(WeatherFavourites, LoadsTheFavouritesFile)
         {"a count larger than the lines gives one empty record for all the missing lines", "3\nX;A;1\n",
             {L"|||01/01/2000|", L"A|1||01/01/2000|X"}},
         {"a count alone gives one empty record", "65535\n", {L"|||01/01/2000|"}},
-        {"a count of 0 writes nothing", "0\nX;A;1\n", {}},
+        {"a count of 0 writes nothing", "0\nX;A;1\n", {}}, {"a negative count writes nothing", "-1\nX;A;1\n", {}},
         {"the code keeps further semicolons", "1\nX;A;1;2\n", {L"A|1;2||01/01/2000|X"}},
         {"bytes above 127 are Latin-1", "1\nDeutschland;K\xF6ln;GMXX0018\n",
             {L"K\u00F6ln|GMXX0018||01/01/2000|Deutschland"}}};
@@ -129,8 +129,11 @@ TEST(WeatherFavourites, OpensInEachSortOrder)
     favourites.updateFavourite(L"Miami", L"1", L"c", L"03/01/2000:A", 1);
 
     const std::pair<int, std::vector<std::wstring>> cases[] = {
-        {0, {L"Athens", L"Miami", L"Zurich"}}, {1, {L"Miami", L"Zurich", L"Athens"}},
+        {-1, {L"Athens", L"Miami", L"Zurich"}},
+        {0, {L"Athens", L"Miami", L"Zurich"}},
+        {1, {L"Miami", L"Zurich", L"Athens"}},
         {2, {L"Zurich", L"Athens", L"Miami"}}, // the empty forecasts in order of addition, then "c"
+        {3, {L"Zurich", L"Athens", L"Miami"}},
     };
     for (const auto& [sortIndex, expected] : cases) {
         SCOPED_TRACE(sortIndex);

@@ -96,6 +96,7 @@ TEST(UnitConversion, ReadsTheAmountAsTheFieldHoldsIt)
         {L"abc", L"0.000000"},
         {L"12abc", L"12.000000"},
         {L"1e3", L"1000.000000"},
+        {L".5", L"0.500000"},
         // Only the first 49 characters are read.
         {std::wstring(48, L'0') + L"5", L"5.000000"},
         {std::wstring(49, L'0') + L"5", L"0.000000"},
