@@ -4,9 +4,6 @@
 #include "CityFixture.h"
 #include "CommandFixture.h"
 #include "EcbFile.h"
-#include "settings/RegistrySettings.h"
-#include "settings/SettingsHive.h"
-#include "support/RecordingMessageSink.h"
 
 #include <gtest/gtest.h>
 
@@ -28,13 +25,6 @@ protected:
         device.write(
             "currs.lst", "4\nUSD_US Dollar_1#EUR_Euro_1.25#JPY_Japanese Yen_0.0078125#GBP_British Pound_1.5625#");
     }
-
-    std::unique_ptr<SettingsHive> registry(const std::filesystem::path& folder)
-    {
-        return SettingsHive::open(folder / "registry.db", messages);
-    }
-
-    RecordingMessageSink messages;
 };
 
 } // namespace
@@ -46,13 +36,9 @@ TEST_F(CurrencyCommands, CurrencyShowsWhatTheConverterFieldsShow)
     EXPECT_TRUE(run("currency", {"", "EUR", "USD", "british POUND"}).printed("USD\t\nGBP\t\n"));
 
     // Without targets, the converter's three currencies: the positions of US Dollar, Euro, British Pound.
-    {
-        const auto hive = registry(state.path());
-        RegistrySettings settings(*hive);
-        settings.SetDWORD(L"Wanderkit\\currencies", L"curp", 3);
-        settings.SetDWORD(L"Wanderkit\\currencies", L"curp2", 1);
-        settings.SetDWORD(L"Wanderkit\\currencies", L"curp3", 0);
-    }
+    const std::pair<const char*, const char*> positions[] = {{"curp", "3"}, {"curp2", "1"}, {"curp3", "0"}};
+    for (const auto& [name, position] : positions)
+        ASSERT_EQ(run("settings", {"set", "Wanderkit\\currencies", name, position}).code, 0);
     EXPECT_TRUE(run("currency", {"10", "JPY"}).printed("USD\t0.07812500\nEUR\t0.06250000\nGBP\t0.05000000\n"));
 
     // With nothing saved, the shipped list's euro, dollar and pound, written back as the screen writes them.
@@ -63,7 +49,7 @@ TEST_F(CurrencyCommands, CurrencyShowsWhatTheConverterFieldsShow)
     ASSERT_EQ(std::ranges::count(r.out, '\n'), 3) << r.out;
     EXPECT_TRUE(r.out.starts_with("EUR\t"));
     EXPECT_NE(r.out.find("\nUSD\t1.00000000\nGBP\t"), std::string::npos) << r.out;
-    EXPECT_EQ(RegistrySettings(*registry(fresh.path())).GetDWORD(L"Wanderkit\\currencies", L"curp2"), 180u);
+    EXPECT_TRUE(CommandResult::of("settings", {"get", "Wanderkit\\currencies", "curp2"}, shipped).printed("180\n"));
 }
 
 TEST_F(CurrencyCommands, UsageErrors)

@@ -1,8 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CommandFixture.h"
-#include "RecordingMessageSink.h"
-#include "settings/RegistrySettings.h"
-#include "settings/SettingsTable.h"
 #include "weather/OpenMeteoFixture.h"
 
 #include <gtest/gtest.h>
@@ -141,22 +138,16 @@ TEST_F(WeatherCommands, UsageAndMissingFavourites)
 
 TEST_F(WeatherCommands, TheScreensFavouriteByDefault)
 {
-    const auto setWetp = [this](std::uint32_t position) {
-        RecordingMessageSink messages;
-        auto hive = SettingsHive::open(state.path() / "registry.db", messages);
-        RegistrySettings settings(*hive);
-        WriteSetting(settings, Settings::WeatherPosition, position);
-    };
     // No "wetp": position 0, London, which has no forecast yet: five empty days.
     std::string empty;
     for (const char* day : {"1\tTue", "2\tWed", "3\tThu", "4\tFri", "5\tSat"})
         empty += day + std::string(10, '\t') + "\n";
     EXPECT_TRUE(run("weather", {}).printed(empty));
-    setWetp(1);
+    ASSERT_EQ(run("settings", {"set", "Wanderkit\\weather", "wetp", "1"}).code, 0);
     ASSERT_EQ(import(OpenMeteoFixture::response(5).dump()).code, 0);
     EXPECT_EQ(weather({})[0], TuesdayLine);
     // A position past the favourites names no city, so there is no forecast to show.
-    setWetp(99);
+    ASSERT_EQ(run("settings", {"set", "Wanderkit\\weather", "wetp", "99"}).code, 0);
     const CommandResult outOfRange = run("weather", {});
     EXPECT_EQ(outOfRange.code, 1);
     EXPECT_EQ(outOfRange.err, "wanderkit weather: Sorry, Weather Forecast is not available for this City.\n");
