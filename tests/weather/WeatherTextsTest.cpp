@@ -7,30 +7,25 @@
 
 TEST(WeatherTexts, TemperaturesInFahrenheit)
 {
-    // The converter, the Celsius text and its Fahrenheit text.
+    // The converter, the Celsius text and its Fahrenheit text. 21 °C = 69.8 °F, 13 °C = 55.4 °F, -5 °C = 23 °F,
+    // -40 is the same on both scales, 37 °C = 98.6 °F and -18 °C = -0.4 °F, printed "-0"; "-" and "N/A" stay
+    // in either part, empty parts read as 0 °C and text after the number is ignored, as _wtol ignores it.
+    // Felt temperatures come in pairs: 19 and 11 °C are 66.2 and 51.8 °F.
     using Convert = std::wstring (*)(std::wstring_view);
-    const std::tuple<Convert, std::wstring, std::wstring> cases[] = {
-        // 21 °C = 69.8 °F, 13 °C = 55.4 °F; -40 is the same on both scales; -5 °C = 23 °F.
-        {FahrenheitText, L"21\u00B0 : 13\u00B0", L"70\u00B0 : 55\u00B0"},
-        {FahrenheitText, L"-5\u00B0 : -40\u00B0", L"23\u00B0 : -40\u00B0"},
-        // -18 °C = -0.4 °F prints as "-0"; 37 °C = 98.6 °F.
-        {FahrenheitText, L"37\u00B0 : -18\u00B0", L"99\u00B0 : -0\u00B0"},
-        {FahrenheitText, L"-\u00B0 : 13\u00B0", L"-\u00B0 : 55\u00B0"},
-        {FahrenheitText, L"21\u00B0 : -\u00B0", L"70\u00B0 : -\u00B0"},
-        {FahrenheitText, L"N/A\u00B0 : 13\u00B0", L"N/A\u00B0 : 55\u00B0"},
-        {FahrenheitText, L"21\u00B0 : N/A\u00B0", L"70\u00B0 : N/A\u00B0"},
-        {FahrenheitText, L"\u00B0 : \u00B0", L"32\u00B0 : 32\u00B0"}, // empty parts read as 0 °C
-        {FahrenheitText, L"21C\u00B0 : 13 x\u00B0", L"70\u00B0 : 55\u00B0"}, // text after the number, as _wtol
-        // Felt temperatures: 19 and 11 °C are 66.2 and 51.8 °F.
-        {FahrenheitPairText, L"19/11", L"66/52"},
-        {FahrenheitPairText, L"-5/-40", L"23/-40"},
-        {FahrenheitPairText, L"-/11", L"-/52"},
-        {FahrenheitPairText, L"19/-", L"66/-"},
-        {FahrenheitPairText, L"19/N/A", L"66/N/A"},
-        {FahrenheitPairText, L"N/A/11", L"N/A/52"},
-        {FahrenheitPairText, L"N/A/N/A", L"N/A/N/A"},
-        {FahrenheitPairText, L"", L"32/32"},
-    };
+    const std::tuple<Convert, std::wstring, std::wstring> cases[]
+        = {{FahrenheitText, L"21\u00B0 : 13\u00B0", L"70\u00B0 : 55\u00B0"},
+            {FahrenheitText, L"-5\u00B0 : -40\u00B0", L"23\u00B0 : -40\u00B0"},
+            {FahrenheitText, L"37\u00B0 : -18\u00B0", L"99\u00B0 : -0\u00B0"},
+            {FahrenheitText, L"-\u00B0 : 13\u00B0", L"-\u00B0 : 55\u00B0"},
+            {FahrenheitText, L"21\u00B0 : -\u00B0", L"70\u00B0 : -\u00B0"},
+            {FahrenheitText, L"N/A\u00B0 : 13\u00B0", L"N/A\u00B0 : 55\u00B0"},
+            {FahrenheitText, L"21\u00B0 : N/A\u00B0", L"70\u00B0 : N/A\u00B0"},
+            {FahrenheitText, L"\u00B0 : \u00B0", L"32\u00B0 : 32\u00B0"},
+            {FahrenheitText, L"21C\u00B0 : 13 x\u00B0", L"70\u00B0 : 55\u00B0"},
+            {FahrenheitPairText, L"19/11", L"66/52"}, {FahrenheitPairText, L"-5/-40", L"23/-40"},
+            {FahrenheitPairText, L"-/11", L"-/52"}, {FahrenheitPairText, L"19/-", L"66/-"},
+            {FahrenheitPairText, L"19/N/A", L"66/N/A"}, {FahrenheitPairText, L"N/A/11", L"N/A/52"},
+            {FahrenheitPairText, L"N/A/N/A", L"N/A/N/A"}, {FahrenheitPairText, L"", L"32/32"}};
     for (const auto& [convert, celsius, fahrenheit] : cases)
         EXPECT_EQ(convert(celsius), fahrenheit) << testing::PrintToString(celsius);
 }
