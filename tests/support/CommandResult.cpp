@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CommandResult.h"
 
+#include <gtest/gtest.h>
+
 #include <sstream>
 
 CommandResult CommandResult::of(

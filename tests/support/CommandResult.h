@@ -3,10 +3,12 @@
 
 #include "cli/CommandRunner.h"
 
-#include <gtest/gtest.h>
-
 #include <string>
 #include <vector>
+
+namespace testing {
+class AssertionResult;
+}
 
 // What a text command printed and returned.
 struct CommandResult
@@ -20,7 +22,7 @@ struct CommandResult
         const std::string& command, const std::vector<std::string>& args, const DeviceOptions& device = {});
 
     // Done: exit code 0, exactly `expected` printed and nothing on the error stream.
-    testing::AssertionResult printed(const std::string& expected) const;
+    [[nodiscard]] testing::AssertionResult printed(const std::string& expected) const;
     // Exit code `expected`, nothing printed, and `message` within the error text.
-    testing::AssertionResult refused(int expected, const std::string& message) const;
+    [[nodiscard]] testing::AssertionResult refused(int expected, const std::string& message) const;
 };
