@@ -2,6 +2,7 @@
 #include "cli/CommandWords.h"
 
 #include <cctype>
+#include <ostream>
 
 namespace {
 
@@ -22,6 +23,16 @@ CommandWords CommandWords::split(const std::vector<std::string>& args)
     for (const std::string& arg : args)
         (isOption(arg) ? split.options : split.words).push_back(arg);
     return split;
+}
+
+std::optional<CommandWords> CommandWords::withoutOptions(
+    const std::vector<std::string>& args, std::string_view command, std::string_view usage, std::ostream& err)
+{
+    CommandWords words = split(args);
+    if (words.options.empty())
+        return words;
+    err << "wanderkit " << command << ": unknown option " << words.options.front() << '\n' << usage;
+    return std::nullopt;
 }
 
 std::string CommandWords::joined(std::size_t first) const

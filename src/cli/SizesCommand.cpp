@@ -64,11 +64,10 @@ void PrintWearer(std::ostream& out, int wearer, std::optional<int> garment, bool
 
 int RunSizesCommand(const CommandRequest& request, std::ostream& out, std::ostream& err)
 {
-    const CommandWords args = CommandWords::split(request.args);
-    if (!args.options.empty()) {
-        err << "wanderkit sizes: unknown option " << args.options.front() << '\n' << Usage;
+    const auto words = CommandWords::withoutOptions(request.args, "sizes", Usage, err);
+    if (!words)
         return 2;
-    }
+    const CommandWords& args = *words;
     std::optional<int> wearer;
     std::optional<int> garment;
     if (!args.words.empty()) {

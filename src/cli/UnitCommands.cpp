@@ -125,11 +125,10 @@ void printCategory(std::ostream& out, const UnitLists& lists, int category)
 
 int RunConvertCommand(const CommandRequest& request, std::ostream& out, std::ostream& err)
 {
-    const CommandWords args = CommandWords::split(request.args);
-    if (!args.options.empty()) {
-        err << "wanderkit convert: unknown option " << args.options.front() << '\n' << ConvertUsage;
+    const auto words = CommandWords::withoutOptions(request.args, "convert", ConvertUsage, err);
+    if (!words)
         return 2;
-    }
+    const CommandWords& args = *words;
     if (args.words.size() != 3) {
         err << ConvertUsage;
         return 2;
@@ -153,11 +152,10 @@ int RunConvertCommand(const CommandRequest& request, std::ostream& out, std::ost
 
 int RunUnitsCommand(const CommandRequest& request, std::ostream& out, std::ostream& err)
 {
-    const CommandWords args = CommandWords::split(request.args);
-    if (!args.options.empty()) {
-        err << "wanderkit units: unknown option " << args.options.front() << '\n' << UnitsUsage;
+    const auto words = CommandWords::withoutOptions(request.args, "units", UnitsUsage, err);
+    if (!words)
         return 2;
-    }
+    const CommandWords& args = *words;
     std::optional<int> only;
     if (!args.words.empty()) {
         only = findCategory(args.joined());
