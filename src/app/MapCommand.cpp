@@ -133,44 +133,41 @@ MapRenderer::MarkerSet markerSet(CommandSession& session, QSize size)
 
 int RunMapCommand(const CommandRequest& command, std::ostream& out, std::ostream& err)
 {
-    const auto start = StartCommand(command, err, parseMapRequest);
-    if (!start)
-        return start.failure;
-    const MapRequest& request = *start.request;
-    CommandSession& session = *start.session;
-    const QImage day = dayPicture(session.paths(), request);
-    if (day.isNull()) {
-        err << "wanderkit: map: no readable day picture (day.jpg) in " << session.paths().root().string() << '\n';
-        return CommandExit::Unusable;
-    }
-    const SystemTime now = session.clock().localTime();
-    const DeviceOffset device
-        = HomeCity::deviceOffset(session.cities(), HomeCity::position(session.settings()), session.clock());
-    const QSize size(request.width, request.height);
-    const TerminatorColumns night
-        = ComputeTerminatorColumns(computeSunForTerminator(now, device), size.width(), size.height(), now.month);
-    // Labels need fonts, and fonts a GUI application: one without a display, made only for --markers.
-    std::optional<QGuiApplication> application;
-    std::optional<MapRenderer::MarkerSet> markers;
-    if (request.markers) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-        static int argc = 1;
-        static char name[] = "wanderkit";
-        static char* argv[] = {name, nullptr};
-        application.emplace(argc, argv);
-        markers = markerSet(session, size);
-    }
-    const QImage map
-        = MapRenderer::render(day, size, MapRenderer::Stretch::Smooth, night, markers ? &*markers : nullptr);
-    if (map.isNull()) {
-        err << "wanderkit: map: not enough memory for a " << size.width() << 'x' << size.height() << " map\n";
-        return CommandExit::Unusable;
-    }
-    QString error;
-    if (!PngFile::write(map, QString::fromStdString(request.file), error)) {
-        err << "wanderkit: map: cannot write " << request.file << ": " << error.toStdString() << '\n';
-        return CommandExit::Unusable;
-    }
-    out << request.file << '\t' << size.width() << 'x' << size.height() << '\n';
-    return 0;
+    return RunOnDevice(command, err, parseMapRequest, [&](const MapRequest& request, CommandSession& session) {
+        const QImage day = dayPicture(session.paths(), request);
+        if (day.isNull()) {
+            err << "wanderkit: map: no readable day picture (day.jpg) in " << session.paths().root().string() << '\n';
+            return CommandExit::Unusable;
+        }
+        const SystemTime now = session.clock().localTime();
+        const DeviceOffset device
+            = HomeCity::deviceOffset(session.cities(), HomeCity::position(session.settings()), session.clock());
+        const QSize size(request.width, request.height);
+        const TerminatorColumns night
+            = ComputeTerminatorColumns(computeSunForTerminator(now, device), size.width(), size.height(), now.month);
+        // Labels need fonts, and fonts a GUI application: one without a display, made only for --markers.
+        std::optional<QGuiApplication> application;
+        std::optional<MapRenderer::MarkerSet> markers;
+        if (request.markers) {
+            qputenv("QT_QPA_PLATFORM", "offscreen");
+            static int argc = 1;
+            static char name[] = "wanderkit";
+            static char* argv[] = {name, nullptr};
+            application.emplace(argc, argv);
+            markers = markerSet(session, size);
+        }
+        const QImage map
+            = MapRenderer::render(day, size, MapRenderer::Stretch::Smooth, night, markers ? &*markers : nullptr);
+        if (map.isNull()) {
+            err << "wanderkit: map: not enough memory for a " << size.width() << 'x' << size.height() << " map\n";
+            return CommandExit::Unusable;
+        }
+        QString error;
+        if (!PngFile::write(map, QString::fromStdString(request.file), error)) {
+            err << "wanderkit: map: cannot write " << request.file << ": " << error.toStdString() << '\n';
+            return CommandExit::Unusable;
+        }
+        out << request.file << '\t' << size.width() << 'x' << size.height() << '\n';
+        return 0;
+    });
 }

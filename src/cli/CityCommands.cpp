@@ -96,38 +96,35 @@ int RunCitiesCommand(const CommandRequest& request, std::ostream& out, std::ostr
 
 int RunTimeCommand(const CommandRequest& request, std::ostream& out, std::ostream& err)
 {
-    const auto start = StartCommand(request, err, parseTimeRequest);
-    if (!start)
-        return start.failure;
-    const TimeRequest& wanted = *start.request;
-    CommandSession& session = *start.session;
-    std::uint32_t home = HomeCity::position(session.settings());
-    if (wanted.home) {
-        const auto found = findCity(session, *wanted.home, err);
-        if (!found)
-            return UsageError;
-        home = *found;
-    }
-    std::vector<std::uint32_t> positions;
-    for (const std::string& word : wanted.cities) {
-        const auto found = findCity(session, word, err);
-        if (!found)
-            return UsageError;
-        positions.push_back(*found);
-    }
-    CityCatalogue& cities = session.cities();
-    const SystemTime now = session.clock().localTime();
-    const DeviceOffset device = HomeCity::deviceOffset(cities, home, session.clock());
-    for (const std::uint32_t position : positions) {
-        const CityRecord city = cities.Record(position);
-        const ClockSlot slot = ComputeCitySlot({city.timeZone, city.daylightRule}, device, now);
-        const ClockSlotText text = FormatCitySlot(slot, device, now);
-        const std::wstring time = wanted.twelveHour ? ToTwelveHour(text.time).withSuffix() : text.time;
-        out << position << '\t' << WideToUtf8(city.name) << '\t' << WideToUtf8(time) << '\t' << WideToUtf8(text.date)
-            << '\t' << slot.offset << '\t' << slot.observes << '\t' << dayMonthYear(slot, slot.start) << '\t'
-            << dayMonthYear(slot, slot.end) << '\n';
-    }
-    return 0;
+    return RunOnDevice(request, err, parseTimeRequest, [&](const TimeRequest& wanted, CommandSession& session) {
+        std::uint32_t home = HomeCity::position(session.settings());
+        if (wanted.home) {
+            const auto found = findCity(session, *wanted.home, err);
+            if (!found)
+                return UsageError;
+            home = *found;
+        }
+        std::vector<std::uint32_t> positions;
+        for (const std::string& word : wanted.cities) {
+            const auto found = findCity(session, word, err);
+            if (!found)
+                return UsageError;
+            positions.push_back(*found);
+        }
+        CityCatalogue& cities = session.cities();
+        const SystemTime now = session.clock().localTime();
+        const DeviceOffset device = HomeCity::deviceOffset(cities, home, session.clock());
+        for (const std::uint32_t position : positions) {
+            const CityRecord city = cities.Record(position);
+            const ClockSlot slot = ComputeCitySlot({city.timeZone, city.daylightRule}, device, now);
+            const ClockSlotText text = FormatCitySlot(slot, device, now);
+            const std::wstring time = wanted.twelveHour ? ToTwelveHour(text.time).withSuffix() : text.time;
+            out << position << '\t' << WideToUtf8(city.name) << '\t' << WideToUtf8(time) << '\t'
+                << WideToUtf8(text.date) << '\t' << slot.offset << '\t' << slot.observes << '\t'
+                << dayMonthYear(slot, slot.start) << '\t' << dayMonthYear(slot, slot.end) << '\n';
+        }
+        return 0;
+    });
 }
 
 int RunCityCommand(const CommandRequest& request, std::ostream& out, std::ostream& err)

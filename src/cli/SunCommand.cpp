@@ -70,21 +70,20 @@ SystemTime onDate(SystemTime now, const std::optional<SystemTime>& date)
 
 int RunSunCommand(const CommandRequest& command, std::ostream& out, std::ostream& err)
 {
-    const auto start = StartCommand(command, err, parseSunRequest);
-    if (!start)
-        return start.failure;
-    CommandSession& session = *start.session;
-    std::string error;
-    const auto position = CityLookup(session.cities()).find(start.request->city, error);
-    if (!position) {
-        err << "wanderkit: " << error << '\n';
-        return UsageError;
-    }
-    CityCatalogue& cities = session.cities();
-    const DeviceOffset device = HomeCity::deviceOffset(cities, HomeCity::position(session.settings()), session.clock());
-    const CitySunTimes sun = ComputeCitySunTimes(
-        cities.Record(*position), device, onDate(session.clock().localTime(), start.request->date));
-    out << WideToUtf8(sun.times.sunriseText) << '\t' << WideToUtf8(sun.times.sunsetText) << '\t'
-        << WideToUtf8(sun.times.dayLengthText) << '\t' << sun.utcHours << '\n';
-    return 0;
+    return RunOnDevice(command, err, parseSunRequest, [&](const SunRequest& request, CommandSession& session) {
+        std::string error;
+        const auto position = CityLookup(session.cities()).find(request.city, error);
+        if (!position) {
+            err << "wanderkit: " << error << '\n';
+            return UsageError;
+        }
+        CityCatalogue& cities = session.cities();
+        const DeviceOffset device
+            = HomeCity::deviceOffset(cities, HomeCity::position(session.settings()), session.clock());
+        const CitySunTimes sun
+            = ComputeCitySunTimes(cities.Record(*position), device, onDate(session.clock().localTime(), request.date));
+        out << WideToUtf8(sun.times.sunriseText) << '\t' << WideToUtf8(sun.times.sunsetText) << '\t'
+            << WideToUtf8(sun.times.dayLengthText) << '\t' << sun.utcHours << '\n';
+        return 0;
+    });
 }
