@@ -4,7 +4,7 @@
 #include "app/PngFile.h"
 #include "astro/MapCities.h"
 #include "astro/TerminatorColumns.h"
-#include "cli/CommandStart.h"
+#include "cli/RunOnDevice.h"
 #include "device/DeviceClock.h"
 #include "screens/map/MapRenderer.h"
 #include "session/HomeCity.h"

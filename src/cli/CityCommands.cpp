@@ -2,7 +2,7 @@
 #include "cli/CityCommands.h"
 
 #include "cli/CityLookup.h"
-#include "cli/CommandStart.h"
+#include "cli/RunOnDevice.h"
 #include "device/DeviceClock.h"
 #include "session/HomeCity.h"
 #include "text/WideText.h"

@@ -3,7 +3,7 @@
 
 #include "astro/CitySunTimes.h"
 #include "cli/CityLookup.h"
-#include "cli/CommandStart.h"
+#include "cli/RunOnDevice.h"
 #include "device/SystemDeviceClock.h"
 #include "session/HomeCity.h"
 #include "text/WideText.h"
