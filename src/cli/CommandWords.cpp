@@ -25,14 +25,11 @@ CommandWords CommandWords::split(const std::vector<std::string>& args)
     return split;
 }
 
-std::optional<CommandWords> CommandWords::withoutOptions(
-    const std::vector<std::string>& args, std::string_view command, std::string_view usage, std::ostream& err)
+int CommandWords::refuseOption(
+    const std::string& option, std::string_view command, std::string_view usage, std::ostream& err)
 {
-    CommandWords words = split(args);
-    if (words.options.empty())
-        return words;
-    err << "wanderkit " << command << ": unknown option " << words.options.front() << '\n' << usage;
-    return std::nullopt;
+    err << "wanderkit " << command << ": unknown option " << option << '\n' << usage;
+    return 2;
 }
 
 std::string CommandWords::joined(std::size_t first) const

@@ -3,7 +3,6 @@
 
 #include <cstddef>
 #include <iosfwd>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,10 +15,20 @@ struct CommandWords
     std::vector<std::string> words;
 
     static CommandWords split(const std::vector<std::string>& args);
-    // The words of `command`, which takes no options; nothing, with "unknown option" and `usage` printed
-    // on `err`, when an option is given.
-    [[nodiscard]] static std::optional<CommandWords> withoutOptions(
-        const std::vector<std::string>& args, std::string_view command, std::string_view usage, std::ostream& err);
+    // Runs `body(words)` for `command`, which takes no options, and gives its exit code; an option is
+    // refused with "unknown option" and `usage` printed on `err` (exit code 2).
+    template<typename Body>
+    [[nodiscard]] static int withoutOptions(const std::vector<std::string>& args, std::string_view command,
+        std::string_view usage, std::ostream& err, Body body)
+    {
+        const CommandWords words = split(args);
+        if (!words.options.empty())
+            return refuseOption(words.options.front(), command, usage, err);
+        return body(words);
+    }
+    // Prints that `option` is unknown to `command`, then `usage`; gives the usage-error exit code.
+    static int refuseOption(
+        const std::string& option, std::string_view command, std::string_view usage, std::ostream& err);
     // The words from `first` on, joined by single blanks ("shirts and sweaters").
     std::string joined(std::size_t first = 0) const;
 };
