@@ -4,7 +4,6 @@
 #include "astro/CitySunTimes.h"
 #include "screens/map/MapLayout.h"
 #include "screens/map/MapRenderer.h"
-#include "settings/RegistrySettings.h"
 #include "time/ClockOffsets.h"
 #include "ui/Screen.h"
 
@@ -53,17 +52,18 @@ protected:
     void paint(QPainter& painter) override;
     void timerTick(int id) override;
     void destroyWork() override;
-    void command(int id) override;
-    void spinnerDelta(Spinner& spinner, int delta) override;
 
 private:
     void loadPictures();
     void computeDeviceOffset();
     void computeCity();
     void formatTimes();
+    // Left/Right: the next or previous city of the catalogue, wrapping at both ends.
+    void stepCity(int delta);
     void selectCity(std::int32_t city);
     void toggleMarkers();
     void changeCity();
+    void showWeather();
     void drawMap();
     MapRenderer::MarkerSet markers();
     void paintClock(QPainter& painter) const;
@@ -72,7 +72,6 @@ private:
     CityCatalogue& m_cities;
     WeatherOpener* m_weatherOpener = nullptr;
     WeatherFavourites& m_favourites;
-    RegistrySettings m_settings;
     Spinner* m_spinner;
     std::int32_t m_selected = 0;
     bool m_showCities = true;

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "screens/worldclock/ClockCell.h"
-#include "settings/RegistrySettings.h"
 #include "time/ClockOffsets.h"
 #include "time/ClockSlotText.h"
 #include "ui/Screen.h"
@@ -51,9 +50,6 @@ protected:
     void layout(int width, int height) override;
     void paint(QPainter& painter) override;
     void timerTick(int id) override;
-    void destroyWork() override;
-    void command(int id) override;
-    void spinnerDelta(Spinner& spinner, int delta) override;
     void tap(QPoint at) override;
 
 private:
@@ -62,9 +58,13 @@ private:
     void formatTexts();
     void makeHomeFavourite();
     bool addFavourite(std::uint32_t city);
+    // The action key on the focused entry: a clock face changes its city, a weather icon shows its weather.
+    void openFocusedEntry();
     void changeCity(int slot);
     void showWeather(int slot);
     void toggleTwelveHour();
+    // A step of the focus: the title arrow on its side lights up.
+    void showFocusStep(int delta);
     ClockView view(int slot) const;
     void paintTitle(QPainter& painter) const;
     void paintFocus(QPainter& painter) const;
@@ -74,7 +74,6 @@ private:
     CityCatalogue& m_cities;
     WeatherFavourites& m_favourites;
     WeatherOpener* m_weatherOpener = nullptr;
-    RegistrySettings m_settings;
     std::array<std::uint32_t, SlotCount> m_cityOf {};
     std::array<QString, SlotCount> m_names;
     std::array<ZoneOffset, SlotCount> m_standardOffsets {};
