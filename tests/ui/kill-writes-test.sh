@@ -19,8 +19,9 @@ now="2026-06-15 09:00:00"
 wk() { # state folder, command...
     "$program" --state-dir "$1" --device-root "$device_root" --now "$now" "${@:2}"
 }
-# The bytes in a state's write-ahead logs: pages written by a process that has not closed the files. The
-# last connection to close folds them into the database, so a state at rest has none.
+# The bytes in a state's write-ahead logs: a write's log header and pages, from a process that has not
+# closed the files (readers only open the logs). The last connection to close folds the logs into the
+# database, so a state at rest has none.
 wal_bytes() { cat "$1"/*-wal 2>/dev/null | wc -c; }
 ms_now() { echo $(($(date +%s%N) / 1000000)); }
 
@@ -109,10 +110,10 @@ kill_path() { # name, extra readers ("" for none), command...
         [ "$status" -eq 137 ] && running=$((running + 1))
     done
     echo "$mixed" >>"$dir/failures"
-    # A load commits store by store, and each reads complete afterwards: a kill after pages were logged
+    # A load commits store by store, and each reads complete afterwards: a kill after its log was begun
     # landed inside it. Any other write shows once committed.
-    local inside_text="inside the write (pages logged, no commit)"
-    [ -n "$loads" ] && inside_text="inside the load (pages logged)"
+    local inside_text="inside the write (its log begun, no commit)"
+    [ -n "$loads" ] && inside_text="inside the load (its log begun)"
     {
         printf '%s: %d kills (window %d ms), %d while it ran, %d of them %s' \
             "$name" "$kills" "$window" "$running" "$inside" "$inside_text"
