@@ -17,7 +17,7 @@ TEST(SystemDeviceClock, ParsesValidLocalTimesAndStartsAtThem)
     // It starts at the given time and knows the standard bias.
     // Summer dates: the bias stays the standard one whatever the season.
     const std::tuple<const char*, std::int32_t> zones[]
-        = {{"UTC", 0}, {"Europe/Paris", -60}, {"America/New_York", 300}, {"Asia/Kolkata", -330}};
+        = {{"Europe/Paris", -60}, {"America/New_York", 300}, {"Asia/Kolkata", -330}};
     const char* old = std::getenv("TZ");
     const std::string saved = old ? old : "";
     for (const auto& [tz, bias] : zones) {
