@@ -55,16 +55,15 @@ TEST_F(CityCommands, UnknownAndAmbiguousCitiesAreUsageErrors)
         {"city", {"C068"}, "nearest names are: C0680"}, {"time", {"4000"}, ""}, {"time", {"684", "--frobnicate"}, ""}};
     for (const auto& [command, args, message] : cases)
         EXPECT_TRUE(run(command, args).refused(2, message));
+}
 
-    // Two cities of the same name in two countries.
+TEST_F(CityCommands, TwoCitiesOfOneNameInTwoCountriesAreAmbiguous)
+{
     device.write("cities.lst", "h\n2\nx;Twin;Alpha;0;0;0;0;0;0;0;0\nx;Twin;Beta;0;0;0;0;0;0;0;0\n");
-    TempDir fresh;
-    DeviceOptions twins = options();
-    twins.stateDir = fresh.path();
-    const CommandResult ambiguous = CommandResult::of("city", {"twin"}, twins);
+    const CommandResult ambiguous = run("city", {"twin"});
     EXPECT_TRUE(ambiguous.refused(2, "0 Twin:Alpha"));
     EXPECT_NE(ambiguous.err.find("1 Twin:Beta"), std::string::npos);
-    EXPECT_EQ(CommandResult::of("city", {"Twin:Beta"}, twins).code, 0);
+    EXPECT_EQ(run("city", {"Twin:Beta"}).code, 0);
 }
 
 // Every fixture city stands at 2.35 E 48.85 N, read as whole degrees 2 and 48.

@@ -99,18 +99,6 @@ TEST(ForecastDisplay, TextsOfADay)
     EXPECT_EQ(inCelsius.day(0).temperatures + inCelsius.day(0).realFeel, L"20\u00B0 : 10\u00B019/11");
 }
 
-TEST(ForecastDisplay, AShortForecastTextLeavesTheRestEmpty)
-{
-    const SystemTime today = FakeDeviceClock::at(2026, 11, 24, 9, 0, 0);
-    const ForecastDisplay display = ForecastDisplay::compute(L"61^Rain^^^^21^", L"28/11/2026", today, Sources);
-    // An empty low reads as 0 °C.
-    EXPECT_EQ(display.day(0),
-        (ForecastDayTexts {
-            L"\\wiconset\\rain.bmp", L"Rain", L", ", L"70\u00B0 : 32\u00B0", L"", L"", L"", L"32/32", L"", L""}));
-    // Days 2 to 5 have blocks without any field: an empty code is found in the mapping's first entry.
-    EXPECT_EQ(display.day(1).iconPath + display.day(1).condition, L"\\wiconset\\rain.bmp");
-}
-
 TEST(ForecastDisplay, TheShippedMappingGivesEveryWeatherCodeAnIcon)
 {
     const std::filesystem::path root = WANDERKIT_SHIPPED_DEVICE_ROOT;
