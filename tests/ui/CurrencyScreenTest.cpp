@@ -3,12 +3,9 @@
 
 #include "ScreenTestBench.h"
 #include "screens/select/SelectDialog.h"
-#include "settings/SettingsTable.h"
-#include "ui/Commands.h"
 
 #include <QLineEdit>
 #include <QSignalSpy>
-#include <QTest>
 
 namespace {
 
@@ -18,7 +15,7 @@ constexpr const char* Currencies
 constexpr std::uint32_t Pound = 0;
 constexpr std::uint32_t Euro = 1;
 constexpr std::uint32_t Dollar = 3;
-constexpr std::uint32_t Nowhere = 99; // no currency: empty texts, a rate of 0
+constexpr std::uint32_t Nowhere = 99; // no currency: an empty code
 const wchar_t* const Key = L"Wanderkit\\currencies";
 const wchar_t* const PositionNames[] = {L"curp", L"curp2", L"curp3"};
 
@@ -91,22 +88,6 @@ private slots:
             t.type(1, QStringLiteral("4"));
             t.screen.sendCommand(Commands::Clear);
             QCOMPARE(t.texts(), QStringLiteral("||"));
-        });
-    }
-
-    void aCurrencyWithoutARecordConvertsAtARateOfZero()
-    {
-        // 5 euros are 6.25 / 0 of it, and 5 of it are 0 / 1.25 euros and 0 / 0 of the third, as printf
-        // shows them; a NaN's sign is the processor's.
-        ConverterBench t(std::array {Euro, Nowhere, Nowhere});
-        t.bench.visit(t.screen, [&] {
-            t.type(1, QStringLiteral("5"));
-            QCOMPARE(t.texts(), QStringLiteral("5|inf|inf"));
-            t.field(2)->setFocus();
-            t.field(2)->selectAll();
-            QTest::keyClicks(t.field(2), QStringLiteral("5"));
-            QCOMPARE(
-                t.texts().replace(QStringLiteral("-nan"), QStringLiteral("nan")), QStringLiteral("0.00000000|5|nan"));
         });
     }
 

@@ -2,14 +2,8 @@
 #include "screens/measure/MeasureScreen.h"
 
 #include "ScreenTestBench.h"
-#include "settings/SettingsTable.h"
-#include "ui/Commands.h"
-#include "ui/SoftKeyBar.h"
-#include "ui/Spinner.h"
-#include "units/UnitCatalogue.h"
 
 #include <QLineEdit>
-#include <QTest>
 
 #include <optional>
 #include <tuple>
@@ -180,30 +174,6 @@ private slots:
             for (std::size_t i = 0; i < 3; ++i)
                 QCOMPARE(t.bench.stored(*settings[i]), written[i]);
         }
-    }
-
-    void aCategoryWithoutRecordsShowsEmptyListsAndStillConverts()
-    {
-        MeasureBench t;
-        UnitCatalogue catalogue(t.bench.objects);
-        catalogue.Build();
-        for (int i = 0; i < 22; ++i) // every area
-            QVERIFY(catalogue.DeleteUnitAt(0));
-        t.bench.visit(t.screen, [&] {
-            QCOMPARE(t.spinner("categorySpinner")->currentIndex(), 0);
-            QCOMPARE(t.spinner("fromSpinner")->count(), 0);
-            QCOMPARE(t.spinner("toSpinner")->currentIndex(), -1);
-            // Empty factors are 0: 1 x 0 / 0 is not a number.
-            t.type(QStringLiteral("1"));
-            QVERIFY(t.result().contains(QStringLiteral("nan")));
-            // The lengths are still found.
-            t.spinner("categorySpinner")->setFocus();
-            t.bench.press(Qt::Key_Right);
-            QCOMPARE(t.spinner("fromSpinner")->currentText(), QStringLiteral("Yard"));
-        });
-        // The units had no selection: only the category is written.
-        QCOMPARE(t.bench.stored(Settings::MeasureType), 1u);
-        QCOMPARE(t.bench.stored(Settings::MeasureUnit1), 0u);
     }
 };
 
