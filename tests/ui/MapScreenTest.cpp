@@ -10,6 +10,7 @@
 #include "store/WeatherFavourites.h"
 #include "ui/Painting.h"
 
+#include <QPainter>
 #include <QTemporaryDir>
 
 namespace {
@@ -283,40 +284,32 @@ private slots:
         const QSize size(240, 138);
         QImage black(size, QImage::Format_RGB32);
         black.fill(Qt::black);
-        struct Case
-        {
-            int longitude;
-            int latitude;
-            QRect square; // 4 x 4 around the point, cut by the map's edge
-            bool labelLeft;
-        };
-        const Case cases[] = {
+        // Places A0 to A4: the 4 x 4 square around each point, cut by the map's edge, and its label's side.
+        const std::pair<QRect, bool> cases[] = {
             // Longitude 0 is the middle column, 120, in the second quarter: label on the left.
-            {0, 0, QRect(118, 67, 4, 4), true},
+            {QRect(118, 67, 4, 4), true},
             // Latitude 90 is row 0; -90 row 138, below the last row.
-            {0, 90, QRect(118, 0, 4, 2), true}, {-120, 20, QRect(38, 51, 4, 4), false}, // x 40 in the first quarter
-            {60, -30, QRect(158, 90, 4, 4), false}, // x 160 in the third, y 69 + 23
-            {120, 45, QRect(198, 32, 4, 4), true}, // x 200 in the last
+            {QRect(118, 0, 4, 2), true}, {QRect(38, 51, 4, 4), false}, // x 40 in the first quarter
+            {QRect(158, 90, 4, 4), false}, // x 160 in the third, y 69 + 23
+            {QRect(198, 32, 4, 4), true}, // x 200 in the last
         };
-        for (const Case& c : cases) {
+        for (std::size_t i = 0; i < std::size(cases); ++i) {
+            const auto [longitude, latitude] = Places[i];
+            const auto& [square, labelLeft] = cases[i];
             MapRenderer::MarkerSet set {
-                {{QStringLiteral("Wxyz"), c.longitude, c.latitude, false}}, Painting::makeFont(14, Painting::Bold), 1};
+                {{QStringLiteral("Wxyz"), longitude, latitude, false}}, Painting::makeFont(14, Painting::Bold), 1};
             const QImage map = MapRenderer::render(black, size, MapRenderer::Stretch::Plain, {}, &set);
-            const MapPoint point = MapPointOf(c.longitude, c.latitude, size.width(), size.height());
+            const MapPoint point = MapPointOf(longitude, latitude, size.width(), size.height());
             // The square and the label's pixels are the marker colour; the square is the only block of it
             // on the point's side, and the label lies wholly on one side of the point.
-            QVERIFY2(pixelsOf(map, Marker).contains(c.square), qPrintable(QString::number(c.longitude)));
-            QCOMPARE(QRect(point.x - 2, point.y - 2, 4, 4).intersected(QRect(QPoint(0, 0), size)), c.square);
-            QImage squareOnly = map;
-            for (int y = c.square.top(); y <= c.square.bottom(); ++y)
-                for (int x = c.square.left(); x <= c.square.right(); ++x)
-                    squareOnly.setPixel(x, y, qRgb(0, 0, 0));
-            const QRect label = pixelsOf(squareOnly, Marker);
+            QVERIFY2(pixelsOf(map, Marker).contains(square), qPrintable(QString::number(i)));
+            QCOMPARE(QRect(point.x - 2, point.y - 2, 4, 4).intersected(QRect(QPoint(0, 0), size)), square);
+            QImage labelOnly = map;
+            QPainter(&labelOnly).fillRect(square, Qt::black);
+            const QRect label = pixelsOf(labelOnly, Marker);
             QVERIFY(!label.isEmpty());
-            if (c.labelLeft)
-                QVERIFY2(label.right() < point.x - 2, qPrintable(QString::number(c.longitude)));
-            else
-                QVERIFY2(label.left() > point.x + 2, qPrintable(QString::number(c.longitude)));
+            QVERIFY2(
+                labelLeft ? label.right() < point.x - 2 : label.left() > point.x + 2, qPrintable(QString::number(i)));
             // The label's top is 6 pixels above the point (the glyphs start a little below it).
             QVERIFY(label.top() >= std::max(0, point.y - 6));
         }
