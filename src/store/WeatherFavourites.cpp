@@ -146,6 +146,17 @@ bool WeatherFavourites::removeFavourite(std::uint32_t position)
     return m_database.DeleteAt(position);
 }
 
+bool WeatherFavourites::removeNamed(std::wstring_view name)
+{
+    ObjectStore::Transaction transaction(m_store.connection());
+    m_store.connection().noteChange(); // what was read before the lock may predate another's commit
+    const std::uint16_t total = count();
+    std::uint32_t position = 0;
+    while (position < total && getName(position) != name)
+        ++position;
+    return position < total && transaction.active() && removeFavourite(position) && transaction.commit();
+}
+
 std::uint16_t WeatherFavourites::count()
 {
     return m_database.RecordCount();

@@ -49,6 +49,9 @@ public:
     bool updateFavourite(std::wstring_view name, std::wstring_view locationCode, std::wstring_view forecast,
         std::wstring_view updateKey, int byName);
     bool removeFavourite(std::uint32_t position);
+    // Removes the first favourite named `name`. The lookup and the removal are one write transaction, so
+    // that another process cannot move the favourites in between. False when there is none.
+    bool removeNamed(std::wstring_view name);
     std::uint16_t count();
     void close();
 

@@ -114,6 +114,9 @@ TEST(WeatherFavourites, FindAddUpdateRemove)
     EXPECT_TRUE(favourites.removeFavourite(0));
     EXPECT_EQ(favourites.count(), 3);
     EXPECT_FALSE(favourites.removeFavourite(3));
+    EXPECT_TRUE(favourites.removeNamed(L"Rome"));
+    EXPECT_FALSE(favourites.removeNamed(L"Rome"));
+    EXPECT_EQ(contents(favourites), std::vector<std::wstring>(2, L"Oslo|NOXX0029||01/01/2000|Norway"));
 }
 
 TEST(WeatherFavourites, OpensInEachSortOrder)

@@ -165,11 +165,7 @@ void FavouritesDialog::removeSelectedFavourite()
         this, question, QStringLiteral("Wanderkit"), QMessageBox::Yes | QMessageBox::No, QMessageBox::Question);
     if (answer != QMessageBox::Yes || selected < 0)
         return;
-    const std::uint16_t count = m_favourites.count();
-    std::uint32_t position = 0;
-    while (position < count && m_favourites.getName(position) != ToWide(city))
-        ++position;
-    if (position == count || !m_favourites.removeFavourite(position))
+    if (!m_favourites.removeNamed(ToWide(city)))
         return;
     QStringList names = m_favouriteList->items();
     names.removeAt(selected);
