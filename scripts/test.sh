@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Builds Wanderkit and runs every test: the core and the commands built without the GUI (so a Qt include
+# Checks the shipped data files, then builds Wanderkit and runs every test: the core and the commands built without the GUI (so a Qt include
 # in the core fails here, not in a packager's build), an optimised build of everything, then everything
 # under AddressSanitizer and UndefinedBehaviorSanitizer, then every fuzz target for a few seconds
 # (WANDERKIT_FUZZ_SECONDS, default 5). Installs missing packages first.
@@ -16,6 +16,8 @@ run_suite() {
     (cd "$dir" && ctest --output-on-failure -j"$jobs")
 }
 
+echo "== Shipped data against its sources, and the data tools' own tests"
+tools/check-data.sh
 echo "== Core and command line, without the GUI"
 run_suite build-core -DCMAKE_BUILD_TYPE=Debug -DWANDERKIT_GUI=OFF
 echo "== Release build and tests"
