@@ -18,8 +18,8 @@
 #include <vector>
 
 // World Clocks and the World Map run side by side on the shipped cities, their clocks and timers moved on
-// together in 250 ms steps, from three starts: over the year end, a northern and a southern change of daylight
-// saving. Every tick's repaints are checked, the texts at each crossing, and that memory stays flat.
+// together in 250 ms steps, from three starts: over a northern and a southern change of daylight saving, and over
+// the year end. Every tick's repaints are checked, the texts at each crossing, and that memory stays flat.
 // WANDERKIT_SOAK_HOURS sets the simulated hours per start, 2 by default; the long run, outside ctest's time limit:
 //   QT_QPA_PLATFORM=offscreen QTEST_FUNCTION_TIMEOUT=36000000 WANDERKIT_SOAK_HOURS=48 build/bin/test_soak
 
