@@ -9,46 +9,20 @@
 #include "screens/weather/WeatherScreen.h"
 #include "screens/worldclock/WorldClockScreen.h"
 #include "ui/Icons.h"
+#include "ui/StringIds.h"
 
 namespace {
 
-std::unique_ptr<Screen> worldClocks(ServiceContext& c)
+// A service's screen, built from the environment, the window and the launcher's stores it names, in that
+// order. A screen that can show a city's weather is handed the launcher's way to open the weather screen.
+template<class ScreenType, class... Stores>
+std::unique_ptr<Screen> makeScreen(ServiceContext& context)
 {
-    auto screen = std::make_unique<WorldClockScreen>(c.environment, c.window, c.cities, c.favourites);
-    screen->setWeatherOpener(&c.weather);
+    auto screen
+        = std::make_unique<ScreenType>(context.environment, context.window, std::get<Stores&>(context.stores)...);
+    if constexpr (requires { screen->setWeatherOpener(&context.weather); })
+        screen->setWeatherOpener(&context.weather);
     return screen;
-}
-
-std::unique_ptr<Screen> worldWeather(ServiceContext& c)
-{
-    return std::make_unique<WeatherScreen>(c.environment, c.window, c.favourites);
-}
-
-std::unique_ptr<Screen> worldMap(ServiceContext& c)
-{
-    auto screen = std::make_unique<MapScreen>(c.environment, c.window, c.cities, c.favourites);
-    screen->setWeatherOpener(&c.weather);
-    return screen;
-}
-
-std::unique_ptr<Screen> currencyConverter(ServiceContext& c)
-{
-    return std::make_unique<CurrencyScreen>(c.environment, c.window, c.initialCurrencies);
-}
-
-std::unique_ptr<Screen> measurements(ServiceContext& c)
-{
-    return std::make_unique<MeasureScreen>(c.environment, c.window);
-}
-
-std::unique_ptr<Screen> clothingSizes(ServiceContext& c)
-{
-    return std::make_unique<ClothingScreen>(c.environment, c.window);
-}
-
-std::unique_ptr<Screen> dialingCodes(ServiceContext& c)
-{
-    return std::make_unique<DialingScreen>(c.environment, c.window);
 }
 
 } // namespace
@@ -56,14 +30,14 @@ std::unique_ptr<Screen> dialingCodes(ServiceContext& c)
 const std::array<Service, ServiceCount>& Services()
 {
     static const std::array<Service, ServiceCount> table {{
-        {40008, Icons::Service, worldClocks}, // "World Clocks"
-        {40009, Icons::Service, worldWeather}, // "World Weather"
-        {40025, Icons::Service, worldMap}, // "World Map"
-        {40034, Icons::Service, currencyConverter}, // "Currency Converter"
-        {40044, Icons::Service, measurements}, // "Measurements"
-        {40045, Icons::Service, clothingSizes}, // "Clothing sizes"
-        {40046, Icons::Service, dialingCodes}, // "Dialing codes"
-        {40047, Icons::Service, nullptr}, // "Todo List": listed and selectable, opens nothing
+        {StringIds::WorldClocks, Icons::Service, makeScreen<WorldClockScreen, CityCatalogue, WeatherFavourites>},
+        {StringIds::WorldWeather, Icons::Service, makeScreen<WeatherScreen, WeatherFavourites>},
+        {StringIds::WorldMap, Icons::Service, makeScreen<MapScreen, CityCatalogue, WeatherFavourites>},
+        {StringIds::CurrencyConverter, Icons::Service, makeScreen<CurrencyScreen, const InitialCurrencyList>},
+        {StringIds::Measurements, Icons::Service, makeScreen<MeasureScreen>},
+        {StringIds::ClothingSizes, Icons::Service, makeScreen<ClothingScreen>},
+        {StringIds::DialingCodes, Icons::Service, makeScreen<DialingScreen>},
+        {StringIds::TodoList, Icons::Service, nullptr}, // listed and selectable, opens nothing
     }};
     return table;
 }

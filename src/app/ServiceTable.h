@@ -3,6 +3,7 @@
 
 #include <array>
 #include <memory>
+#include <tuple>
 
 class CityCatalogue;
 class CurrencyStore;
@@ -18,10 +19,8 @@ struct ServiceContext
 {
     ScreenEnvironment& environment;
     DeviceWindow& window;
-    CityCatalogue& cities;
-    WeatherFavourites& favourites;
-    CurrencyStore& currencies;
-    const InitialCurrencyList& initialCurrencies;
+    // The launcher's stores; a screen names the ones it is built with by their types.
+    std::tuple<CityCatalogue&, WeatherFavourites&, CurrencyStore&, const InitialCurrencyList&> stores;
     WeatherOpener& weather; // opens the World Weather screen for another screen's city
 };
 

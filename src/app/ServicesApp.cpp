@@ -14,6 +14,8 @@
 #include <QKeyEvent>
 #include <QPainter>
 
+#include <functional>
+
 namespace {
 
 constexpr int Columns = 4;
@@ -22,16 +24,19 @@ constexpr int Columns = 4;
 
 ServicesApp::ServicesApp(ScreenEnvironment& environment, DeviceWindow& window)
     : Screen(environment, window, MenuBarId::Launcher, QStringLiteral("launcher"))
-    , m_selector(new Spinner(this))
-    , m_settings(environment.settings)
+    , m_selector(addSpinner(QStringLiteral("serviceSpinner"), std::bind_front(&ServicesApp::pressArrow, this)))
     , m_cities(environment.objects, environment.paths, environment.messages)
     , m_favourites(environment.objects, environment.paths, environment.messages)
     , m_currencies(environment.objects)
 {
-    m_selector->setObjectName(QStringLiteral("serviceSpinner"));
     m_selector->setWrapping(true);
-    watchSpinner(*m_selector);
-    ServiceContext context {environment, window, m_cities, m_favourites, m_currencies, m_initialCurrencies, *this};
+    // Amounts typed into the converters last only while the program runs.
+    keepSetting(Settings::CurrencyAmount, [] { return std::wstring(); });
+    keepSetting(Settings::MeasureValue, [] { return std::wstring(); });
+    onCommand({Commands::Ok}, [this] { openService(selection()); });
+    // The launcher is left by "Exit" only.
+    onCommand({Commands::Services, Commands::Done}, [] {});
+    ServiceContext context {environment, window, {m_cities, m_favourites, m_currencies, m_initialCurrencies}, *this};
     for (std::size_t i = 0; i < m_screens.size(); ++i) {
         if (const auto make = Services()[i].makeScreen)
             m_screens[i] = make(context);
@@ -193,7 +198,7 @@ void ServicesApp::paint(QPainter& painter)
     painter.drawText((width - metrics.horizontalAdvance(label)) / 2, height - 35 + metrics.ascent(), label);
 }
 
-void ServicesApp::spinnerDelta(Spinner&, int delta)
+void ServicesApp::pressArrow(int delta)
 {
     if (delta < 0) {
         m_leftPressed = true;
@@ -229,25 +234,10 @@ void ServicesApp::keyPressEvent(QKeyEvent* event)
     update();
 }
 
-void ServicesApp::command(int id)
-{
-    if (id == Commands::Ok)
-        openService(selection());
-    else if (id == Commands::Exit)
-        exitProgram();
-}
-
 void ServicesApp::openService(int index)
 {
     if (Screen* screen = serviceScreen(index)) {
         screen->openedAsService();
         runModal(*screen);
     }
-}
-
-void ServicesApp::destroyWork()
-{
-    // Amounts typed into the converters last only while the program runs.
-    WriteSetting(m_settings, Settings::CurrencyAmount, L"");
-    WriteSetting(m_settings, Settings::MeasureValue, L"");
 }

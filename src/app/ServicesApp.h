@@ -3,7 +3,6 @@
 
 #include "app/ServiceTable.h"
 #include "screens/weather/WeatherOpener.h"
-#include "settings/RegistrySettings.h"
 #include "store/CityCatalogue.h"
 #include "store/CurrencyStore.h"
 #include "store/InitialCurrencyList.h"
@@ -47,9 +46,6 @@ protected:
     void layout(int width, int height) override;
     void paint(QPainter& painter) override;
     void timerTick(int id) override;
-    void destroyWork() override;
-    void command(int id) override;
-    void spinnerDelta(Spinner& spinner, int delta) override;
     void keyPressEvent(QKeyEvent* event) override;
     void tap(QPoint at) override;
 
@@ -61,6 +57,8 @@ private:
     int iconX(int index) const;
     int iconY(int index) const;
     void openService(int index);
+    // A step of the selection: the arrow on its side is shown pressed for a moment.
+    void pressArrow(int delta);
 
     // The launcher's own state.
     Spinner* m_selector;
@@ -70,7 +68,6 @@ private:
     bool m_rightPressed = false;
     QFont m_labelFont;
     InitialCurrencyList m_initialCurrencies;
-    RegistrySettings m_settings;
     // The stores, then the screens: built once, destroyed in reverse order at the end.
     CityCatalogue m_cities;
     WeatherFavourites m_favourites;

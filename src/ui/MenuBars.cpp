@@ -2,28 +2,24 @@
 #include "ui/MenuBars.h"
 
 #include "ui/Commands.h"
+#include "ui/StringIds.h"
 
 #include <algorithm>
 #include <array>
 
 namespace {
 
-constexpr int ServicesText = 40010;
-constexpr int MenuText = 40003;
-constexpr int DoneText = 40013;
-constexpr int AddText = 40032;
-
 const MenuItem Separator {0, {}};
 const MenuItem ExitItem {Commands::Exit, L"Exit"};
 
 SoftKeyLayout servicesKey(bool enabled = true)
 {
-    return {ServicesText, Commands::Services, enabled, {}};
+    return {StringIds::Services, Commands::Services, enabled, {}};
 }
 
 SoftKeyLayout menuKey(std::vector<MenuItem> items)
 {
-    return {MenuText, 0, true, std::move(items)};
+    return {StringIds::Menu, 0, true, std::move(items)};
 }
 
 const std::vector<MenuBarLayout>& bars()
@@ -32,7 +28,7 @@ const std::vector<MenuBarLayout>& bars()
     static const std::vector<MenuBarLayout> table {
         {MenuBarId::WorldClocks, servicesKey(),
             menuKey({{TwelveHourClocks, L"Twelve Hours Clocks"}, Separator, ExitItem})},
-        {MenuBarId::Select, {DoneText, Done, true, {}}, std::nullopt},
+        {MenuBarId::Select, {StringIds::Done, Done, true, {}}, std::nullopt},
         {MenuBarId::Launcher, servicesKey(false), menuKey({ExitItem})},
         {MenuBarId::Map, servicesKey(),
             menuKey({{ShowCitiesOnMap, L"Show cities on Map"}, {ChangeCity, L"Change City"},
@@ -42,7 +38,7 @@ const std::vector<MenuBarLayout>& bars()
                 ExitItem})},
         {MenuBarId::Weather, servicesKey(),
             menuKey({{UpdateForecast, L"Update Forecast"}, {ChangeCity, L"Change City"}, Separator, ExitItem})},
-        {MenuBarId::Favourites, {DoneText, Done, true, {}}, SoftKeyLayout {AddText, Add, true, {}}},
+        {MenuBarId::Favourites, {StringIds::Done, Done, true, {}}, SoftKeyLayout {StringIds::Add, Add, true, {}}},
         {MenuBarId::Converter, servicesKey(), menuKey({{Undo, L"Undo"}, {Clear, L"Clear"}, Separator, ExitItem})},
     };
     return table;

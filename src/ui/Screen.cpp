@@ -2,6 +2,7 @@
 #include "ui/Screen.h"
 
 #include "device/DevicePaths.h"
+#include "settings/SettingsTable.h"
 #include "ui/Commands.h"
 #include "ui/DeviceWindow.h"
 #include "ui/Painting.h"
@@ -17,6 +18,7 @@
 Screen::Screen(ScreenEnvironment& environment, DeviceWindow& window, MenuBarId menuBarId, QString name)
     : m_environment(environment)
     , m_window(window)
+    , m_settings(environment.settings)
     , m_menuBarId(menuBarId)
     , m_name(std::move(name))
 {
@@ -57,8 +59,6 @@ void Screen::paint(QPainter&) { }
 
 void Screen::timerTick(int) { }
 
-void Screen::spinnerDelta(Spinner&, int) { }
-
 void Screen::tap(QPoint) { }
 
 void Screen::swipe(int delta)
@@ -84,7 +84,9 @@ void Screen::eraseBackground(QPainter& painter)
 
 void Screen::command(int id)
 {
-    if (id == Commands::Services || id == Commands::Done)
+    if (const auto action = m_commands.find(id); action != m_commands.end())
+        action->second();
+    else if (id == Commands::Services || id == Commands::Done)
         endScreen(0);
     else if (id == Commands::Exit)
         exitProgram();
@@ -136,11 +138,42 @@ void Screen::exitProgram()
     m_window.exitAll();
 }
 
-void Screen::watchSpinner(Spinner& spinner)
+Spinner* Screen::addSpinner(const QString& objectName, std::function<void(int delta)> onStep)
 {
-    connect(&spinner, &Spinner::deltaRequested, this, [this, &spinner](int delta) {
-        if (m_running && !m_ended)
-            spinnerDelta(spinner, delta);
+    auto* spinner = new Spinner(this);
+    spinner->setObjectName(objectName);
+    if (onStep) {
+        connect(spinner, &Spinner::deltaRequested, this, [this, onStep = std::move(onStep)](int delta) {
+            if (m_running && !m_ended)
+                onStep(delta);
+        });
+    }
+    return spinner;
+}
+
+void Screen::onCommand(std::initializer_list<int> ids, const std::function<void()>& action)
+{
+    for (const int id : ids)
+        m_commands[id] = action;
+}
+
+void Screen::keepSetting(const DwordSetting& setting, std::function<std::uint32_t()> value)
+{
+    m_keptSettings.push_back(
+        [this, &setting, value = std::move(value)] { WriteSetting(m_settings, setting, value()); });
+}
+
+void Screen::keepSetting(const StringSetting& setting, std::function<std::wstring()> value)
+{
+    m_keptSettings.push_back(
+        [this, &setting, value = std::move(value)] { WriteSetting(m_settings, setting, value()); });
+}
+
+void Screen::keepSetting(const DwordSetting& setting, const Spinner& list)
+{
+    m_keptSettings.push_back([this, &setting, &list] {
+        if (list.currentIndex() >= 0)
+            WriteSetting(m_settings, setting, static_cast<std::uint32_t>(list.currentIndex()));
     });
 }
 
@@ -167,6 +200,8 @@ int Screen::finishRun()
 {
     stopAllTimers();
     destroyWork();
+    for (const auto& write : m_keptSettings)
+        write();
     m_running = false;
     m_softKeys = nullptr;
     m_picture = QImage();

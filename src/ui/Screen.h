@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "settings/RegistrySettings.h"
 #include "ui/MenuBars.h"
 #include "ui/ScreenEnvironment.h"
 #include "ui/SwipeRecogniser.h"
@@ -9,9 +10,16 @@
 #include <QPixmap>
 #include <QWidget>
 
+#include <functional>
+#include <initializer_list>
+#include <map>
 #include <set>
+#include <string>
+#include <vector>
 
 class DeviceWindow;
+struct DwordSetting;
+struct StringSetting;
 class SoftKeyBar;
 class Spinner;
 
@@ -60,9 +68,9 @@ protected:
     virtual void eraseBackground(QPainter& painter);
     virtual void timerTick(int id);
     virtual void destroyWork() { }
-    // Default: "Services" and "Done" end the screen, "Exit" ends the program.
+    // Default: the action the screen states for the command; without one, "Services" and "Done" end the
+    // screen and "Exit" ends the program.
     virtual void command(int id);
-    virtual void spinnerDelta(Spinner& spinner, int delta);
     // A tap on the screen away from its controls, in work-area pixels. Default: nothing.
     virtual void tap(QPoint at);
     // A sideways swipe over the screen away from its controls (+1: the finger went left). Default: the
@@ -70,6 +78,8 @@ protected:
     virtual void swipe(int delta);
 
     ScreenEnvironment& environment() const { return m_environment; }
+    // The screen's registry accessor.
+    RegistrySettings& settings() { return m_settings; }
     DeviceWindow& window() const { return m_window; }
     int workWidth() const;
     int workHeight() const;
@@ -79,8 +89,16 @@ protected:
     void stopScreenTimer(int id);
     void stopAllTimers();
     void exitProgram();
-    // Reports the spinner's steps to spinnerDelta().
-    void watchSpinner(Spinner& spinner);
+    // A spinner on this screen named `objectName` (tests find it by that name). While the screen runs, each
+    // step made on it is reported to `onStep`, before the spinner moves.
+    Spinner* addSpinner(const QString& objectName, std::function<void(int delta)> onStep = {});
+    // What the commands `ids` do on this screen, in place of the default; screens state it while they are built.
+    void onCommand(std::initializer_list<int> ids, const std::function<void()>& action);
+    // A setting the screen keeps between visits: written from `value` each time the screen ends, after
+    // its destroy work. A list's position is kept only while it has one.
+    void keepSetting(const DwordSetting& setting, std::function<std::uint32_t()> value);
+    void keepSetting(const StringSetting& setting, std::function<std::wstring()> value);
+    void keepSetting(const DwordSetting& setting, const Spinner& list);
     // The background picture, found beside the program by the joined-name rule; loaded by each run.
     void setBackgroundPicture(const wchar_t* fileName) { m_pictureName = fileName; }
     // Screens with edit boxes call this while they initialise, so that the Back key edits.
@@ -107,6 +125,9 @@ private:
 
     ScreenEnvironment& m_environment;
     DeviceWindow& m_window;
+    RegistrySettings m_settings;
+    std::vector<std::function<void()>> m_keptSettings; // each writes one kept setting
+    std::map<int, std::function<void()>> m_commands;
     MenuBarId m_menuBarId;
     QString m_name;
     SoftKeyBar* m_softKeys = nullptr;

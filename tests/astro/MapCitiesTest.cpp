@@ -5,33 +5,18 @@
 
 #include <gtest/gtest.h>
 
-TEST(MapCities, SteppingWrapsAtBothEnds)
-{
-    struct Case
-    {
-        std::int32_t selected;
-        int delta;
-        std::int32_t next;
-    };
-    const Case cases[] = {
-        {0, -1, 1089}, // left from the first city selects the last
-        {1089, 1, 0}, // right from the last selects the first
-        {5, -1, 4},
-        {5, 1, 6},
-        {1088, 1, 1089},
-        {1, -1, 0},
-        {7, 0, 7},
-    };
-    for (const Case& c : cases)
-        EXPECT_EQ(MapCities::steppedSelection(c.selected, c.delta, 1090), c.next) << c.selected << ' ' << c.delta;
-}
+#include <tuple>
 
-TEST(MapCities, StoredSelectionOutsideTheCatalogueShowsTheFirstCity)
+TEST(MapCities, SteppingWrapsAndStoredSelectionsOutsideShowTheFirstCity)
 {
-    const std::pair<std::int32_t, std::int32_t> cases[]
-        = {{0, 0}, {1089, 1089}, {1090, 0}, {70000, 0}, {-1, 0}, {INT32_MIN, 0}};
-    for (const auto& [stored, shown] : cases)
-        EXPECT_EQ(MapCities::validSelection(stored, 1090), shown) << stored;
+    // Left from the first city selects the last, right from the last the first.
+    const std::tuple<std::int32_t, int, std::int32_t> steps[]
+        = {{0, -1, 1089}, {1089, 1, 0}, {5, -1, 4}, {5, 1, 6}, {7, 0, 7}};
+    for (const auto& [selected, delta, next] : steps)
+        EXPECT_EQ(MapCities::steppedSelection(selected, delta, 1090), next) << selected << ' ' << delta;
+    const std::pair<std::int32_t, std::int32_t> stored[] = {{0, 0}, {1089, 1089}, {1090, 0}, {-1, 0}, {INT32_MIN, 0}};
+    for (const auto& [position, shown] : stored)
+        EXPECT_EQ(MapCities::validSelection(position, 1090), shown) << position;
 
     // "mapclock" is a DWORD: 0xFFFFFFFF reads back as -1.
     auto hive = SettingsHive::openInMemory();
@@ -59,9 +44,7 @@ TEST(MapCities, MarkedCitiesAndTheirDefaults)
             const std::uint32_t stored = settings.GetDWORD(rows[i]->subkey, rows[i]->name);
             const bool present = settings.Status() == RegistrySettings::Read;
             EXPECT_EQ(present, writeBack || i == 2) << i;
-            if (present) {
-                EXPECT_EQ(stored, expected[i]) << i;
-            }
+            EXPECT_EQ(stored, present ? expected[i] : 0) << i;
         }
     }
 }

@@ -3,22 +3,17 @@
 
 #include <gtest/gtest.h>
 
-TEST(MapPoint, MapHeightOfTheWorkArea)
+#include <tuple>
+
+TEST(MapPoint, MapHeightAndPointsOfWholeDegrees)
 {
     // (268 - 25) x 4 / 7 = 972 / 7 = 138.9, truncated; rotated, (240 - 25) x 4 / 7 = 122.9.
     const std::pair<int, int> cases[] = {{268, 138}, {240, 122}, {320, 168}, {25, 0}, {31, 3}};
     for (const auto& [workArea, map] : cases)
         EXPECT_EQ(MapHeightFor(workArea), map) << workArea;
-}
 
-TEST(MapPoint, PointsOfWholeDegrees)
-{
-    struct Case
-    {
-        int longitude, latitude, width, height;
-        MapPoint point;
-    };
-    const Case cases[] = {
+    // Longitude, latitude, map width and height, the point.
+    const std::tuple<int, int, int, int, MapPoint> points[] = {
         {0, 0, 240, 138, {120, 69}}, // the middle column and row
         {0, 90, 240, 138, {120, 0}}, // 69 - 90 x 138 / 180 = 69 - 69.000000000000014, truncated to 0
         {0, -90, 240, 138, {120, 138}}, // one row below the map
@@ -28,8 +23,8 @@ TEST(MapPoint, PointsOfWholeDegrees)
         {2, 48, 1920, 1080, {970, 252}}, // Paris: 960 + 10.67, 540 - 288
         {139, 35, 1920, 1080, {1701, 330}}, // Tokyo: 960 + 741.33, 540 - 210
     };
-    for (const Case& c : cases)
-        EXPECT_EQ(MapPointOf(c.longitude, c.latitude, c.width, c.height), c.point) << c.longitude << ',' << c.latitude;
+    for (const auto& [longitude, latitude, width, height, point] : points)
+        EXPECT_EQ(MapPointOf(longitude, latitude, width, height), point) << longitude << ',' << latitude;
 }
 
 TEST(MapPoint, LabelSideByQuarter)

@@ -3,26 +3,21 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace {
 
 SystemTime at(int year, int month, int day, int hour, int minute, int second)
 {
-    return {static_cast<std::uint16_t>(year), static_cast<std::uint16_t>(month), 0, static_cast<std::uint16_t>(day),
-        static_cast<std::uint16_t>(hour), static_cast<std::uint16_t>(minute), static_cast<std::uint16_t>(second), 0};
+    return {std::uint16_t(year), std::uint16_t(month), 0, std::uint16_t(day), std::uint16_t(hour),
+        std::uint16_t(minute), std::uint16_t(second), 0};
 }
 
 } // namespace
 
 TEST(TerminatorSun, JulianDayAndCenturies)
 {
-    struct Case
-    {
-        double day;
-        int month;
-        int year;
-        double julianDay;
-    };
-    const Case cases[] = {
+    const std::tuple<double, int, int, double> cases[] = {
         {1.5, 1, 2000, 2451545.0}, // J2000.0, the epoch of T
         {4.81, 10, 1957, 2436116.31}, // Sputnik's launch, Meeus example 7.a
         {27.5, 1, 333, 1842713.0}, // Julian calendar, Meeus example 7.b
@@ -33,8 +28,8 @@ TEST(TerminatorSun, JulianDayAndCenturies)
         {1.0, 3, 2000, 2451604.5}, // 2000 is a Gregorian leap year: 60 days after 1 January 0h
         {1.0, 3, 1900, 2415079.5}, // 1900 is not: 59 days after 1 January 1900 0h (2415020.5)
     };
-    for (const Case& c : cases)
-        EXPECT_DOUBLE_EQ(JulianDay(c.day, c.month, c.year), c.julianDay) << c.year << '-' << c.month << '-' << c.day;
+    for (const auto& [day, month, year, julianDay] : cases)
+        EXPECT_DOUBLE_EQ(JulianDay(day, month, year), julianDay) << year << '-' << month << '-' << day;
 
     // T in Julian centuries of 36525 days from J2000.0.
     EXPECT_DOUBLE_EQ(JulianCenturies(2451545.0), 0.0);
@@ -44,24 +39,17 @@ TEST(TerminatorSun, JulianDayAndCenturies)
 
 TEST(TerminatorSun, UtcInstantCarriesMinutesAndMovesTheDate)
 {
-    struct Case
-    {
-        SystemTime local;
-        DeviceOffset offset;
-        SystemTime utc;
-    };
-    const Case cases[] = {
-        {at(2026, 7, 13, 9, 5, 30), {2, 0}, at(2026, 7, 13, 7, 5, 30)},
+    const std::tuple<SystemTime, DeviceOffset, SystemTime> cases[] = {
         {at(2026, 7, 13, 9, 5, 30), {5, 30}, at(2026, 7, 13, 3, 35, 30)}, // minutes borrow an hour
         {at(2026, 7, 13, 9, 45, 0), {-3, -30}, at(2026, 7, 13, 13, 15, 0)}, // minutes carry into the hour
         {at(2026, 1, 1, 3, 0, 0), {5, 30}, at(2025, 12, 31, 21, 30, 0)}, // back over the new year
         {at(2026, 2, 28, 20, 0, 0), {-10, 0}, at(2026, 3, 1, 6, 0, 0)}, // forward over the month end
         {at(2024, 2, 28, 23, 30, 0), {-1, -30}, at(2024, 2, 29, 1, 0, 0)}, // a leap day
     };
-    for (const Case& c : cases) {
-        const SystemTime utc = UtcInstant(c.local, c.offset);
-        EXPECT_EQ(std::tuple(utc.year, utc.month, utc.day, utc.hour, utc.minute, utc.second),
-            std::tuple(c.utc.year, c.utc.month, c.utc.day, c.utc.hour, c.utc.minute, c.utc.second));
+    for (const auto& [local, offset, expected] : cases) {
+        const SystemTime utc = UtcInstant(local, offset);
+        EXPECT_EQ(std::tie(utc.year, utc.month, utc.day, utc.hour, utc.minute, utc.second),
+            std::tie(expected.year, expected.month, expected.day, expected.hour, expected.minute, expected.second));
     }
 }
 
@@ -71,15 +59,8 @@ TEST(TerminatorSun, PositionAtKnownInstants)
     // J2000.0 (T = 0): L0 = 280.46646, M = 357.52911, C = -0.0904809, lambda = 280.366372,
     // eps0 = 23.4392911, e = 0.40885981 rad; RA = atan2(cos e sin lambda, cos lambda) = 281.080684,
     // dec = asin(sin e sin lambda) = -0.401989817 rad; sidereal = 100.46061837 (T = 0).
-    struct Case
-    {
-        SystemTime utc;
-        double dayFraction;
-        double rightAscension;
-        double declination;
-        double siderealAngle;
-    };
-    const Case cases[] = {
+    // UTC, day fraction, right ascension, declination, sidereal angle.
+    const std::tuple<SystemTime, double, double, double, double> cases[] = {
         {at(2000, 1, 1, 12, 0, 0), 0.5, 281.08068415547206, -0.40198981701008707, 100.46061837},
         // T = 0.26214921: L0 = 358.039934, M = 74.651808, lambda = 359.890798 (just before the equinox).
         {at(2026, 3, 20, 12, 0, 0), 0.5, 359.7322530801724, -0.002023734017404928, 178.0341772207048},
@@ -88,34 +69,25 @@ TEST(TerminatorSun, PositionAtKnownInstants)
         // T = 0.26971253: lambda = 269.874476, dec near -e.
         {at(2026, 12, 21, 18, 0, 0), 0.75, 269.6683010955494, -0.40885562117797586, 90.31926371777445},
     };
-    for (const Case& c : cases) {
-        const TerminatorSun sun = computeSunForTerminator(c.utc, {0, 0});
-        EXPECT_DOUBLE_EQ(sun.dayFraction, c.dayFraction);
-        EXPECT_NEAR(sun.rightAscension, c.rightAscension, 1e-9);
-        EXPECT_NEAR(sun.declination, c.declination, 1e-12);
-        EXPECT_NEAR(sun.siderealAngle, c.siderealAngle, 1e-9);
+    for (const auto& [utc, dayFraction, rightAscension, declination, siderealAngle] : cases) {
+        const TerminatorSun sun = computeSunForTerminator(utc, {0, 0});
+        EXPECT_DOUBLE_EQ(sun.dayFraction, dayFraction);
+        EXPECT_NEAR(sun.rightAscension, rightAscension, 1e-9);
+        EXPECT_NEAR(sun.declination, declination, 1e-12);
+        EXPECT_NEAR(sun.siderealAngle, siderealAngle, 1e-9);
     }
-}
-
-TEST(TerminatorSun, ShortPiStaysNearThePublishedPosition)
-{
     // Meeus example 25.a, 1992 October 13.0 TD: apparent RA 198.38083 degrees, declination -7.78507
     // degrees (-0.1358742 rad). Pi taken as 3.14 moves the angles by about 0.05 %.
-    const TerminatorSun sun = computeSunForTerminator(at(1992, 10, 13, 0, 0, 0), {0, 0});
-    EXPECT_NEAR(sun.rightAscension, 198.38083, 0.2);
-    EXPECT_NEAR(sun.declination, -0.1358742, 0.002);
-}
+    const TerminatorSun meeus = computeSunForTerminator(at(1992, 10, 13, 0, 0, 0), {0, 0});
+    EXPECT_NEAR(meeus.rightAscension, 198.38083, 0.2);
+    EXPECT_NEAR(meeus.declination, -0.1358742, 0.002);
 
-TEST(TerminatorSun, DeviceOffsetGivesTheSameInstant)
-{
     // 17:30 at +5:30 and 02:00 next day at +14 are both 12:00 UTC on 1 January 2000.
     const TerminatorSun utc = computeSunForTerminator(at(2000, 1, 1, 12, 0, 0), {0, 0});
     for (const auto& [local, offset] : {std::pair {at(2000, 1, 1, 17, 30, 0), DeviceOffset {5, 30}},
              std::pair {at(2000, 1, 2, 2, 0, 0), DeviceOffset {14, 0}}}) {
         const TerminatorSun sun = computeSunForTerminator(local, offset);
-        EXPECT_EQ(sun.dayFraction, utc.dayFraction);
-        EXPECT_EQ(sun.rightAscension, utc.rightAscension);
-        EXPECT_EQ(sun.declination, utc.declination);
-        EXPECT_EQ(sun.siderealAngle, utc.siderealAngle);
+        EXPECT_EQ(std::tie(sun.dayFraction, sun.rightAscension, sun.declination, sun.siderealAngle),
+            std::tie(utc.dayFraction, utc.rightAscension, utc.declination, utc.siderealAngle));
     }
 }

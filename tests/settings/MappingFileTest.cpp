@@ -11,15 +11,12 @@
 TEST(MappingFile, ReadsWordsUpToTheEndMarker)
 {
     using Case = std::tuple<const char*, std::string, std::wstring>;
-    const Case cases[] = {
-        {"words up to the word with '>'", "01=sun 02=cloud\n03=rain >end 04=snow\n", L"01=sun;02=cloud;03=rain;"},
-        {"'>' inside a word ends it too", "a b>c d", L"a;"},
-        {"any white space separates", "\t a\r\n\v\fb  \n>", L"a;b;"},
-        {"no '>' at all: the end of the file", "a b\n", L"a;b;"},
-        {"an empty file", "", L""},
-        {"'>' first", "> a", L""},
-        {"bytes above 127 are Latin-1", "\xE9t\xE9 >", L"\u00E9t\u00E9;"},
-    };
+    const Case cases[]
+        = {{"words up to the word with '>'", "01=sun 02=cloud\n03=rain >end 04=snow\n", L"01=sun;02=cloud;03=rain;"},
+            {"'>' inside a word ends it too", "a b>c d", L"a;"},
+            {"any white space separates", "\t a\r\n\v\fb  \n>", L"a;b;"},
+            {"no '>' at all: the end of the file", "a b\n", L"a;b;"}, {"an empty file", "", L""},
+            {"'>' first", "> a", L""}, {"bytes above 127 are Latin-1", "\xE9t\xE9 >", L"\u00E9t\u00E9;"}};
     for (const auto& [what, file, mapping] : cases) {
         SCOPED_TRACE(what);
         TempDir dir;
@@ -28,10 +25,8 @@ TEST(MappingFile, ReadsWordsUpToTheEndMarker)
         RegistrySettings settings(*hive);
         EXPECT_EQ(ReadMappingText(settings, DevicePaths(dir.path())), mapping);
     }
-}
 
-TEST(MappingFile, FoundThroughTheInstallFolder)
-{
+    // The file is found through the install folder.
     TempDir dir;
     dir.write("Program Files/Wanderkit/mapping.cfg", "x=y >");
     dir.write("mapping.cfg", "root >");

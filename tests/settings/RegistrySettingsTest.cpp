@@ -25,8 +25,7 @@ TEST(RegistrySettings, StatusOfEachRead)
     h.settings.SetDWORD(L"Wanderkit\\measurs", L"twenty_characters_xx", 20);
     h.settings.SetDWORD(L"Wanderkit\\measurs", L"twenty_one_characters", 21);
 
-    using Case = std::tuple<const wchar_t*, const wchar_t*, std::int32_t, std::uint32_t>;
-    const Case cases[] = {
+    const std::tuple<const wchar_t*, const wchar_t*, std::int32_t, std::uint32_t> cases[] = {
         {L"Wanderkit\\wrldclk", L"clock1", 0, 684}, {L"WANDERKIT\\WrldClk", L"clock1", 0, 684}, // key paths ignore case
         {L"Wanderkit\\wrldclk", L"Clock1", -1, 0}, // value names do not
         {L"Wanderkit\\wrldclk", L"clock2", -1, 0}, {L"Wanderkit\\wrldclk", L"Clock2", 0, 756},
@@ -48,14 +47,11 @@ TEST(RegistrySettings, StatusOfEachRead)
 TEST(RegistrySettings, StoredForms)
 {
     Hive h;
-    using Case = std::tuple<const char*, std::wstring, std::vector<std::uint8_t>>;
-    const Case strings[] = {
-        {"two bytes a character, no terminator", L"\\wiconset\\",
-            {'\\', 0, 'w', 0, 'i', 0, 'c', 0, 'o', 0, 'n', 0, 's', 0, 'e', 0, 't', 0, '\\', 0}},
-        {"empty", L"", {}},
-        {"Latin-1 and beyond", L"\u00E9\u20AC", {0xE9, 0x00, 0xAC, 0x20}},
-        {"outside the basic plane: a surrogate pair", L"\U0001F30D", {0x3C, 0xD8, 0x0D, 0xDF}},
-    };
+    const std::tuple<const char*, std::wstring, std::vector<std::uint8_t>> strings[]
+        = {{"two bytes a character, no terminator", L"\\wiconset\\",
+               {'\\', 0, 'w', 0, 'i', 0, 'c', 0, 'o', 0, 'n', 0, 's', 0, 'e', 0, 't', 0, '\\', 0}},
+            {"empty", L"", {}}, {"Latin-1 and beyond", L"\u00E9\u20AC", {0xE9, 0x00, 0xAC, 0x20}},
+            {"outside the basic plane: a surrogate pair", L"\U0001F30D", {0x3C, 0xD8, 0x0D, 0xDF}}};
     for (const auto& [what, text, bytes] : strings) {
         SCOPED_TRACE(what);
         h.settings.SetString(L"Wanderkit\\weather", L"icondir", text);

@@ -26,34 +26,25 @@ std::unique_ptr<SettingsHive> hiveWith(Before before, std::wstring_view subkey, 
 
 TEST(SettingsTable, DefaultsAndWriteBack)
 {
-    using Case = std::tuple<const char*, const DwordSetting&, Before, std::uint32_t, std::optional<std::uint32_t>>;
-    const Case cases[] = {
-        {"clock1, fresh device: default, written", Settings::Clock1, Before::FreshDevice, 684, 684},
-        {"clock2, value deleted: default, not written", Settings::Clock2, Before::KeyOnly, 756, std::nullopt},
-        {"clock3 present", Settings::Clock3, Before::Stored, 5, 5},
-        {"home clock, fresh device", Settings::HomeClock, Before::FreshDevice, 0, 0},
-        {"curp, fresh: written", Settings::Currency1, Before::FreshDevice, 61, 61},
-        {"curp2, value missing: written", Settings::Currency2, Before::KeyOnly, 180, 180},
-        {"syncltz, value missing: written", Settings::SyncLocalZone, Before::KeyOnly, 1, 1},
-        {"showcs: default, never written", Settings::ShowCities, Before::FreshDevice, 1, std::nullopt},
-        {"twelvehour", Settings::TwelveHour, Before::FreshDevice, 0, std::nullopt},
-        {"wetp", Settings::WeatherPosition, Before::KeyOnly, 0, std::nullopt},
-    };
+    const std::tuple<const char*, const DwordSetting&, Before, std::uint32_t, std::optional<std::uint32_t>> cases[]
+        = {{"clock1, fresh device: default, written", Settings::Clock1, Before::FreshDevice, 684, 684},
+            {"clock2, value deleted: default, not written", Settings::Clock2, Before::KeyOnly, 756, std::nullopt},
+            {"clock3 present", Settings::Clock3, Before::Stored, 5, 5},
+            {"curp2, value missing: written", Settings::Currency2, Before::KeyOnly, 180, 180},
+            {"showcs: default, never written", Settings::ShowCities, Before::FreshDevice, 1, std::nullopt},
+            {"wetp", Settings::WeatherPosition, Before::KeyOnly, 0, std::nullopt}};
     for (const auto& [what, setting, before, read, storedAfter] : cases) {
         SCOPED_TRACE(what);
         auto hive = hiveWith(before, setting.subkey, setting.name);
         RegistrySettings settings(*hive);
         EXPECT_EQ(ReadSetting(settings, setting), read);
-        const auto stored = hive->value(setting.subkey, setting.name);
-        EXPECT_EQ(stored.has_value(), storedAfter.has_value());
-        if (stored && storedAfter) {
-            EXPECT_EQ(RegistrySettings(*hive).GetDWORD(setting.subkey, setting.name), *storedAfter);
-        }
+        const auto stored = hive->value(setting.subkey, setting.name)
+            ? std::optional(RegistrySettings(*hive).GetDWORD(setting.subkey, setting.name))
+            : std::nullopt;
+        EXPECT_EQ(stored, storedAfter);
     }
-}
 
-TEST(SettingsTable, StringRows)
-{
+    // String rows.
     auto hive = SettingsHive::openInMemory();
     RegistrySettings settings(*hive);
     EXPECT_EQ(ReadSetting(settings, Settings::IconFolder), L"\\wiconset\\");

@@ -13,46 +13,38 @@
 
 #include <array>
 #include <fstream>
-#include <sys/stat.h>
 
 namespace {
 
-bool registryMarker(const std::filesystem::path& file, MessageSink& messages, bool write)
-{
-    auto hive = SettingsHive::open(file, messages);
-    if (!hive)
-        return false;
-    RegistrySettings settings(*hive);
-    if (write) {
-        settings.SetDWORD(L"Wanderkit", L"marker", 7);
-        const std::vector<std::uint8_t> padding(40000, 0xA5); // so that a truncation cuts real pages
-        settings.SetBinary(L"Wanderkit", L"padding", padding.data(), padding.size());
-    }
-    return settings.GetDWORD(L"Wanderkit", L"marker") == 7;
-}
-
-bool objectStoreMarker(const std::filesystem::path& file, MessageSink& messages, bool write)
-{
-    auto store = ObjectStore::open(file, messages);
-    if (!store)
-        return false;
-    PropertyDatabase database(*store);
-    if (write) {
-        const std::array<PropertyId, 1> sort = {1};
-        database.Create(L"marker", 1, 1, sort, 0);
-        database.Open(L"marker");
-        database.Add(std::array<Property, 1> {{{1, L"7"}}}, 0);
-        for (int i = 0; i < 40; ++i) // so that a truncation cuts real pages
-            database.Add(std::array<Property, 1> {{{1, std::wstring(900, L'p')}}}, PropertyDatabase::NoKey);
-    }
-    return database.Open(L"marker") && database.ReadAt(0, 1) == L"7";
-}
-
-// Each state file, with a way to open it, store a marker when `write`, and tell whether the marker is there.
+// Each state file, with a way to open it, store a marker when `write` (padded so that a truncation cuts
+// real pages), and tell whether the marker is there; false when the file cannot be opened.
 using OpenAndCheck = bool (*)(const std::filesystem::path& file, MessageSink& messages, bool write);
 const std::pair<const char*, OpenAndCheck> Kinds[] = {
-    {"registry.db", &registryMarker},
-    {"objectstore.db", &objectStoreMarker},
+    {"registry.db",
+        [](const std::filesystem::path& file, MessageSink& messages, bool write) {
+            const auto hive = SettingsHive::open(file, messages);
+            if (hive && write) {
+                const std::vector<std::uint8_t> padding(40000, 0xA5);
+                RegistrySettings(*hive).SetBinary(L"Wanderkit", L"padding", padding.data(), padding.size());
+                RegistrySettings(*hive).SetDWORD(L"Wanderkit", L"marker", 7);
+            }
+            return hive && RegistrySettings(*hive).GetDWORD(L"Wanderkit", L"marker") == 7;
+        }},
+    {"objectstore.db",
+        [](const std::filesystem::path& file, MessageSink& messages, bool write) {
+            const auto store = ObjectStore::open(file, messages);
+            if (!store)
+                return false;
+            PropertyDatabase database(*store);
+            if (write) {
+                database.Create(L"marker", 1, 1, std::array<PropertyId, 1> {1}, 0);
+                database.Open(L"marker");
+                database.Add(std::array<Property, 1> {{{1, L"7"}}}, 0);
+                for (int i = 0; i < 40; ++i)
+                    database.Add(std::array<Property, 1> {{{1, std::wstring(900, L'p')}}}, PropertyDatabase::NoKey);
+            }
+            return database.Open(L"marker") && database.ReadAt(0, 1) == L"7";
+        }},
 };
 
 // A real state file cut in the middle of its pages.
@@ -90,12 +82,10 @@ std::vector<std::filesystem::path> setAside(const std::filesystem::path& folder)
 
 TEST(StateFile, UnreadableFilesAreSetAsideAndReplaced)
 {
-    const std::pair<const char*, void (*)(const std::filesystem::path&)> damages[] = {
-        {"garbage", [](const std::filesystem::path& file) { overwriteWith(file, std::string(3000, '\x5A')); }},
-        {"a short garbage file", [](const std::filesystem::path& file) { overwriteWith(file, "not a database"); }},
-        {"a truncated real database", &truncateToHalf},
-        {"a database of another program", &foreignDatabase},
-    };
+    const std::pair<const char*, void (*)(const std::filesystem::path&)> damages[]
+        = {{"garbage", [](const std::filesystem::path& file) { overwriteWith(file, std::string(3000, '\x5A')); }},
+            {"a short garbage file", [](const std::filesystem::path& file) { overwriteWith(file, "not a database"); }},
+            {"a truncated real database", &truncateToHalf}, {"a database of another program", &foreignDatabase}};
     for (const auto& [name, openAndCheck] : Kinds) {
         for (const auto& [what, damage] : damages) {
             SCOPED_TRACE(std::string(name) + ": " + what);
@@ -121,35 +111,29 @@ TEST(StateFile, UnreadableFilesAreSetAsideAndReplaced)
             EXPECT_EQ(messages.messages.size(), 1u);
         }
     }
-}
 
-TEST(StateFile, FilesArePrivate)
-{
-    for (const auto& [name, openAndCheck] : Kinds) {
-        SCOPED_TRACE(name);
-        TempDir dir;
-        const auto file = dir.path() / "state" / name;
-        RecordingMessageSink messages;
-        ASSERT_TRUE(openAndCheck(file, messages, true));
-        struct stat info = {};
-        auto store = ObjectStore::open(file.parent_path() / "open.db", messages); // keeps its -wal and -shm
-        for (const auto& entry : std::filesystem::directory_iterator(file.parent_path())) {
-            ASSERT_EQ(::stat(entry.path().c_str(), &info), 0);
-            EXPECT_EQ(info.st_mode & 0777, 0600u) << entry.path();
-        }
-        ASSERT_EQ(::stat(file.parent_path().c_str(), &info), 0);
-        EXPECT_EQ(info.st_mode & 0777, 0700u);
-        EXPECT_TRUE(messages.messages.empty());
-        EXPECT_TRUE(setAside(file.parent_path()).empty());
-    }
-}
-
-TEST(StateFile, NothingWhenNoFileCanBeCreated)
-{
+    // Nothing, and no message, when no file can be created.
     TempDir dir;
     dir.write("plain", "a file where a folder should be");
     RecordingMessageSink messages;
     EXPECT_EQ(SettingsHive::open(dir.path() / "plain" / "registry.db", messages), nullptr);
     EXPECT_EQ(ObjectStore::open(dir.path() / "plain" / "objectstore.db", messages), nullptr);
     EXPECT_TRUE(messages.messages.empty());
+}
+
+// State files are private, the -wal and -shm files of an open store too, in a private folder.
+TEST(StateFile, FilesArePrivate)
+{
+    namespace fs = std::filesystem;
+    for (const auto& [name, openAndCheck] : Kinds) {
+        TempDir dir;
+        const fs::path folder = dir.path() / "state";
+        RecordingMessageSink messages;
+        ASSERT_TRUE(openAndCheck(folder / name, messages, true));
+        const auto open = ObjectStore::open(folder / "open.db", messages); // keeps its -wal and -shm
+        for (const auto& entry : fs::directory_iterator(folder))
+            EXPECT_EQ(int(fs::status(entry).permissions()), 0600) << entry.path();
+        EXPECT_EQ(int(fs::status(folder).permissions()), 0700) << name;
+        EXPECT_TRUE(messages.messages.empty());
+    }
 }

@@ -37,8 +37,7 @@ TEST(CityCatalogue, LoadsTheCitiesFile)
     const std::string texas = "3;Paris;Texas;-95.5;33.6;-6;a;b;c;d;e\n";
     const std::string secondRome = "4;Rome;Italy;0;0;0;a;b;c;d;e\n";
     // The cities as "city|country|coordinate 1" in catalogue order.
-    using Case = std::tuple<const char*, std::string, std::vector<std::wstring>>;
-    const Case cases[] = {
+    const std::tuple<const char*, std::string, std::vector<std::wstring>> cases[] = {
         {"sorted by city and country", "3\n" + rome + paris + texas,
             {L"Paris|France|2.3", L"Paris|Texas|-95.5", L"Rome|Italy|12.5"}},
         {"the first line of a city and country wins", "3\n" + rome + secondRome + paris,
@@ -51,10 +50,8 @@ TEST(CityCatalogue, LoadsTheCitiesFile)
         {"a count larger than the lines adds one empty city", "5\n" + rome, {L"||", L"Rome|Italy|12.5"}},
         {"a huge count ends at the end of the file", "2147483647\n" + rome, {L"||", L"Rome|Italy|12.5"}},
         {"a count smaller than the lines reads that many", "1\n" + rome + paris, {L"Rome|Italy|12.5"}},
-        {"a count of 0", "0\n" + rome, {}},
-        {"a negative count", "-4\n" + rome, {}},
-        {"bytes above 127 are Latin-1", "1\n1;Z\xFCrich;Schweiz;1;1;1;a;b;c;d;e\n", {L"Z\u00FCrich|Schweiz|1"}},
-    };
+        {"a count of 0", "0\n" + rome, {}}, {"a negative count", "-4\n" + rome, {}},
+        {"bytes above 127 are Latin-1", "1\n1;Z\xFCrich;Schweiz;1;1;1;a;b;c;d;e\n", {L"Z\u00FCrich|Schweiz|1"}}};
     for (const auto& [what, afterHeader, cities] : cases) {
         SCOPED_TRACE(what);
         Device device(Header + afterHeader);

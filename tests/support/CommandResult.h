@@ -6,6 +6,10 @@
 #include <string>
 #include <vector>
 
+namespace testing {
+class AssertionResult;
+}
+
 // What a text command printed and returned.
 struct CommandResult
 {
@@ -16,4 +20,9 @@ struct CommandResult
     // Runs `command` with `args` on the device `device`.
     static CommandResult of(
         const std::string& command, const std::vector<std::string>& args, const DeviceOptions& device = {});
+
+    // Done: exit code 0, exactly `expected` printed and nothing on the error stream.
+    [[nodiscard]] testing::AssertionResult printed(const std::string& expected) const;
+    // Exit code `expected`, nothing printed, and `message` within the error text.
+    [[nodiscard]] testing::AssertionResult refused(int expected, const std::string& message) const;
 };

@@ -18,10 +18,7 @@ public:
     std::int32_t standardBias() const override { return m_bias; }
 
     void set(const SystemTime& now) { m_now = now; }
-    void setBias(std::int32_t bias) { m_bias = bias; }
     void advanceMilliseconds(long long milliseconds);
-    void advanceSeconds(long long seconds) { advanceMilliseconds(seconds * 1000); }
-    void advanceMinutes(long long minutes) { advanceSeconds(minutes * 60); }
 
 private:
     SystemTime m_now;

@@ -35,7 +35,7 @@ TEST(CalendarDays, AddDaysWalksTheCalendarAcrossCenturies)
     }
 }
 
-TEST(CalendarDays, AddDaysLeavesWhatItCannotMove)
+TEST(CalendarDays, DaysThatCannotMoveOverlongTimesAndLaterDays)
 {
     const SystemTime firstDay = C::at(1601, 1, 1, 0, 0, 0);
     const SystemTime lastDay = C::at(30827, 12, 31, 12, 0, 0);
@@ -45,10 +45,8 @@ TEST(CalendarDays, AddDaysLeavesWhatItCannotMove)
     EXPECT_EQ(AddDays(lastDay, 1), lastDay);
     EXPECT_EQ(AddDays(notADate, 1), notADate);
     EXPECT_EQ(AddDays(firstDay, std::int64_t {1} << 40), firstDay);
-}
 
-TEST(CalendarDays, AnOverlongTimeOfDayCarriesIntoTheDaysUpToTheLastSupportedDay)
-{
+    // An overlong time of day carries into the days, up to the last supported day.
     // 65,535 hours are 2,730 days and 15 hours: 2026 to 2032 hold 2,557 days (two leap years), and the
     // remaining 173 days from 1 January 2033 end on 23 June.
     SystemTime hour65535 = C::at(2026, 1, 1, 0, 0, 0);
@@ -62,18 +60,14 @@ TEST(CalendarDays, AnOverlongTimeOfDayCarriesIntoTheDaysUpToTheLastSupportedDay)
     EXPECT_EQ(MoveByDays(lastDayHour24, 0), std::nullopt);
     EXPECT_EQ(MoveByDays(lastDayHour24, -1), C::at(30827, 12, 31, 0, 0, 0));
     EXPECT_EQ(AddDays(lastDayHour24, 1), lastDayHour24);
-}
 
-TEST(CalendarDays, IsLaterDayComparesDaysWithTheirMilliseconds)
-{
+    // A later day is told by the days with their milliseconds.
     const std::tuple<SystemTime, SystemTime, bool> cases[]
         = {{C::at(2026, 3, 29, 23, 0, 0), C::at(2026, 3, 29, 1, 0, 0), false},
             {C::at(2026, 3, 29, 0, 0, 0, 1), C::at(2026, 3, 29, 23, 0, 0), true},
             {C::at(2026, 3, 30, 0, 0, 0), C::at(2026, 3, 29, 23, 59, 59, 999), true},
             {C::at(2027, 1, 1, 0, 0, 0), C::at(2026, 12, 31, 0, 0, 0, 999), true},
             {SystemTime {}, C::at(2026, 1, 1, 0, 0, 0), false}};
-    for (std::size_t i = 0; i < std::size(cases); ++i) {
-        const auto& [a, b, later] = cases[i];
-        EXPECT_EQ(IsLaterDay(a, b), later) << "case " << i;
-    }
+    for (const auto& [a, b, later] : cases)
+        EXPECT_EQ(IsLaterDay(a, b), later) << a.day << " against " << b.day;
 }

@@ -28,8 +28,7 @@ TEST(CityPanelValues, StatusPeriodAndTimeZone)
     };
     for (const auto& [city, now, expected] : cases) {
         const CityPanelValues values = ComputeCityPanelValues(city, {2, 0}, now);
-        EXPECT_EQ(values.status, expected.status) << city.timeZoneText;
-        EXPECT_EQ(values.period, expected.period) << city.timeZoneText;
-        EXPECT_EQ(values.timeZone, expected.timeZone) << city.timeZoneText;
+        EXPECT_EQ(std::tie(values.status, values.period, values.timeZone),
+            std::tie(expected.status, expected.period, expected.timeZone));
     }
 }

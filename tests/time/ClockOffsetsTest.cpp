@@ -33,27 +33,27 @@ TEST(ClockOffsets, DeviceOffsetComesFromTheBiasOrTheHomeCity)
         {false, 0, {L"-330", L"1:67:2:305:2"}, july, {-2, -30}},
         {false, 0, {L"", L"0"}, july, {0, 0}},
     };
-    for (std::size_t i = 0; i < std::size(cases); ++i) {
-        const auto& [syncltz, bias, home, now, expected] = cases[i];
-        EXPECT_EQ(ComputeDeviceOffset(syncltz, bias, home, now), expected) << "case " << i;
-    }
+    for (const auto& [syncltz, bias, home, now, expected] : cases)
+        EXPECT_EQ(ComputeDeviceOffset(syncltz, bias, home, now), expected) << bias << " " << home.timeZoneText;
 }
 
 // Whole years, day by day at several times of day, for the home city and for any other, against the rule
-// stated in day numbers: the start day is inside, the end day outside except at 0 ms; southern periods run
-// into next year, so January to March are outside; an end before the start in the same month never starts.
+// stated in day numbers: the start day is inside, the end day outside except at 0 ms. Southern and day-366
+// ends fall in the next year, so the period runs to the end of this one (day 400: no end this year) and
+// January to March are outside; an end before the start in the same month never starts (day 400).
 TEST(ClockOffsets, DaylightAcrossWholeYears)
 {
-    const auto northern = [](int d, int ms) { return (d >= 88 && d < 298) || (d == 298 && ms == 0); };
-    const std::tuple<std::wstring, int, bool (*)(int, int)> rules[] = {{L"1:88:2:298:3", 2026, northern},
-        {L"1:88:2:298:3", 2024, northern}, {L"1:277:2:95:3", 2026, [](int d, int) { return d >= 277; }},
-        {L"1:100:2:95:3", 2026, [](int, int) { return false; }}};
+    // Rule, year, first and last day in the period.
+    const std::tuple<std::wstring, int, int, int> rules[]
+        = {{L"1:88:2:298:3", 2026, 88, 298}, {L"1:88:2:298:3", 2024, 88, 298}, {L"1:277:2:95:3", 2026, 277, 400},
+            {L"1:270:2:95:3", 2023, 270, 400}, {L"1:270:2:95:3", 2024, 270, 400}, {L"1:88:2:366:3", 2026, 88, 400},
+            {L"1:88:2:366:3", 2024, 88, 366}, {L"1:100:2:95:3", 2026, 400, 400}};
     const int times[][4] = {{0, 0, 0, 0}, {0, 0, 0, 1}, {2, 0, 0, 0}, {12, 30, 15, 500}, {23, 59, 59, 999}};
-    for (const auto& [rule, year, expected] : rules) {
+    for (const auto& [rule, year, start, end] : rules) {
         for (int d = 1; d <= (year % 4 == 0 ? 366 : 365); ++d) {
             for (const auto& t : times) {
                 const SystemTime now = C::at(year, 1, d, t[0], t[1], t[2], t[3]);
-                const int shift = expected(d, t[3]) ? 1 : 0;
+                const int shift = d >= start && (d < end || (d == end && t[3] == 0)) ? 1 : 0;
                 const ClockSlot city = ComputeCitySlot({L"0", rule}, {0, 0}, now);
                 ASSERT_EQ(ComputeDeviceOffset(false, 0, {L"0", rule}, now).hours, shift) << rule << " day " << d;
                 ASSERT_EQ(city.offset, shift) << rule << " day " << d << " at " << t[0] << ":" << t[1] << "." << t[3];
@@ -81,10 +81,8 @@ TEST(ClockOffsets, HomeSlotKeepsTheBiasUnlessSynchronised)
     EXPECT_EQ(slots[0].offset, -270);
     ComputeCityOffsets(slots, cities, true, 210, {2, 0}, now);
     EXPECT_EQ(slots[0], (ClockSlot {2, 1, C::at(2026, 3, 29, 2, 0, 0), C::at(2026, 10, 25, 3, 0, 0)}));
-}
 
-TEST(ClockOffsets, CityDaylightFollowsTheCitysOwnDate)
-{
+    // A city's daylight saving follows the city's own date.
     const CityZoneTexts london {L"0", L"1:88:1:298:2"};
     const DeviceOffset tokyo {9, 0};
     // Device in Tokyo on the start day; London reaches that day only at 09:00 Tokyo time.

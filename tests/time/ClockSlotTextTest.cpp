@@ -24,10 +24,8 @@ TEST(ClockSlotText, HomeShowsTheDevicesTimeAndCitiesDropSecondsAndYear)
 
     EXPECT_TRUE(IsDeviceMidnight(FormatHomeSlot(ClockSlot {470}, C::at(2026, 3, 9, 0, 0, 0, 999))));
     EXPECT_FALSE(IsDeviceMidnight(FormatHomeSlot(ClockSlot {470}, C::at(2026, 3, 9, 0, 0, 1))));
-}
 
-TEST(ClockSlotText, TwelveHourRewritesTheHourAndSetsTheMark)
-{
+    // Twelve-hour time rewrites the hour and sets the mark.
     const std::tuple<std::wstring, std::wstring, std::wstring> cases[] = {{L"00:05", L"12:05", L"AM"},
         {L"00:00:00", L"12:00:00", L"AM"}, {L"09:15", L"09:15", L"AM"}, {L"11:59", L"11:59", L"AM"},
         {L"12:00", L"12:00", L"PM"}, {L"12:45:30", L"12:45:30", L"PM"}, {L"13:00", L"01:00", L"PM"},

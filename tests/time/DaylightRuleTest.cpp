@@ -33,6 +33,9 @@ TEST(DaylightRule, ReadsFieldsUpToTheNextColonOrTheEnd)
     EXPECT_TRUE(ParseDaylightRule(L"00:88:2:298:3").observes() && ParseDaylightRule(L"").observes());
 }
 
+// Whether each day is in the period is checked over whole years with the clock offsets; here the
+// boundaries themselves. Next-year ends are counted in this year, then given next year's number: a leap
+// day in either year does not move them.
 TEST(DaylightRule, BuildsThisYearsBoundariesFromDayNumbers)
 {
     const std::tuple<std::wstring, int, DaylightPeriod> cases[] = {
@@ -40,58 +43,22 @@ TEST(DaylightRule, BuildsThisYearsBoundariesFromDayNumbers)
         {L"1:88:2:298:3", 2024, {C::at(2024, 3, 28, 2, 0, 0), C::at(2024, 10, 24, 3, 0, 0)}},
         // Southern: the end month comes first, so the end moves to next year (2027 is not leap).
         {L"1:277:2:95:3", 2026, {C::at(2026, 10, 4, 2, 0, 0), Renumbered(C::at(2026, 4, 5, 3, 0, 0), 2027)}},
+        // Auckland in 2023, a common year: day 270 is 27 September, day 95 is 5 April (31 + 28 + 31 + 5).
+        {L"1:270:2:95:3", 2023, {C::at(2023, 9, 27, 2, 0, 0), Renumbered(C::at(2023, 4, 5, 3, 0, 0), 2024)}},
+        // 2024 is leap: both days fall one date earlier, the end keeps 4 April in 2025.
+        {L"1:270:2:95:3", 2024, {C::at(2024, 9, 26, 2, 0, 0), Renumbered(C::at(2024, 4, 4, 3, 0, 0), 2025)}},
         // Same month, end before start: the end stays in this year.
         {L"1:100:2:95:3", 2026, {C::at(2026, 4, 10, 2, 0, 0), C::at(2026, 4, 5, 3, 0, 0)}},
         // Day 0 is the day before 1 January; as a start, its December pushes the end to next year.
         {L"1:0:2:298:3", 2026, {C::at(2025, 12, 31, 2, 0, 0), Renumbered(C::at(2026, 10, 25, 3, 0, 0), 2027)}},
         {L"1:88:2:0:3", 2026, {C::at(2026, 3, 29, 2, 0, 0), C::at(2025, 12, 31, 3, 0, 0)}},
-    };
-    for (const auto& [rule, year, period] : cases)
-        EXPECT_EQ(DaylightPeriodOf(ParseDaylightRule(rule), year), period) << rule << " in " << year;
-}
-
-// Next-year ends are counted in this year, then given next year's number: a leap day in either year
-// does not move them. Auckland's rule starts on day 270 and ends on day 95.
-TEST(DaylightRule, CountsNextYearsEndInThisYear)
-{
-    const std::tuple<std::wstring, int, DaylightPeriod> cases[] = {
-        // 2023 is common: day 270 is 27 September, day 95 is 5 April (31 + 28 + 31 + 5), moved to 2024.
-        {L"1:270:2:95:3", 2023, {C::at(2023, 9, 27, 2, 0, 0), Renumbered(C::at(2023, 4, 5, 3, 0, 0), 2024)}},
-        // 2024 is leap: both days fall one date earlier, the end keeps 4 April in 2025.
-        {L"1:270:2:95:3", 2024, {C::at(2024, 9, 26, 2, 0, 0), Renumbered(C::at(2024, 4, 4, 3, 0, 0), 2025)}},
-        {L"1:270:2:95:3", 2027, {C::at(2027, 9, 27, 2, 0, 0), Renumbered(C::at(2027, 4, 5, 3, 0, 0), 2028)}},
         // Day 366 of a common year is 1 January of the next; its month 1 gets next year's number once.
         {L"1:88:2:366:3", 2026, {C::at(2026, 3, 29, 2, 0, 0), C::at(2027, 1, 1, 3, 0, 0)}},
-        {L"1:88:2:366:3", 2027, {C::at(2027, 3, 29, 2, 0, 0), C::at(2028, 1, 1, 3, 0, 0)}},
         // Day 366 of a leap year is 31 December of that year: no move.
         {L"1:88:2:366:3", 2024, {C::at(2024, 3, 28, 2, 0, 0), C::at(2024, 12, 31, 3, 0, 0)}},
-        // Northern rules in a leap year keep both ends in the year.
-        {L"1:88:2:298:3", 2028, {C::at(2028, 3, 28, 2, 0, 0), C::at(2028, 10, 24, 3, 0, 0)}},
     };
     for (const auto& [rule, year, period] : cases)
         EXPECT_EQ(DaylightPeriodOf(ParseDaylightRule(rule), year), period) << rule << " in " << year;
-}
-
-// Whether daylight saving runs on a day of the period's own year: from the start day on, and for
-// southern and day-366 rules to the end of the year.
-TEST(DaylightRule, ObservesFromTheStartDayToTheEndOfTheYearForNextYearEnds)
-{
-    const std::tuple<std::wstring, SystemTime, bool> cases[] = {
-        {L"1:270:2:95:3", C::at(2023, 10, 10, 12, 0, 0), true},
-        {L"1:270:2:95:3", C::at(2023, 9, 26, 23, 59, 59), false},
-        {L"1:270:2:95:3", C::at(2023, 9, 27, 0, 0, 0), true},
-        {L"1:270:2:95:3", C::at(2023, 12, 31, 23, 59, 59), true},
-        {L"1:270:2:95:3", C::at(2024, 1, 1, 12, 0, 0), false},
-        {L"1:270:2:95:3", C::at(2024, 4, 3, 12, 0, 0), false},
-        {L"1:270:2:95:3", C::at(2024, 9, 26, 0, 0, 1), true},
-        {L"1:88:2:366:3", C::at(2026, 12, 31, 23, 0, 0), true},
-        {L"1:88:2:366:3", C::at(2026, 3, 28, 23, 0, 0), false},
-        {L"1:88:2:366:3", C::at(2024, 12, 31, 12, 0, 0, 1), false},
-        {L"1:88:2:366:3", C::at(2024, 12, 30, 12, 0, 0), true},
-    };
-    for (const auto& [rule, now, observing] : cases)
-        EXPECT_EQ(IsInDaylightPeriod(DaylightPeriodOf(ParseDaylightRule(rule), now.year), now), observing)
-            << rule << " on " << now.day << "/" << now.month << "/" << now.year;
 }
 
 TEST(DaylightRule, ABoundaryPastTheSupportedDatesMakesARuleThatNeverApplies)
@@ -104,7 +71,6 @@ TEST(DaylightRule, ABoundaryPastTheSupportedDatesMakesARuleThatNeverApplies)
     const std::tuple<std::wstring, int, DaylightPeriod> cases[] = {
         {L"1:10519714:0:300:2", 2026, {lastDay, Renumbered(C::at(2026, 10, 27, 2, 0, 0), 2027)}},
         {L"1:10519714:24:300:2", 2026, {never, never, false}},
-        {L"1:10519714:6195:300:2", 2026, {never, never, false}},
         {L"1:88:2:2147483647:3", 2026, {never, never, false}},
         {L"1:-2147483648:2:298:3", 2026, {never, never, false}},
         // The southern end is numbered 30828, past the last supported year.

@@ -17,11 +17,6 @@
 
 namespace {
 
-Spinner* spinner(ClothingScreen& screen, const char* name)
-{
-    return screen.findChild<Spinner*>(QString::fromUtf8(name));
-}
-
 QStringList texts(std::span<const int> ids)
 {
     QStringList result;
@@ -40,16 +35,6 @@ std::pair<QString, QStringList> table(int wearer, int garment)
     return {ToQString(StringTable::Load(found->titleId)), rows};
 }
 
-// Stores "who" and "cloth"; nothing stored for an empty value.
-void store(ScreenTestBench& bench, std::optional<std::uint32_t> who, std::optional<std::uint32_t> cloth)
-{
-    RegistrySettings settings(bench.settings);
-    if (who)
-        WriteSetting(settings, Settings::ClothesWho, *who);
-    if (cloth)
-        WriteSetting(settings, Settings::ClothesKind, *cloth);
-}
-
 } // namespace
 
 class ClothingScreenTest : public QObject
@@ -61,25 +46,24 @@ private slots:
     {
         ScreenTestBench bench;
         ClothingScreen screen(bench.environment, bench.window);
-        store(bench, 0, 3);
+        bench.store(Settings::ClothesKind, 3);
         bench.visit(screen, [&] {
-            Spinner* wearer = spinner(screen, "wearerSpinner");
-            Spinner* garment = spinner(screen, "garmentSpinner");
+            auto* wearer = child<Spinner>(screen, "wearerSpinner");
+            auto* garment = child<Spinner>(screen, "garmentSpinner");
             QCOMPARE(wearer->items(), texts(ClothingSizes::Wearers()));
             wearer->setFocus();
-            for (int i = 0; i < 3; ++i) {
+            for (int i = 0; i < 3; ++i, bench.press(Qt::Key_Right)) {
                 const int shown = i == 0 ? 3 : 0; // another wearer starts on the first garment
                 QCOMPARE(wearer->currentIndex(), i);
                 QCOMPARE(garment->items(), texts(ClothingSizes::Garments(i)));
                 QCOMPARE(garment->currentIndex(), shown);
                 QCOMPARE(std::pair(screen.tableTitle(), screen.shownRows()), table(i, shown));
-                bench.press(Qt::Key_Right);
             }
             QCOMPARE(wearer->currentIndex(), 2); // the wearer list does not wrap
         });
     }
 
-    void shiftStepsHideTenCharactersEachUpToTwenty()
+    void shiftStepsHideTenCharactersEachUpToTwentyAndTheFocusWalksRound()
     {
         const std::pair<Qt::Key, int> steps[] = {{Qt::Key_Right, 1}, {Qt::Key_Right, 2}, {Qt::Key_Right, 2},
             {Qt::Key_Left, 1}, {Qt::Key_Left, 0}, {Qt::Key_Left, 0}, {Qt::Key_Right, 1}};
@@ -88,7 +72,7 @@ private slots:
         bench.visit(screen, [&] {
             const QStringList unshifted = table(0, 0).second;
             QCOMPARE(screen.shownRows(), unshifted);
-            QCOMPARE(bench.window.focusWidget(), spinner(screen, "shiftSpinner"));
+            QCOMPARE(bench.window.focusWidget(), child<Spinner>(screen, "shiftSpinner"));
             for (const auto& [key, shift] : steps) {
                 bench.press(key);
                 QCOMPARE(screen.shift(), shift);
@@ -96,11 +80,23 @@ private slots:
                     QCOMPARE(screen.shownRows().at(row), unshifted.at(row).mid(10 * shift));
             }
         });
-        // A new visit starts unscrolled.
-        bench.visit(screen, [&] { QCOMPARE(screen.shift(), 0); });
+        // A new visit starts unscrolled; Down and Up walk the lists round; nothing to undo or clear here.
+        bench.visit(screen, [&] {
+            QCOMPARE(screen.shift(), 0);
+            for (const char* name : {"wearerSpinner", "garmentSpinner", "shiftSpinner"}) {
+                bench.press(Qt::Key_Down);
+                QCOMPARE(bench.window.focusWidget(), child<Spinner>(screen, name));
+            }
+            bench.press(Qt::Key_Up);
+            bench.press(Qt::Key_Up);
+            QCOMPARE(bench.window.focusWidget(), child<Spinner>(screen, "wearerSpinner"));
+            screen.softKeys()->chooseItem(Commands::Undo);
+            screen.softKeys()->chooseItem(Commands::Clear);
+            QCOMPARE(std::pair(screen.tableTitle(), screen.shownRows()), table(0, 0));
+        });
     }
 
-    void storedChoicesAreReadWithTheirDefaults()
+    void storedChoicesAreReadWithTheirDefaultsAndWrittenOnLeaving()
     {
         using Case = std::tuple<std::optional<std::uint32_t>, std::optional<std::uint32_t>, int, int>;
         const Case cases[] = {
@@ -115,10 +111,13 @@ private slots:
         for (const auto& [who, cloth, wearer, garment] : cases) {
             ScreenTestBench bench;
             ClothingScreen screen(bench.environment, bench.window);
-            store(bench, who, cloth);
+            if (who)
+                bench.store(Settings::ClothesWho, *who);
+            if (cloth)
+                bench.store(Settings::ClothesKind, *cloth);
             bench.visit(screen, [&] {
-                QCOMPARE(spinner(screen, "wearerSpinner")->currentIndex(), wearer);
-                QCOMPARE(spinner(screen, "garmentSpinner")->currentIndex(), garment);
+                QCOMPARE(child<Spinner>(screen, "wearerSpinner")->currentIndex(), wearer);
+                QCOMPARE(child<Spinner>(screen, "garmentSpinner")->currentIndex(), garment);
                 QCOMPARE(screen.tableTitle(), table(wearer, garment).first);
                 // Reading writes no default back.
                 QCOMPARE(bench.stored(Settings::ClothesWho), who.value_or(ScreenTestBench::NotStored));
@@ -128,35 +127,6 @@ private slots:
             QCOMPARE(bench.stored(Settings::ClothesWho), static_cast<std::uint32_t>(wearer));
             QCOMPARE(bench.stored(Settings::ClothesKind), static_cast<std::uint32_t>(garment));
         }
-    }
-
-    void choicesAreWrittenOnLeavingAndShownOnTheNextVisit()
-    {
-        ScreenTestBench bench;
-        ClothingScreen screen(bench.environment, bench.window);
-        bench.visit(screen, [&] {
-            bench.press(Qt::Key_Down); // from the shift spinner to the wearer
-            QCOMPARE(bench.window.focusWidget(), spinner(screen, "wearerSpinner"));
-            bench.press(Qt::Key_Right);
-            bench.press(Qt::Key_Down);
-            QCOMPARE(bench.window.focusWidget(), spinner(screen, "garmentSpinner"));
-            bench.press(Qt::Key_Right);
-            bench.press(Qt::Key_Right);
-            bench.press(Qt::Key_Down); // round to the shift spinner, and back up
-            QCOMPARE(bench.window.focusWidget(), spinner(screen, "shiftSpinner"));
-            bench.press(Qt::Key_Up);
-            bench.press(Qt::Key_Up);
-            QCOMPARE(bench.window.focusWidget(), spinner(screen, "wearerSpinner"));
-            // Nothing to undo or clear here.
-            screen.softKeys()->chooseItem(Commands::Undo);
-            screen.softKeys()->chooseItem(Commands::Clear);
-            QVERIFY(screen.isRunning());
-            QCOMPARE(screen.tableTitle(), table(1, 2).first);
-            bench.press(Qt::Key_F1);
-        });
-        QCOMPARE(bench.stored(Settings::ClothesWho), 1u);
-        QCOMPARE(bench.stored(Settings::ClothesKind), 2u);
-        bench.visit(screen, [&] { QCOMPARE(screen.tableTitle(), table(1, 2).first); });
     }
 };
 

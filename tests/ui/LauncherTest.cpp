@@ -32,10 +32,14 @@ protected:
     }
 };
 
-// The label band between the two arrows (left arrow ends at x = 20 + 24, right one starts at 240 - 35).
-QImage labelBetweenArrows(const QImage& window)
+// Runs a launcher on `bench`, calls `drive` with it once it is shown, then leaves it with "Exit".
+void withLauncher(ScreenTestBench& bench, const std::function<void(ServicesApp&)>& drive)
 {
-    return window.copy(45, 228, 240 - 35 - 45, 40);
+    ServicesApp launcher(bench.environment, bench.window);
+    bench.run(launcher, [&] {
+        drive(launcher);
+        bench.window.topSoftKeys()->chooseItem(Commands::Exit);
+    });
 }
 
 } // namespace
@@ -44,28 +48,14 @@ class LauncherTest : public QObject
 {
     Q_OBJECT
 
-private:
-    // Runs the launcher, calls `drive` once it is shown, then leaves it with "Exit".
-    static void withLauncher(ScreenTestBench& bench, ServicesApp& launcher, const std::function<void()>& drive)
-    {
-        bench.run(launcher, [&] {
-            drive();
-            bench.window.topSoftKeys()->chooseItem(Commands::Exit);
-        });
-    }
-
 private slots:
-    void selectionWrapsAndTodoListOpensNothing()
+    void selectionWrapsTodoListOpensNothingAndAnArrowStaysLargeFor250ms()
     {
         ScreenTestBench bench;
-        ServicesApp launcher(bench.environment, bench.window);
-        withLauncher(bench, launcher, [&] {
-            QCOMPARE(launcher.selection(), 0);
-            for (int i = 1; i <= 7; ++i)
-                bench.press(Qt::Key_Right);
-            QCOMPARE(launcher.selection(), 7);
-            bench.press(Qt::Key_Right);
-            QCOMPARE(launcher.selection(), 0);
+        withLauncher(bench, [&](ServicesApp& launcher) {
+            for (int i = 0; i <= 8; bench.press(Qt::Key_Right), ++i)
+                QCOMPARE(launcher.selection(), i % 8); // from "Todo List" (7) on to the first
+            bench.press(Qt::Key_Left);
             bench.press(Qt::Key_Left);
             QCOMPARE(launcher.selection(), 7);
             bench.press(Qt::Key_Return); // "Todo List"
@@ -77,63 +67,9 @@ private slots:
             QCOMPARE(bench.boxes.shown.size(), std::size_t(1));
             QCOMPARE(bench.boxes.shown[0].text, QStringLiteral("e"));
             QCOMPARE(bench.boxes.shown[0].caption, QString());
-        });
-    }
-
-    void aLetterSelectsLikeAStepWithoutArrowsAndTheActionKeyOpensWhatIsShown()
-    {
-        ScreenTestBench bench;
-        ServicesApp launcher(bench.environment, bench.window);
-        bool dialingOpened = false;
-        withLauncher(bench, launcher, [&] {
-            const QImage worldClocks = bench.render();
-            QVERIFY(QTest::qWaitForWindowExposed(&bench.window));
-            QCoreApplication::processEvents();
-            PaintedArea painted(launcher);
-            QCoreApplication::processEvents();
-            QVERIFY(painted.region.isEmpty()); // nothing left to paint before the key
-            bench.press(Qt::Key_D);
-            QCOMPARE(launcher.selection(), 6);
-            QVERIFY(!launcher.leftArrowPressed() && !launcher.rightArrowPressed());
-            // The highlight and the label band are repainted at once, as after a step.
-            QTRY_VERIFY_WITH_TIMEOUT(painted.region.contains(QRect(0, 228, 240, 40)), 1000);
-            QVERIFY(painted.region.contains(launcher.highlightRect()));
-            const QImage byLetter = bench.render();
-            QVERIFY(labelBetweenArrows(byLetter) != labelBetweenArrows(worldClocks));
-
-            bench.whenShown(*launcher.serviceScreen(6), [&] {
-                dialingOpened = true;
-                launcher.serviceScreen(6)->endScreen();
-            });
-            bench.press(Qt::Key_Return);
-            QVERIFY(dialingOpened);
-
-            // Back to "World Clocks" and six steps to "Dialing codes": the same label is painted.
-            for (int i = 0; i < 6; ++i)
-                bench.press(Qt::Key_Left);
-            for (int i = 0; i < 6; ++i)
-                bench.press(Qt::Key_Right);
+            // An arrow stays large until 250 ms after the last press.
             bench.advance(250);
-            QVERIFY(!launcher.rightArrowPressed());
-            QCOMPARE(labelBetweenArrows(bench.render()), labelBetweenArrows(byLetter));
-            QCOMPARE(bench.render(), byLetter);
-
-            // A letter looks from the next service on, wrapping: "Dialing codes" is the only "D";
-            // the "C"s are "Currency Converter" (3) and "Clothing sizes" (5); no service starts with "Q".
-            const std::pair<Qt::Key, int> letters[]
-                = {{Qt::Key_D, 6}, {Qt::Key_C, 3}, {Qt::Key_C, 5}, {Qt::Key_C, 3}, {Qt::Key_Q, 3}, {Qt::Key_W, 0}};
-            for (const auto& [key, selection] : letters) {
-                bench.press(key);
-                QCOMPARE(launcher.selection(), selection);
-            }
-        });
-    }
-
-    void anArrowStaysLargeUntil250msAfterTheLastPress()
-    {
-        ScreenTestBench bench;
-        ServicesApp launcher(bench.environment, bench.window);
-        withLauncher(bench, launcher, [&] {
+            QVERIFY(!launcher.leftArrowPressed() && !launcher.rightArrowPressed());
             bench.press(Qt::Key_Right);
             QVERIFY(launcher.rightArrowPressed());
             bench.advance(150);
@@ -152,6 +88,45 @@ private slots:
         });
     }
 
+    void aLetterSelectsLikeAStepWithoutArrows()
+    {
+        ScreenTestBench bench;
+        withLauncher(bench, [&](ServicesApp& launcher) {
+            const QImage worldClocks = bench.render();
+            QVERIFY(QTest::qWaitForWindowExposed(&bench.window));
+            QCoreApplication::processEvents();
+            PaintedArea painted(launcher);
+            QCoreApplication::processEvents();
+            QVERIFY(painted.region.isEmpty()); // nothing left to paint before the key
+            bench.press(Qt::Key_D);
+            QCOMPARE(launcher.selection(), 6);
+            QVERIFY(!launcher.leftArrowPressed() && !launcher.rightArrowPressed());
+            // The highlight and the label band are repainted at once, as after a step.
+            QTRY_VERIFY_WITH_TIMEOUT(painted.region.contains(QRect(0, 228, 240, 40)), 1000);
+            QVERIFY(painted.region.contains(launcher.highlightRect()));
+            const QImage byLetter = bench.render();
+            // The label band between the two arrows (the left one ends at x = 20 + 24, the right one starts at 205).
+            QVERIFY(byLetter.copy(45, 228, 160, 40) != worldClocks.copy(45, 228, 160, 40));
+
+            // Back to "World Clocks" and six steps to "Dialing codes": the same label is painted.
+            for (int i = 0; i < 6; ++i)
+                bench.press(Qt::Key_Left);
+            for (int i = 0; i < 6; ++i)
+                bench.press(Qt::Key_Right);
+            bench.advance(250);
+            QCOMPARE(bench.render(), byLetter);
+
+            // A letter looks from the next service on, wrapping: "Dialing codes" is the only "D";
+            // the "C"s are "Currency Converter" (3) and "Clothing sizes" (5); no service starts with "Q".
+            const std::pair<Qt::Key, int> letters[]
+                = {{Qt::Key_D, 6}, {Qt::Key_C, 3}, {Qt::Key_C, 5}, {Qt::Key_C, 3}, {Qt::Key_Q, 3}, {Qt::Key_W, 0}};
+            for (const auto& [key, selection] : letters) {
+                bench.press(key);
+                QCOMPARE(launcher.selection(), selection);
+            }
+        });
+    }
+
     void theHighlightFramesTheSelectedIcon()
     {
         // Icons sit centred in four columns of W / 4: at 240 wide x = 22, 82, 142, 202; at 268 wide the
@@ -159,8 +134,7 @@ private slots:
         using Case = std::pair<QSize, std::array<int, 4>>;
         const Case cases[] = {{{240, 268}, {22, 82, 142, 202}}, {{268, 240}, {25, 92, 159, 226}}};
         ScreenTestBench bench;
-        ServicesApp launcher(bench.environment, bench.window);
-        withLauncher(bench, launcher, [&] {
+        withLauncher(bench, [&](ServicesApp& launcher) {
             for (const auto& [area, columns] : cases) {
                 QCOMPARE(bench.window.workArea(), area);
                 for (int i = 0; i < 8; ++i) {
@@ -181,7 +155,7 @@ private slots:
 
     void servicesComesBackToTheSelectionAndExitEndsEveryScreen()
     {
-        for (const int service : {5, 6}) {
+        for (const int service : {5, 6}) { // "Clothing sizes" and "Dialing codes"
             ScreenTestBench bench;
             ServicesApp launcher(bench.environment, bench.window);
             Screen* screen = launcher.serviceScreen(service);
@@ -199,11 +173,9 @@ private slots:
                 });
                 bench.press(Qt::Key_Return); // returns once the screen has ended
                 QCOMPARE(launcher.selection(), service);
-                // The launcher's own "Services" key is grey.
-                QVERIFY(!launcher.softKeys()->isKeyEnabled(Commands::Services));
+                QVERIFY(!launcher.softKeys()->isKeyEnabled(Commands::Services)); // the launcher's own is grey
                 bench.press(Qt::Key_F1);
                 QCOMPARE(bench.window.topScreen(), &launcher);
-
                 bench.whenShown(*screen, [&] {
                     bench.press(Qt::Key_Down);
                     bench.press(Qt::Key_Right);
@@ -213,33 +185,37 @@ private slots:
                 });
                 bench.press(Qt::Key_Return);
             });
-            QVERIFY(servicesEnabled);
-            QVERIFY(exitEnded);
+            QVERIFY(servicesEnabled && exitEnded);
             QVERIFY(!screen->isRunning() && !launcher.isRunning());
-            if (service == 5) { // the clothing screen saved the wearer chosen before "Exit"
-                RegistrySettings settings(bench.settings);
-                QCOMPARE(ReadSetting(settings, Settings::ClothesWho), 1u);
-            }
+            if (service == 5) // the clothing screen saved the wearer chosen before "Exit"
+                QCOMPARE(bench.stored(Settings::ClothesWho), 1u);
         }
     }
 
-    void theStoresAreLoadedInOrderOnceAndTheCurrencyFileAtEveryStart()
+    void theStoresAreLoadedInOrderOnceTheCurrencyFileAtEveryStartAndAmountsAreForgotten()
     {
         ScreenTestBench bench;
         const auto start = [&bench] {
             bench.messages.messages.clear();
-            ServicesApp launcher(bench.environment, bench.window);
-            withLauncher(bench, launcher, [&] { QCOMPARE(bench.window.topScreen(), &launcher); });
+            withLauncher(bench, [&](ServicesApp& launcher) { QCOMPARE(bench.window.topScreen(), &launcher); });
             std::vector<std::wstring> shown; // "caption: text"
             for (const auto& [text, caption] : bench.messages.messages)
                 shown.push_back(caption + L": " + text);
             return shown;
         };
+        // Leaving forgets the typed amounts.
+        bench.store(Settings::CurrencyAmount, L"12.5");
+        bench.store(Settings::MeasureValue, L"3");
         // Missing shipped files never stop the start.
         QCOMPARE(start(),
             (std::vector<std::wstring> {L"Wanderkit: Initial Cities File not found!",
                 L"Wanderkit: Initial Weather Favorite Cities File not found!",
                 L"Wanderkit: Initial Currencies File not found!"}));
+        RegistrySettings registry(bench.settings);
+        for (const StringSetting* amount : {&Settings::CurrencyAmount, &Settings::MeasureValue}) {
+            QCOMPARE(registry.GetString(amount->subkey, amount->name), std::wstring());
+            QCOMPARE(registry.Status(), RegistrySettings::Read);
+        }
 
         bench.root.write(
             "cities.lst", "h\n2\nx;Paris;France;2.35;48.85;1;1;88;2;298;3\nx;Lima;Peru;-77;-12;-5;0;0;0;0;0\n");
@@ -255,20 +231,6 @@ private slots:
         CurrencyStore currencies(bench.objects);
         currencies.Load();
         QCOMPARE(currencies.RecordCount(), 2);
-    }
-
-    void leavingForgetsTheTypedAmounts()
-    {
-        ScreenTestBench bench;
-        RegistrySettings registry(bench.settings);
-        registry.SetString(L"Wanderkit\\currencies", L"curval", L"12.5");
-        registry.SetString(L"Wanderkit\\measurs", L"convval", L"3");
-        ServicesApp launcher(bench.environment, bench.window);
-        withLauncher(bench, launcher, [] {});
-        QCOMPARE(registry.GetString(L"Wanderkit\\currencies", L"curval"), std::wstring());
-        QCOMPARE(registry.Status(), RegistrySettings::Read);
-        QCOMPARE(registry.GetString(L"Wanderkit\\measurs", L"convval"), std::wstring());
-        QCOMPARE(registry.Status(), RegistrySettings::Read);
     }
 };
 

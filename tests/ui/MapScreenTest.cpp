@@ -37,14 +37,7 @@ struct MapBench
         cities.Load();
     }
 
-    // Runs the screen, drives it, then leaves it with "Services".
-    void run(const std::function<void()>& drive)
-    {
-        bench.run(screen, [&] {
-            drive();
-            screen.sendCommand(Commands::Services);
-        });
-    }
+    void run(const std::function<void()>& drive) { bench.visit(screen, drive); }
 
     // The map as drawn after a full repaint.
     QImage map()
@@ -57,18 +50,7 @@ struct MapBench
     CityCatalogue cities {bench.objects, bench.paths, bench.messages};
     WeatherFavourites favourites {bench.objects, bench.paths, bench.messages};
     MapScreen screen {bench.environment, bench.window, cities, favourites};
-    RegistrySettings registry {bench.settings};
 };
-
-// A day picture of the map's own size, so that the plain stretch copies it pixel for pixel.
-void writeDayPicture(const TempDir& root, QSize size)
-{
-    QImage day(size, QImage::Format_RGB32);
-    for (int y = 0; y < size.height(); ++y)
-        for (int x = 0; x < size.width(); ++x)
-            day.setPixel(x, y, qRgb(60 + x % 150, 80 + y % 120, 90 + (x + y) % 160));
-    QVERIFY(day.save(QString::fromStdString((root.path() / "day.jpg").string()), "JPG", 100));
-}
 
 } // namespace
 
@@ -77,7 +59,7 @@ class MapScreenTest : public QObject
     Q_OBJECT
 
 private slots:
-    void steppingWrapsAtBothEndsAndWritesMapclock()
+    void steppingAndChangeCityWriteMapclockAndRotationLaysTheMapOut()
     {
         MapBench t; // 1,000 cities
         t.run([&] {
@@ -92,16 +74,39 @@ private slots:
             t.bench.press(Qt::Key_Right);
             t.bench.press(Qt::Key_Right);
             QCOMPARE(t.screen.selectedCity(), 2);
-            // Someone else's value is overwritten on leaving.
-            t.registry.SetDWORD(Settings::MapKey, L"mapclock", 7);
+            t.bench.whenNextShown(t.screen, [&](Screen& dialog) {
+                QCOMPARE(static_cast<SelectDialog&>(dialog).selection(), 2);
+                t.bench.press(Qt::Key_Down);
+                dialog.sendCommand(Commands::Done);
+            });
+            t.screen.sendCommand(Commands::ChangeCity);
+            QCOMPARE(t.screen.selectedCity(), 3);
+            QCOMPARE(t.bench.stored(Settings::MapClock), 3u);
+            QCOMPARE(t.screen.shownCityName(), QStringLiteral("C0003"));
+            t.bench.store(Settings::MapClock, 7); // someone else's value, overwritten on leaving
+
+            QCOMPARE(t.screen.mapLayout().mapHeight, 138);
+            t.bench.press(Qt::Key_R, Qt::ControlModifier);
+            QCOMPARE(t.screen.mapLayout().mapHeight, 122); // (240 - 25) x 4 / 7
+            QCOMPARE(t.map().size(), QSize(268, 122));
+            QVERIFY(t.screen.mapLayout().sun.bottom() < 240);
         });
-        QCOMPARE(t.bench.stored(Settings::MapClock), 2u);
+        QCOMPARE(t.bench.stored(Settings::MapClock), 3u);
     }
 
-    void aStepDrawsItsArrowLargeUntilTheNextTick()
+    void aStepDrawsItsArrowLargeUntilTheNextTickAndTheMapIsDrawnAgainEvery240()
     {
         MapBench t;
         t.run([&] {
+            const qint64 first = t.map().cacheKey();
+            t.bench.advance(239 * MapScreen::TickMilliseconds);
+            QCOMPARE(t.map().cacheKey(), first);
+            t.bench.advance(MapScreen::TickMilliseconds);
+            const qint64 second = t.map().cacheKey();
+            QVERIFY(second != first);
+            t.bench.advance(240 * MapScreen::TickMilliseconds);
+            QVERIFY(t.map().cacheKey() != second);
+
             const int top = t.screen.mapLayout().mapHeight;
             // The parts of the 24-pixel arrows outside the 16-pixel ones: right of the small left arrow
             // (x 5 to 20) and left of the small right arrow (x 219 to 234).
@@ -123,75 +128,72 @@ private slots:
 
     void aStoredCityOutsideTheCatalogueShowsTheFirst()
     {
-        for (const std::uint32_t stored : {1000u, 70000u, 0xFFFFFFFFu}) {
+        // The last city is kept; beyond it, the first is shown and written on leaving.
+        for (const std::uint32_t stored : {999u, 1000u, 70000u, 0xFFFFFFFFu}) {
             MapBench t;
-            WriteSetting(t.registry, Settings::MapClock, stored);
+            t.bench.store(Settings::MapClock, stored);
+            const int shown = stored == 999 ? 999 : 0;
             t.run([&] {
-                QCOMPARE(t.screen.selectedCity(), 0);
-                QCOMPARE(t.screen.shownCityName(), QStringLiteral("C0000"));
+                QCOMPARE(t.screen.selectedCity(), shown);
+                QCOMPARE(t.screen.shownCityName(), QStringLiteral("C%1").arg(shown, 4, 10, QLatin1Char('0')));
             });
-            QCOMPARE(t.bench.stored(Settings::MapClock), 0u);
+            QCOMPARE(t.bench.stored(Settings::MapClock), std::uint32_t(shown));
         }
-        MapBench t;
-        WriteSetting(t.registry, Settings::MapClock, 999);
-        t.run([&] { QCOMPARE(t.screen.selectedCity(), 999); });
     }
 
-    void markersSitWhereTheirCoordinatesSay()
+    void markersShowTheClocksCitiesUntilShowCitiesTurnsThemOff()
     {
         MapBench t(writePlaces);
+        RegistrySettings registry(t.bench.settings);
         for (int slot = 1; slot <= 4; ++slot)
-            t.registry.SetDWORD(
-                Settings::WorldClockKey, L"clock" + std::to_wstring(slot), static_cast<std::uint32_t>(slot));
-        WriteSetting(t.registry, Settings::MapClock, 3); // A3 is drawn as the selected city
+            registry.SetDWORD(Settings::WorldClockKey, L"clock" + std::to_wstring(slot), std::uint32_t(slot));
+        t.bench.store(Settings::MapClock, 3); // A3 is drawn as the selected city
+        const QRgb marker = MapRenderer::MarkerColour.rgb();
+        const QRgb selected = MapRenderer::SelectedColour.rgb();
         t.run([&] {
             QVERIFY(t.screen.showCities()); // "showcs" absent
             QVERIFY(t.screen.softKeys()->isItemChecked(Commands::ShowCitiesOnMap));
-            const QImage map = t.map();
+            QImage map = t.map();
             QCOMPARE(map.size(), QSize(240, 138));
-            const QRgb marker = MapRenderer::MarkerColour.rgb();
-            // A0 at longitude 0, latitude 0: the middle column and row.
+            // Where a point lands is the renderer's; here, which cities are marked. A0 at longitude 0,
+            // latitude 0 is the middle column and row; A1 at latitude 90 is on row 0; A5, in no clock, is not.
             QCOMPARE(map.pixel(120, 69), marker);
-            QCOMPARE(map.pixel(118, 67), marker);
-            // A1 at latitude 90: row 0 (its square is cut by the map's top edge).
             QCOMPARE(map.pixel(120, 0), marker);
-            QCOMPARE(map.pixel(119, 1), marker);
             QCOMPARE(map.pixel(40, 53), marker); // A2: 120 - 80, 69 - 15.3
             QCOMPARE(map.pixel(200, 34), marker); // A4: 120 + 80, 69 - 34.5
-            QCOMPARE(map.pixel(160, 92), MapRenderer::SelectedColour.rgb()); // A3, selected: 120 + 40, 69 + 23
-        });
-    }
-
-    void showCitiesTogglesTheMarkersAndItsSetting()
-    {
-        MapBench t(writePlaces);
-        t.run([&] {
-            QCOMPARE(t.map().pixel(120, 69), MapRenderer::SelectedColour.rgb()); // "clock" 0 is A0, selected
-            t.screen.sendCommand(Commands::ShowCitiesOnMap);
-            QVERIFY(!t.screen.showCities());
-            QVERIFY(!t.screen.softKeys()->isItemChecked(Commands::ShowCitiesOnMap));
-            QCOMPARE(t.bench.stored(Settings::ShowCities), 0u);
-            QVERIFY(t.map().pixel(120, 69) != MapRenderer::SelectedColour.rgb());
-            t.screen.sendCommand(Commands::ShowCitiesOnMap);
-            QCOMPARE(t.bench.stored(Settings::ShowCities), 1u);
-            QCOMPARE(t.map().pixel(120, 69), MapRenderer::SelectedColour.rgb());
+            QCOMPARE(map.pixel(160, 92), selected); // A3: 120 + 40, 69 + 23
+            const MapPoint a5 = MapPointOf(10, 10, 240, 138);
+            QVERIFY(map.pixel(a5.x, a5.y) != marker);
+            for (const std::uint32_t shown : {0u, 1u}) {
+                t.screen.sendCommand(Commands::ShowCitiesOnMap);
+                QCOMPARE(t.screen.showCities(), shown == 1);
+                QCOMPARE(t.screen.softKeys()->isItemChecked(Commands::ShowCitiesOnMap), shown == 1);
+                QCOMPARE(t.bench.stored(Settings::ShowCities), shown);
+                map = t.map();
+                QCOMPARE(map.pixel(160, 92) == selected && map.pixel(120, 69) == marker, shown == 1);
+            }
         });
         MapBench hidden(writePlaces);
-        WriteSetting(hidden.registry, Settings::ShowCities, 0);
+        hidden.bench.store(Settings::ShowCities, 0);
         hidden.run([&] { QVERIFY(!hidden.screen.showCities()); });
     }
 
-    void nightPixelsKeepOnlyTheBlueChannelOfTheDayPicture()
+    void nightPixelsKeepOnlyTheBlueChannelOfTheDayPictureOrOfTheGradient()
     {
         // "bmap.jpg", the night picture, is loaded and held but never drawn: night is the day picture's blue.
         MapBench t([](const TempDir& root) {
             CityFixture::write(root, {});
-            writeDayPicture(root, QSize(240, 138));
+            // A day picture of the map's own size, so that the plain stretch copies it pixel for pixel.
+            QImage day(240, 138, QImage::Format_RGB32);
+            for (int y = 0; y < 138; ++y)
+                for (int x = 0; x < 240; ++x)
+                    day.setPixel(x, y, qRgb(60 + x % 150, 80 + y % 120, 90 + (x + y) % 160));
+            QVERIFY(day.save(QString::fromStdString((root.path() / "day.jpg").string()), "JPG", 100));
             QImage white(240, 138, QImage::Format_RGB32);
             white.fill(Qt::white);
             QVERIFY(white.save(QString::fromStdString((root.path() / "bmap.jpg").string()), "JPG"));
         });
-        WriteSetting(t.registry, Settings::ShowCities, 0);
+        t.bench.store(Settings::ShowCities, 0);
         const QImage day(QString::fromStdString((t.bench.root.path() / "day.jpg").string()));
         t.run([&] {
             QVERIFY(t.screen.holdsNightPicture());
@@ -202,109 +204,50 @@ private slots:
             QCOMPARE(map.pixel(0, 69), qRgb(0, 0, qBlue(day.pixel(0, 69))));
             QCOMPARE(map.pixel(120, 0), qRgb(0, 0, qBlue(day.pixel(120, 0))));
         });
-    }
-
-    void aMissingDayPictureLeavesTheGradient()
-    {
-        MapBench t;
-        WriteSetting(t.registry, Settings::ShowCities, 0);
-        t.run([&] {
-            QVERIFY(!t.screen.holdsNightPicture()); // nor is there a "bmap.jpg": nothing is said about either
-            const QImage window = t.bench.render();
+        // Without a day picture the gradient is the day.
+        MapBench gradient;
+        gradient.bench.store(Settings::ShowCities, 0);
+        gradient.run([&] {
+            // Nor is there a "bmap.jpg": nothing is said about either.
+            QVERIFY(!gradient.screen.holdsNightPicture());
+            const QImage window = gradient.bench.render();
             // Band 30 (the top) is RGB(114, 150, 180): kept in day, only its blue at night.
             QCOMPARE(window.pixel(120, 69), qRgb(84 + 23, 120 + 23, 150 + 23)); // row 69 is in band 23
             QCOMPARE(window.pixel(120, 2), qRgb(0, 0, 180)); // the north pole's winter night
             QCOMPARE(window.pixel(2, 69), qRgb(0, 0, 173));
         });
-        for (const auto& message : t.bench.messages.messages) // the fixture has no favourites file, only that
+        // The fixture has no favourites file, and only that is said.
+        for (const auto& message : gradient.bench.messages.messages)
             QVERIFY(message.text.find(L"jpg") == std::wstring::npos);
-        QVERIFY(t.bench.boxes.shown.empty());
+        QVERIFY(gradient.bench.boxes.shown.empty());
     }
 
-    void theTimeInTwelveHourFormAndTheCityTexts()
+    void theCityTimeAndItsSunFollowTheZoneAndDaylightSaving()
     {
-        struct Case
-        {
-            int hour;
-            QString shown;
-        };
-        const Case cases[] = {{0, QStringLiteral("12:05:09AM")}, {9, QStringLiteral("09:05:09 AM")},
-            {12, QStringLiteral("12:05:09PM")}, {21, QStringLiteral("09:05:09 PM")}};
-        for (const Case& c : cases) {
-            MapBench t([](const TempDir& root) { CityFixture::write(root, {{10, "530;0;0;0;0;0"}}); });
-            t.bench.clock.set(FakeDeviceClock::at(2026, 7, 13, c.hour, 5, 9));
-            WriteSetting(t.registry, Settings::TwelveHour, 1);
-            WriteSetting(t.registry, Settings::MapClock, 10);
+        // C0010 is on +5:30 and the device (C0000) on GMT without a rule: C0010's time is 5:30 ahead, its
+        // sun uses 5 hours. C0684 observes from day 67 (8 March 2026) of its own date: at 04:59 GMT its date
+        // is still 7 March; two minutes later it is 8 March. The local time follows "twelvehour".
+        const std::map<int, std::string> zones {{10, "530;0;0;0;0;0"}, {684, "-5;1;67;2;305;2"}};
+        for (const std::uint32_t twelveHour : {1u, 0u}) {
+            MapBench t([&](const TempDir& root) { CityFixture::write(root, zones); });
+            t.bench.clock.set(FakeDeviceClock::at(2026, 3, 8, 4, 59, 0));
+            t.bench.store(Settings::TwelveHour, twelveHour);
+            t.bench.store(Settings::MapClock, twelveHour ? 10 : 684);
             t.run([&] {
-                QCOMPARE(t.screen.shownLocalTime(), c.shown);
-                // C0010 is on +5:30 and the device on GMT: its time is 5:30 ahead, its sun uses 5 hours.
-                QCOMPARE(t.screen.cityTime(), QStringLiteral("%1:35").arg((c.hour + 5) % 24, 2, 10, QLatin1Char('0')));
-                QCOMPARE(t.screen.sun().utcHours, 5);
+                if (twelveHour) {
+                    QCOMPARE(t.screen.shownLocalTime(), QStringLiteral("04:59:00 AM"));
+                    QCOMPARE(t.screen.cityTime(), QStringLiteral("10:29"));
+                    QCOMPARE(t.screen.sun().utcHours, 5);
+                    return;
+                }
+                QCOMPARE(t.screen.shownLocalTime(), QStringLiteral("04:59:00"));
+                QCOMPARE(t.screen.cityTime(), QStringLiteral("23:59"));
+                QCOMPARE(t.screen.sun().utcHours, -5);
+                t.bench.advance(2 * 60 * 1000);
+                QCOMPARE(t.screen.cityTime(), QStringLiteral("01:01"));
+                QCOMPARE(t.screen.sun().utcHours, -4);
             });
         }
-        MapBench t;
-        t.bench.clock.set(FakeDeviceClock::at(2026, 7, 13, 21, 5, 9));
-        t.run([&] { QCOMPARE(t.screen.shownLocalTime(), QStringLiteral("21:05:09")); });
-    }
-
-    void theMapIsDrawnAgainEvery240Ticks()
-    {
-        MapBench t;
-        t.run([&] {
-            const qint64 first = t.map().cacheKey();
-            t.bench.advance(239 * MapScreen::TickMilliseconds);
-            QCOMPARE(t.map().cacheKey(), first);
-            t.bench.advance(MapScreen::TickMilliseconds);
-            const qint64 second = t.map().cacheKey();
-            QVERIFY(second != first);
-            t.bench.advance(240 * MapScreen::TickMilliseconds);
-            QVERIFY(t.map().cacheKey() != second);
-        });
-    }
-
-    void aDaylightSavingChangeMovesTheCityTimeAndItsSun()
-    {
-        // C0684 observes from day 67 (8 March 2026) of its own date; the device (C0000) is on GMT without a
-        // rule. At 04:59 GMT the city's date is still 7 March; two minutes later it is 8 March.
-        MapBench t([](const TempDir& root) { CityFixture::write(root, {{684, "-5;1;67;2;305;2"}}); });
-        t.bench.clock.set(FakeDeviceClock::at(2026, 3, 8, 4, 59, 0));
-        WriteSetting(t.registry, Settings::MapClock, 684);
-        t.run([&] {
-            QCOMPARE(t.screen.cityTime(), QStringLiteral("23:59"));
-            QCOMPARE(t.screen.sun().utcHours, -5);
-            t.bench.advance(2 * 60 * 1000);
-            QCOMPARE(t.screen.cityTime(), QStringLiteral("01:01"));
-            QCOMPARE(t.screen.sun().utcHours, -4);
-        });
-    }
-
-    void changeCityTakesTheSelectDialogsChoice()
-    {
-        MapBench t;
-        WriteSetting(t.registry, Settings::MapClock, 684);
-        t.run([&] {
-            t.bench.whenNextShown(t.screen, [&](Screen& dialog) {
-                QCOMPARE(static_cast<SelectDialog&>(dialog).selection(), 684);
-                t.bench.press(Qt::Key_Down);
-                dialog.sendCommand(Commands::Done);
-            });
-            t.screen.sendCommand(Commands::ChangeCity);
-            QCOMPARE(t.screen.selectedCity(), 685);
-            QCOMPARE(t.bench.stored(Settings::MapClock), 685u);
-            QCOMPARE(t.screen.shownCityName(), QStringLiteral("C0685"));
-        });
-    }
-
-    void rotationLaysTheMapOutAgain()
-    {
-        MapBench t;
-        t.run([&] {
-            QCOMPARE(t.screen.mapLayout().mapHeight, 138);
-            t.bench.press(Qt::Key_R, Qt::ControlModifier);
-            QCOMPARE(t.screen.mapLayout().mapHeight, 122); // (240 - 25) x 4 / 7
-            QCOMPARE(t.map().size(), QSize(268, 122));
-            QVERIFY(t.screen.mapLayout().sun.bottom() < 240);
-        });
     }
 };
 

@@ -81,6 +81,18 @@ QImage ScreenTestBench::render()
     return window.grab().toImage();
 }
 
+void ScreenTestBench::store(const DwordSetting& setting, std::uint32_t value)
+{
+    RegistrySettings registry(settings);
+    WriteSetting(registry, setting, value);
+}
+
+void ScreenTestBench::store(const StringSetting& setting, std::wstring_view text)
+{
+    RegistrySettings registry(settings);
+    WriteSetting(registry, setting, text);
+}
+
 std::uint32_t ScreenTestBench::stored(const DwordSetting& setting)
 {
     RegistrySettings registry(settings);

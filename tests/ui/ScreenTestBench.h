@@ -17,6 +17,13 @@
 
 class Screen;
 
+// The child of `parent` named `name`: a screen's spinner, field or list.
+template<class Widget>
+Widget* child(const QObject& parent, const char* name)
+{
+    return parent.findChild<Widget*>(QString::fromLatin1(name));
+}
+
 // Everything a screen needs, fresh for each test: a hand-driven clock, a device root in a temporary
 // folder, in-memory state stores, recorded messages and message boxes, and a device window.
 class ScreenTestBench
@@ -39,6 +46,9 @@ public:
     void advance(long long milliseconds);
     // The whole device window, rendered.
     QImage render();
+    // Writes a setting as another program would.
+    void store(const DwordSetting& setting, std::uint32_t value);
+    void store(const StringSetting& setting, std::wstring_view text);
     // A DWORD setting as stored, or NotStored when it cannot be read.
     std::uint32_t stored(const DwordSetting& setting);
     static constexpr std::uint32_t NotStored = 0xFFFFFFFFu;

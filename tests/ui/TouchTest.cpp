@@ -23,225 +23,129 @@
 #include <QTimer>
 
 #include <functional>
+#include <tuple>
 
 enum class Pointer { Mouse, Touch };
 Q_DECLARE_METATYPE(Pointer)
+enum class Kind { Launcher, Clocks, Select };
+Q_DECLARE_METATYPE(Kind)
 
 namespace {
 
 constexpr int BarTop = 268; // the soft-key bar lies under the 240 x 268 work area
 
-// Presses, drags and lifts the mouse or a finger on a window, in that window's pixels.
-class Finger
+// Presses at `from`, moves to `to` in four steps and lifts there, by mouse or finger, in `window`'s
+// pixels. The widget under the press gets the whole mouse run, as the mouse grab does.
+void swipe(Pointer pointer, QWidget& window, QPoint from, QPoint to)
 {
-public:
-    explicit Finger(Pointer pointer)
-        : m_pointer(pointer)
-    { }
-
-    void tap(QWidget& window, QPoint at) { swipe(window, at, at); }
-
-    void swipe(QWidget& window, QPoint from, QPoint to)
-    {
-        constexpr int Steps = 4;
-        down(window, from);
-        for (int i = 1; i <= Steps; ++i)
-            moveTo(window, from + (to - from) * i / Steps);
-        up(window, to);
+    static QPointingDevice* const touchscreen = QTest::createTouchDevice();
+    const QPointer<QWidget> grab = window.childAt(from) ? window.childAt(from) : &window;
+    const bool touch = pointer == Pointer::Touch;
+    if (touch)
+        QTest::touchEvent(&window, touchscreen).press(0, from, &window);
+    else
+        QTest::mousePress(grab, Qt::LeftButton, Qt::NoModifier, grab->mapFrom(&window, from));
+    for (int i = 1; i <= 4; ++i) {
+        const QPoint at = from + (to - from) * i / 4;
+        if (touch)
+            QTest::touchEvent(&window, touchscreen).move(0, at, &window);
+        else if (grab)
+            QTest::mouseMove(grab, grab->mapFrom(&window, at));
     }
-
-private:
-    void down(QWidget& window, QPoint at)
-    {
-        if (m_pointer == Pointer::Touch) {
-            QTest::touchEvent(&window, touchscreen()).press(0, at, &window);
-            return;
-        }
-        m_grab = window.childAt(at) ? window.childAt(at) : &window;
-        QTest::mousePress(m_grab, Qt::LeftButton, Qt::NoModifier, m_grab->mapFrom(&window, at));
-    }
-
-    void moveTo(QWidget& window, QPoint at)
-    {
-        if (m_pointer == Pointer::Touch)
-            QTest::touchEvent(&window, touchscreen()).move(0, at, &window);
-        else if (m_grab)
-            QTest::mouseMove(m_grab, m_grab->mapFrom(&window, at));
-    }
-
-    void up(QWidget& window, QPoint at)
-    {
-        if (m_pointer == Pointer::Touch)
-            QTest::touchEvent(&window, touchscreen()).release(0, at, &window);
-        else if (m_grab)
-            QTest::mouseRelease(m_grab, Qt::LeftButton, Qt::NoModifier, m_grab->mapFrom(&window, at));
-    }
-
-    static QPointingDevice* touchscreen()
-    {
-        static QPointingDevice* device = QTest::createTouchDevice();
-        return device;
-    }
-
-    Pointer m_pointer;
-    QPointer<QWidget> m_grab; // the widget under the press gets the whole run, as the mouse grab does
-};
-
-// Touch makes the window active; the keys' runs start from an active window too.
-void activate(ScreenTestBench& bench)
-{
-    bench.window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&bench.window));
+    if (touch)
+        QTest::touchEvent(&window, touchscreen).release(0, to, &window);
+    else if (grab)
+        QTest::mouseRelease(grab, Qt::LeftButton, Qt::NoModifier, grab->mapFrom(&window, to));
 }
 
-void pressKeys(ScreenTestBench& bench, const QList<int>& keys)
+void tap(Pointer pointer, QWidget& window, QPoint at)
 {
-    for (const int key : keys)
-        bench.press(static_cast<Qt::Key>(key));
-}
-
-// Adds each gesture row once for the mouse and once for a finger. A row with an `entry` taps the middle
-// of that World Clocks focus entry instead of going from `from` to `to`.
-void addRows(const char* name, QPoint from, QPoint to, const QList<int>& keys, int entry = -1)
-{
-    for (const Pointer pointer : {Pointer::Mouse, Pointer::Touch}) {
-        const char* by = pointer == Pointer::Mouse ? " (mouse)" : " (touch)";
-        QTest::newRow(qPrintable(QString::fromUtf8(name) + QLatin1String(by)))
-            << pointer << entry << from << to << keys;
-    }
-}
-
-void gestureColumns()
-{
-    QTest::addColumn<Pointer>("pointer");
-    QTest::addColumn<int>("entry");
-    QTest::addColumn<QPoint>("from");
-    QTest::addColumn<QPoint>("to");
-    QTest::addColumn<QList<int>>("keys");
+    swipe(pointer, window, at, at);
 }
 
 // What a device shows and holds after a gesture or its keys.
 struct Outcome
 {
     int index = -1; // the launcher's selection, the clock focus, the list's item
-    QStringList opened; // screens shown meanwhile
+    QStringList opened; // screens shown meanwhile; the Select dialog's panel
     std::size_t boxes = 0;
     QImage picture;
 
     bool operator==(const Outcome&) const = default;
 };
 
-// Records every screen shown after the first and ends it at once, so that a gesture that opens a
-// service or a dialog returns.
-void closeWhatOpens(ScreenTestBench& bench, Screen& first, Outcome& outcome)
+// A fresh device showing the launcher, World Clocks on the fixture catalogue, or the Select dialog.
+struct Device
 {
-    QObject::connect(&bench.window, &DeviceWindow::screenShown, &first, [&first, &outcome](Screen& shown) {
-        if (&shown == &first)
-            return;
-        outcome.opened << shown.screenName();
-        QTimer::singleShot(0, &shown, [&shown] { shown.endScreen(); });
-    });
-}
-
-// A launcher on a fresh device, driven by `drive`.
-Outcome launcherAfter(const std::function<void(ScreenTestBench&)>& drive)
-{
-    ScreenTestBench bench;
-    ServicesApp launcher(bench.environment, bench.window);
-    Outcome outcome;
-    closeWhatOpens(bench, launcher, outcome);
-    bench.run(launcher, [&] {
-        activate(bench);
-        drive(bench);
-        outcome.index = launcher.selection();
-        outcome.boxes = bench.boxes.shown.size();
-        outcome.picture = bench.render();
-        launcher.sendCommand(Commands::Exit);
-    });
-    return outcome;
-}
-
-// World Clocks on the fixture catalogue.
-struct ClockDevice
-{
-    ClockDevice()
+    explicit Device(Kind kind)
     {
+        if (kind == Kind::Launcher) {
+            screen = std::make_unique<ServicesApp>(bench.environment, bench.window);
+            return;
+        }
         CityFixture::write(bench.root, {});
         cities.Load();
         favourites.loadFavouritesOnce();
+        if (kind == Kind::Clocks) {
+            screen = std::make_unique<WorldClockScreen>(bench.environment, bench.window, cities, favourites);
+            return;
+        }
+        auto select = std::make_unique<SelectDialog>(bench.environment, bench.window);
+        select->setSelection(5);
+        screen = std::move(select);
+    }
+
+    // Runs the screen on an active window (touch makes it active), drives it and reads the outcome.
+    // Every screen shown over it is recorded and ended at once, so that a gesture that opens one returns.
+    Outcome after(const std::function<void(ScreenTestBench&)>& drive)
+    {
+        Outcome outcome;
+        QObject::connect(&bench.window, &DeviceWindow::screenShown, screen.get(), [&](Screen& shown) {
+            if (&shown == screen.get())
+                return;
+            outcome.opened << shown.screenName();
+            QTimer::singleShot(0, &shown, [&shown] { shown.endScreen(); });
+        });
+        bench.run(*screen, [&] {
+            bench.window.activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(&bench.window));
+            drive(bench);
+            const auto* launcher = qobject_cast<ServicesApp*>(screen.get());
+            const auto* select = qobject_cast<SelectDialog*>(screen.get());
+            const auto* list = child<Spinner>(*screen, select ? "choiceSpinner" : "focusSpinner");
+            outcome.index = launcher ? launcher->selection() : list->currentIndex();
+            if (select)
+                outcome.opened << select->panelLines();
+            outcome.boxes = bench.boxes.shown.size();
+            outcome.picture = bench.render();
+            screen->endScreen();
+        });
+        return outcome;
     }
 
     ScreenTestBench bench;
     CityCatalogue cities {bench.objects, bench.paths, bench.messages};
     WeatherFavourites favourites {bench.objects, bench.paths, bench.messages};
-    WorldClockScreen screen {bench.environment, bench.window, cities, favourites};
+    std::unique_ptr<Screen> screen;
 };
 
-Outcome clocksAfter(const std::function<void(ScreenTestBench&)>& drive)
+// Adds a gesture row once for the mouse and once for a finger. A row with an `entry` taps the middle
+// of that World Clocks focus entry instead of going from `from` to `to`.
+void addRows(Kind kind, const char* name, QPoint from, QPoint to, const QList<int>& keys, int entry = -1)
 {
-    ClockDevice device;
-    Outcome outcome;
-    closeWhatOpens(device.bench, device.screen, outcome);
-    device.bench.run(device.screen, [&] {
-        activate(device.bench);
-        drive(device.bench);
-        outcome.index = device.screen.findChild<Spinner*>(QStringLiteral("focusSpinner"))->currentIndex();
-        outcome.boxes = device.bench.boxes.shown.size();
-        outcome.picture = device.bench.render();
-        device.screen.endScreen();
-    });
-    return outcome;
-}
-
-Outcome selectAfter(const std::function<void(ScreenTestBench&)>& drive)
-{
-    ScreenTestBench bench;
-    CityFixture::write(bench.root, {});
-    SelectDialog dialog(bench.environment, bench.window);
-    dialog.setSelection(5);
-    Outcome outcome;
-    bench.run(dialog, [&] {
-        activate(bench);
-        drive(bench);
-        outcome.index = dialog.findChild<Spinner*>(QStringLiteral("choiceSpinner"))->currentIndex();
-        outcome.opened = dialog.panelLines();
-        outcome.picture = bench.render();
-        dialog.endScreen();
-    });
-    return outcome;
+    for (const Pointer pointer : {Pointer::Mouse, Pointer::Touch}) {
+        const char* by = pointer == Pointer::Mouse ? " (mouse)" : " (touch)";
+        QTest::newRow(qPrintable(QString::fromUtf8(name) + QLatin1String(by)))
+            << kind << pointer << entry << from << to << keys;
+    }
 }
 
 // A screen with one of each control a finger meets: a spinner, an edit field and a button.
-// Plays the current row's gesture on a fresh device made by `after` and its keys on another: both end in
-// the same state and picture, and only a gesture that stands for keys changes anything.
-void gestureIsItsKeys(Outcome (*after)(const std::function<void(ScreenTestBench&)>&))
-{
-    QFETCH(Pointer, pointer);
-    QFETCH(int, entry);
-    QFETCH(QPoint, from);
-    QFETCH(QPoint, to);
-    QFETCH(QList<int>, keys);
-    const Outcome touched = after([&](ScreenTestBench& bench) {
-        const QPoint start
-            = entry < 0 ? from : static_cast<WorldClockScreen*>(bench.window.topScreen())->entryRect(entry).center();
-        Finger(pointer).swipe(bench.window, start, entry < 0 ? to : start);
-    });
-    const Outcome keyed = after([&](ScreenTestBench& bench) { pressKeys(bench, keys); });
-    QCOMPARE(touched.index, keyed.index);
-    QCOMPARE(touched.opened, keyed.opened);
-    QCOMPARE(touched.boxes, keyed.boxes);
-    QVERIFY(touched.picture == keyed.picture);
-    QCOMPARE(keys.isEmpty(), touched == after([](ScreenTestBench&) {}));
-}
-
 class ControlsScreen final : public Screen
 {
 public:
-    ControlsScreen(ScreenEnvironment& environment, DeviceWindow& window)
-        : Screen(environment, window, MenuBarId::Select, QStringLiteral("controls"))
-        , spinner(new Spinner(this))
-        , field(new QLineEdit(this))
-        , button(new QPushButton(QStringLiteral("OK"), this))
+    explicit ControlsScreen(ScreenTestBench& bench)
+        : Screen(bench.environment, bench.window, MenuBarId::Select, QStringLiteral("controls"))
     {
         spinner->setItems({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
         spinner->setGeometry(10, 10, 150, 25);
@@ -250,17 +154,13 @@ public:
         QObject::connect(button, &QPushButton::clicked, this, [this] { ++clicks; });
     }
 
-    Spinner* spinner;
-    QLineEdit* field;
-    QPushButton* button;
+    Spinner* spinner = new Spinner(this);
+    QLineEdit* field = new QLineEdit(this);
+    QPushButton* button = new QPushButton(QStringLiteral("OK"), this);
     int clicks = 0;
 
 protected:
-    void initialise() override
-    {
-        spinner->setCurrentIndex(1);
-        spinner->setFocus();
-    }
+    void initialise() override { spinner->setCurrentIndex(1), spinner->setFocus(); }
 };
 
 } // namespace
@@ -270,175 +170,170 @@ class TouchTest : public QObject
     Q_OBJECT
 
 private slots:
-    // ---- The launcher: icons, arrows, the big icon and the label, swipes, and taps on nothing.
-    void launcherGesturesAreTheirKeys_data()
+    void gesturesAreTheirKeys_data()
     {
-        gestureColumns();
-        const int Left = Qt::Key_Left, Right = Qt::Key_Right, Return = Qt::Key_Return;
-        // Icons are 16 pixels in four 60-pixel columns, rows at y = 50 and 80; the arrows and the
-        // label share the bottom 40 pixels; the big icon is 32 pixels at (104, 144).
-        addRows("tap the third icon", {150, 58}, {150, 58}, {Right, Right});
-        addRows("tap the sixth icon", {90, 88}, {90, 88}, {Right, Right, Right, Right, Right});
-        addRows("tap the left arrow", {28, 250}, {28, 250}, {Left});
-        addRows("tap the right arrow", {216, 250}, {216, 250}, {Right});
-        addRows("swipe to the left", {200, 150}, {80, 150}, {Right});
-        addRows("swipe to the right", {60, 150}, {200, 150}, {Left});
-        addRows("tap the selected icon", {30, 58}, {30, 58}, {Return});
-        addRows("tap the big icon", {120, 160}, {120, 160}, {Return});
-        addRows("tap the label", {120, 250}, {120, 250}, {Return});
-        addRows("tap above the icons", {120, 20}, {120, 20}, {});
-        addRows("tap between icons and big icon", {120, 120}, {120, 120}, {});
-        addRows("slanted drag", {100, 130}, {130, 190}, {});
-    }
-
-    void launcherGesturesAreTheirKeys() { gestureIsItsKeys(launcherAfter); }
-
-    // ---- World Clocks: faces and weather icons take the action key, the title arrows step the focus.
-    void clockGesturesAreTheirKeys_data()
-    {
-        gestureColumns();
-        const int Left = Qt::Key_Left, Right = Qt::Key_Right, Return = Qt::Key_Return, C = Qt::Key_C, W = Qt::Key_W;
-        addRows("home clock face", {}, {}, {Return}, 0);
-        // Letters walk the focus entries ("c", "w", "c1", "w1", ...) without arrow feedback, as a tap.
-        addRows("third clock face", {}, {}, {C, C, Return}, 4);
-        addRows("first city's weather icon", {}, {}, {W, W, Return}, 3);
-        addRows("home weather icon", {}, {}, {W, Return}, 1);
+        QTest::addColumn<Kind>("kind");
+        QTest::addColumn<Pointer>("pointer");
+        QTest::addColumn<int>("entry");
+        QTest::addColumn<QPoint>("from");
+        QTest::addColumn<QPoint>("to");
+        QTest::addColumn<QList<int>>("keys");
+        const int Left = Qt::Key_Left, Right = Qt::Key_Right, Up = Qt::Key_Up, Down = Qt::Key_Down;
+        const int Return = Qt::Key_Return, C = Qt::Key_C, W = Qt::Key_W;
+        // The launcher. Icons are 16 pixels in four 60-pixel columns, rows at y = 50 and 80; the arrows
+        // and the label share the bottom 40 pixels; the big icon is 32 pixels at (104, 144).
+        const Kind L = Kind::Launcher;
+        addRows(L, "launcher: tap the third icon", {150, 58}, {150, 58}, {Right, Right});
+        addRows(L, "launcher: tap the sixth icon", {90, 88}, {90, 88}, {Right, Right, Right, Right, Right});
+        addRows(L, "launcher: tap the left arrow", {28, 250}, {28, 250}, {Left});
+        addRows(L, "launcher: tap the right arrow", {216, 250}, {216, 250}, {Right});
+        addRows(L, "launcher: swipe to the left", {200, 150}, {80, 150}, {Right});
+        addRows(L, "launcher: swipe to the right", {60, 150}, {200, 150}, {Left});
+        addRows(L, "launcher: tap the selected icon", {30, 58}, {30, 58}, {Return});
+        addRows(L, "launcher: tap the big icon", {120, 160}, {120, 160}, {Return});
+        addRows(L, "launcher: tap the label", {120, 250}, {120, 250}, {Return});
+        addRows(L, "launcher: tap above the icons", {120, 20}, {120, 20}, {});
+        addRows(L, "launcher: tap between icons and big icon", {120, 120}, {120, 120}, {});
+        addRows(L, "launcher: slanted drag", {100, 130}, {130, 190}, {});
+        // World Clocks: faces and weather icons take the action key. Letters walk the focus entries
+        // ("c", "w", "c1", "w1", ...) without arrow feedback, as a tap does.
+        const Kind K = Kind::Clocks;
+        addRows(K, "clocks: home clock face", {}, {}, {Return}, 0);
+        addRows(K, "clocks: third clock face", {}, {}, {C, C, Return}, 4);
+        addRows(K, "clocks: first city's weather icon", {}, {}, {W, W, Return}, 3);
+        addRows(K, "clocks: home weather icon", {}, {}, {W, Return}, 1);
         // The title's arrows stand at x = 180..204 and 201..225 of the 25-pixel band.
-        addRows("title's left arrow", {190, 12}, {190, 12}, {Left});
-        addRows("title's right arrow", {222, 12}, {222, 12}, {Right});
-        addRows("swipe to the left", {200, 200}, {60, 200}, {Right});
-        addRows("swipe to the right", {60, 200}, {200, 200}, {Left});
-        addRows("tap the title's text", {40, 12}, {40, 12}, {});
+        addRows(K, "clocks: title's left arrow", {190, 12}, {190, 12}, {Left});
+        addRows(K, "clocks: title's right arrow", {222, 12}, {222, 12}, {Right});
+        addRows(K, "clocks: swipe to the left", {200, 200}, {60, 200}, {Right});
+        addRows(K, "clocks: swipe to the right", {60, 200}, {200, 200}, {Left});
+        addRows(K, "clocks: tap the title's text", {40, 12}, {40, 12}, {});
+        // The Select dialog's list is at (5, 30), 225 x 25 pixels; its arrows are the last 25, up then down.
+        const Kind S = Kind::Select;
+        addRows(S, "select: tap the list", {60, 42}, {60, 42}, {Down});
+        addRows(S, "select: tap the up arrow", {210, 42}, {210, 42}, {Up});
+        addRows(S, "select: tap the down arrow", {225, 42}, {225, 42}, {Down});
+        addRows(S, "select: swipe the list to the left", {180, 42}, {40, 42}, {Down});
+        addRows(S, "select: swipe the list to the right", {40, 42}, {180, 42}, {Up});
+        addRows(S, "select: tap the panel", {120, 200}, {120, 200}, {});
     }
 
-    void clockGesturesAreTheirKeys() { gestureIsItsKeys(clocksAfter); }
-
-    // ---- The Select dialog's list: a tap on the box steps on, the arrows and a swipe step it.
-    void selectListGesturesAreTheirKeys_data()
+    // Both runs end in the same state and picture, and only a gesture that stands for keys changes anything.
+    void gesturesAreTheirKeys()
     {
-        gestureColumns();
-        const int Up = Qt::Key_Up, Down = Qt::Key_Down;
-        // The list is at (5, 30), 225 x 25 pixels; its arrows are the last 25, up then down.
-        addRows("tap the list", {60, 42}, {60, 42}, {Down});
-        addRows("tap the up arrow", {210, 42}, {210, 42}, {Up});
-        addRows("tap the down arrow", {225, 42}, {225, 42}, {Down});
-        addRows("swipe the list to the left", {180, 42}, {40, 42}, {Down});
-        addRows("swipe the list to the right", {40, 42}, {180, 42}, {Up});
-        addRows("tap the panel", {120, 200}, {120, 200}, {});
+        QFETCH(Kind, kind);
+        QFETCH(Pointer, pointer);
+        QFETCH(int, entry);
+        QFETCH(QPoint, from);
+        QFETCH(QPoint, to);
+        QFETCH(QList<int>, keys);
+        const Outcome touched = Device(kind).after([&](ScreenTestBench& bench) {
+            const QPoint start = entry < 0
+                ? from
+                : static_cast<WorldClockScreen*>(bench.window.topScreen())->entryRect(entry).center();
+            swipe(pointer, bench.window, start, entry < 0 ? to : start);
+        });
+        const Outcome keyed = Device(kind).after([&](ScreenTestBench& bench) {
+            for (const int key : keys)
+                bench.press(static_cast<Qt::Key>(key));
+        });
+        QCOMPARE(touched.index, keyed.index);
+        QCOMPARE(touched.opened, keyed.opened);
+        QVERIFY(touched == keyed); // and the same message boxes and picture
+        QCOMPARE(keys.isEmpty(), touched == Device(kind).after([](ScreenTestBench&) {}));
     }
 
-    void selectListGesturesAreTheirKeys() { gestureIsItsKeys(selectAfter); }
-
-    // ---- Soft keys are F1/F2, a popup's item is chosen by a tap.
-    void softKeysAndMenuItems_data()
+    // ---- Framework controls: a spinner's arrows and swipes, fields take the focus, buttons press; soft
+    // keys are F1/F2, a popup's item is chosen by a tap.
+    void controlsAnswerTheFinger_data()
     {
         QTest::addColumn<Pointer>("pointer");
         QTest::newRow("mouse") << Pointer::Mouse;
         QTest::newRow("touch") << Pointer::Touch;
     }
 
-    void softKeysAndMenuItems()
-    {
-        QFETCH(Pointer, pointer);
-        ClockDevice device;
-        QMenu* menu = nullptr;
-        device.bench.run(device.screen, [&] {
-            Finger(pointer).tap(device.bench.window, {200, BarTop + 13}); // "Menu", as F2
-            menu = device.bench.window.topSoftKeys()->popup();
-            QTRY_VERIFY(menu->isVisible());
-            const QAction* twelveHours = menu->actions().at(0);
-            Finger(pointer).tap(*menu, menu->actionGeometry(const_cast<QAction*>(twelveHours)).center());
-            QTRY_VERIFY(!menu->isVisible());
-            QVERIFY(device.screen.twelveHour());
-            QSignalSpy commands(device.bench.window.topSoftKeys(), &SoftKeyBar::commandTriggered);
-            Finger(pointer).tap(device.bench.window, {40, BarTop + 13}); // "Services", as F1
-            QCOMPARE(commands.size(), 1);
-            QCOMPARE(commands.at(0).at(0).toInt(), int(Commands::Services));
-        });
-        QVERIFY(!device.screen.isRunning());
-    }
-
-    // ---- Framework controls: a spinner's arrows and swipes, fields take the focus, buttons press.
-    void controlsAnswerTheFinger_data() { softKeysAndMenuItems_data(); }
-
     void controlsAnswerTheFinger()
     {
         QFETCH(Pointer, pointer);
+        Device device(Kind::Clocks);
+        device.bench.run(*device.screen, [&] {
+            QWidget& window = device.bench.window;
+            tap(pointer, window, {200, BarTop + 13}); // "Menu", as F2
+            QMenu* menu = device.bench.window.topSoftKeys()->popup();
+            QTRY_VERIFY(menu->isVisible());
+            tap(pointer, *menu, menu->actionGeometry(menu->actions().at(0)).center()); // "Twelve Hours Clocks"
+            QTRY_VERIFY(!menu->isVisible());
+            QVERIFY(static_cast<WorldClockScreen&>(*device.screen).twelveHour());
+            QSignalSpy commands(device.bench.window.topSoftKeys(), &SoftKeyBar::commandTriggered);
+            tap(pointer, window, {40, BarTop + 13}); // "Services", as F1
+            QCOMPARE(commands.size(), 1);
+            QCOMPARE(commands.at(0).at(0).toInt(), int(Commands::Services));
+        });
+        QVERIFY(!device.screen->isRunning());
+
         ScreenTestBench bench;
-        ControlsScreen screen(bench.environment, bench.window);
+        ControlsScreen screen(bench);
+        QWidget& window = bench.window;
         bench.visit(screen, [&] {
-            Finger finger(pointer);
             QList<int> steps;
             connect(screen.spinner, &Spinner::deltaRequested, &screen, [&](int delta) { steps << delta; });
-            finger.tap(bench.window, {140, 22}); // left half of the arrows (135..147)
+            tap(pointer, window, {140, 22}); // left half of the arrows (135..147)
             QCOMPARE(screen.spinner->currentIndex(), 0);
-            finger.tap(bench.window, {155, 22});
-            finger.tap(bench.window, {155, 22});
+            tap(pointer, window, {155, 22});
+            tap(pointer, window, {155, 22});
             QCOMPARE(screen.spinner->currentIndex(), 2);
-            finger.swipe(bench.window, {120, 22}, {20, 22}); // on the box: forward, stops at the end
-            finger.swipe(bench.window, {20, 22}, {120, 22});
+            swipe(pointer, window, {120, 22}, {20, 22}); // on the box: forward, stops at the end
+            swipe(pointer, window, {20, 22}, {120, 22});
             QCOMPARE(screen.spinner->currentIndex(), 1);
             // A swipe over the screen away from the controls steps the focused spinner.
-            finger.swipe(bench.window, {200, 200}, {60, 200});
+            swipe(pointer, window, {200, 200}, {60, 200});
             QCOMPARE(screen.spinner->currentIndex(), 2);
             QCOMPARE(steps, (QList<int> {-1, 1, 1, 1, -1, 1}));
 
-            finger.tap(bench.window, {50, 72});
+            tap(pointer, window, {50, 72});
             QTRY_VERIFY(screen.field->hasFocus());
-            finger.tap(bench.window, {50, 122});
+            tap(pointer, window, {50, 122});
             QTRY_COMPARE(screen.clicks, 1);
-            finger.tap(bench.window, {200, 240}); // nothing there
+            tap(pointer, window, {200, 240}); // nothing there
             QCOMPARE(screen.clicks, 1);
             QCOMPARE(screen.spinner->currentIndex(), 2);
         });
     }
 
     // ---- The window on a phone: the scale that fills the screen, and the screen's own rotation.
-    void scaleFillsTheScreen_data()
-    {
-        QTest::addColumn<QSize>("available");
-        QTest::addColumn<QSize>("workArea");
-        QTest::addColumn<double>("scale");
-        // Upright the device is 240 x (268 + 26) = 240 x 294; turned, 268 x (240 + 26) = 268 x 266.
-        // Phone 360 x 720: upright min(1.5, 2.449), turned min(360/268 = 1.3433, 2.707) -> 1.3433.
-        QTest::newRow("portrait phone") << QSize(360, 720) << QSize(240, 268) << 360.0 / 268;
-        // Desktop 1920 x 1050: upright min(8, 3.571), turned min(7.16, 3.947) -> 3.571, held at 2.
-        QTest::newRow("large desktop") << QSize(1920, 1050) << QSize(240, 268) << 2.0;
-        // Small landscape 800 x 500: upright min(3.33, 500/294 = 1.7007), turned min(2.985, 1.880).
-        QTest::newRow("small landscape") << QSize(800, 500) << QSize(240, 268) << 500.0 / 294;
-        // A tall work area 200 x 400 on a 600 x 1200 portrait screen: upright min(3, 2.838) = 2.838,
-        // turned 400 x 226: min(1.5, 5.3) = 1.5.
-        QTest::newRow("tall work area") << QSize(600, 1200) << QSize(200, 400) << 1.5;
-        QTest::newRow("no screen") << QSize() << QSize(240, 268) << 2.0;
-    }
-
     void scaleFillsTheScreen()
     {
-        QFETCH(QSize, available);
-        QFETCH(QSize, workArea);
-        QFETCH(double, scale);
-        QCOMPARE(FitScale(available, workArea, SoftKeyBar::BarHeight, 2.0), scale);
+        using Case = std::tuple<QSize, QSize, double>; // the screen's available size, the work area, the scale
+        // Upright the device is 240 x (268 + 26) = 240 x 294; turned, 268 x (240 + 26) = 268 x 266.
+        const Case cases[] = {
+            // Phone 360 x 720: upright min(1.5, 2.449), turned min(360/268 = 1.3433, 2.707) -> 1.3433.
+            {{360, 720}, {240, 268}, 360.0 / 268},
+            // Desktop 1920 x 1050: upright min(8, 3.571), turned min(7.16, 3.947) -> 3.571, held at 2.
+            {{1920, 1050}, {240, 268}, 2.0},
+            // Small landscape 800 x 500: upright min(3.33, 500/294 = 1.7007), turned min(2.985, 1.880).
+            {{800, 500}, {240, 268}, 500.0 / 294},
+            // A tall work area 200 x 400 on a 600 x 1200 portrait screen: upright min(3, 2.838) = 2.838,
+            // turned 400 x 226: min(1.5, 5.3) = 1.5.
+            {{600, 1200}, {200, 400}, 1.5},
+            // No screen: the largest scale.
+            {{}, {240, 268}, 2.0},
+        };
+        for (const auto& [available, workArea, scale] : cases)
+            QCOMPARE(FitScale(available, workArea, SoftKeyBar::BarHeight, 2.0), scale);
     }
 
     void workAreaFollowsTheScreensRotation()
     {
         ScreenTestBench bench;
-        const struct
-        {
-            Qt::ScreenOrientation orientation;
-            QSize workArea;
-        } steps[] = {
-            {Qt::LandscapeOrientation, {268, 240}},
-            {Qt::InvertedLandscapeOrientation, {268, 240}},
-            {Qt::PortraitOrientation, {240, 268}},
-            {Qt::PrimaryOrientation, {240, 268}},
-            {Qt::InvertedLandscapeOrientation, {268, 240}},
-            {Qt::InvertedPortraitOrientation, {240, 268}},
-        };
-        for (const auto& step : steps) {
-            emit QGuiApplication::primaryScreen()->orientationChanged(step.orientation);
-            QCOMPARE(bench.window.workArea(), step.workArea);
-            QCOMPARE(bench.window.size(), step.workArea + QSize(0, SoftKeyBar::BarHeight));
+        const QSize upright(240, 268), turned(268, 240);
+        const std::pair<Qt::ScreenOrientation, QSize> steps[]
+            = {{Qt::LandscapeOrientation, turned}, {Qt::InvertedLandscapeOrientation, turned},
+                {Qt::PortraitOrientation, upright}, {Qt::PrimaryOrientation, upright},
+                {Qt::InvertedLandscapeOrientation, turned}, {Qt::InvertedPortraitOrientation, upright}};
+        for (const auto& [orientation, workArea] : steps) {
+            emit QGuiApplication::primaryScreen()->orientationChanged(orientation);
+            QCOMPARE(bench.window.workArea(), workArea);
+            QCOMPARE(bench.window.size(), workArea + QSize(0, SoftKeyBar::BarHeight));
         }
     }
 };

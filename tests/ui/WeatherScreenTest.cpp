@@ -1,14 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/weather/WeatherScreen.h"
 
-#include "CityFixture.h"
 #include "ScreenTestBench.h"
 #include "app/ServicesApp.h"
 #include "screens/weather/FavouritesDialog.h"
-#include "screens/weather/WeatherOpener.h"
-#include "screens/worldclock/WorldClockScreen.h"
 #include "settings/SettingsTable.h"
-#include "store/CityCatalogue.h"
 #include "store/WeatherFavourites.h"
 #include "ui/Commands.h"
 #include "ui/SoftKeyBar.h"
@@ -37,39 +33,33 @@ struct WeatherBench
             "x;Oslo;Norway;10.75;59.91;1;0;0;0;0;0\n");
         bench.root.write("cities.wet", "3\nFrance;Paris;2988507\nItaly;Rome;3169070\nNorway;Oslo;3143244\n");
         bench.root.write("mapping.cfg", "sunny@00 rain@61 >");
-        writeIcon("wiconset/rain.bmp");
-        writeIcon("wiconset/na.bmp");
-        bench.root.write("weatcs/France", "Paris;2988507\r\nLyon;2996944\r\n>\nNice;2990440\n");
-        bench.root.write("weatcs/Nowhere", ">\nNice;2990440\n");
-        favourites.loadFavouritesOnce();
-    }
-
-    // A 48 x 48 icon: a red square on the transparent colour.
-    void writeIcon(const char* name) const
-    {
+        // 48 x 48 icons: a red square on the transparent colour.
         QImage icon(48, 48, QImage::Format_RGB888);
         icon.fill(IconKey);
         for (int y = 16; y < 32; ++y)
             for (int x = 16; x < 32; ++x)
                 icon.setPixel(x, y, IconRed);
-        icon.save(QString::fromStdString(bench.root.write(name, "").string()), "BMP");
+        for (const char* name : {"wiconset/rain.bmp", "wiconset/na.bmp"})
+            icon.save(QString::fromStdString(bench.root.write(name, "").string()), "BMP");
+        bench.root.write("weatcs/France", "Paris;2988507\r\nLyon;2996944\r\n>\nNice;2990440\n");
+        bench.root.write("weatcs/Nowhere", ">\nNice;2990440\n");
+        favourites.loadFavouritesOnce();
     }
 
-    // Paris's forecast: block b has code 61, the words "Day b", a high of 20 + b and a low of 10 + b °C;
-    // stored with the update date four days after the bench's today (Thursday 1 January 2026).
-    void storeParisForecast() const
+    // Paris's forecast: block b has code 61 and the words "Day b"; stored with the update date four days
+    // after the bench's today (Thursday 1 January 2026).
+    void storeParisForecast(std::uint32_t wetp)
     {
         ForecastTable table;
         for (int b = 0; b < ForecastTable::Blocks; ++b) {
             table.setField(b, 0, L"61");
             table.setField(b, 1, L"Day " + std::to_wstring(b));
-            table.setField(b, 4, std::to_wstring(10 + b));
-            table.setField(b, 5, std::to_wstring(20 + b));
         }
         favourites.updateFavourite(L"Paris", L"2988507", table.joined(), L"05/01/2026:France", 1);
+        bench.store(Settings::WeatherPosition, wetp);
     }
 
-    void setWetp(std::uint32_t position) { WriteSetting(registry, Settings::WeatherPosition, position); }
+    QString condition() const { return ToQString(screen.shownDay().condition); }
 
     // "name|code|last update|country" of every favourite, in store order.
     std::vector<std::wstring> names()
@@ -81,33 +71,9 @@ struct WeatherBench
         return all;
     }
 
-    QPushButton* button(QWidget& dialog, const char* name)
-    {
-        return dialog.findChild<QPushButton*>(QString::fromLatin1(name));
-    }
-
     ScreenTestBench bench;
-    mutable WeatherFavourites favourites {bench.objects, bench.paths, bench.messages};
-    RegistrySettings registry {bench.settings};
+    WeatherFavourites favourites {bench.objects, bench.paths, bench.messages};
     WeatherScreen screen {bench.environment, bench.window, favourites};
-};
-
-QString conditionOf(const WeatherScreen& screen)
-{
-    return ToQString(screen.shownDay().condition);
-}
-
-Spinner* spinner(QWidget& screen, const char* name)
-{
-    return screen.findChild<Spinner*>(QString::fromLatin1(name));
-}
-
-// Records who asked for the weather screen.
-class RecordingOpener final : public WeatherOpener
-{
-public:
-    void openWeather(Screen&, const std::wstring& cityName) override { cities.push_back(cityName); }
-    std::vector<std::wstring> cities;
 };
 
 } // namespace
@@ -117,17 +83,13 @@ class WeatherScreenTest : public QObject
     Q_OBJECT
 
 private slots:
-    void showsTheFavouriteOfWetpDayByDay()
+    void showsTheFavouriteOfWetpDayByDayNoIconWhereThereIsNoneAndNoneAfterTheLast()
     {
         WeatherBench t;
-        t.storeParisForecast();
-        t.setWetp(1);
+        t.storeParisForecast(1);
         t.bench.visit(t.screen, [&] {
             QCOMPARE(t.screen.cityLine(), QStringLiteral("Paris GMT+1"));
             QCOMPARE(t.screen.homeCityName(), QStringLiteral("Oslo")); // catalogue position 0
-            // 20 °C = 68 °F and 10 °C = 50 °F.
-            QCOMPARE(t.screen.shownDay().temperatures, L"68\u00B0 : 50\u00B0");
-            QCOMPARE(t.screen.shownDay().iconPath, L"\\wiconset\\rain.bmp");
             // The icon is drawn without its corner colour: its corner shows what lies beside it.
             const QImage picture = t.bench.render();
             const QRect icon = t.screen.iconRect().translated(t.screen.mapTo(&t.bench.window, QPoint(0, 0)));
@@ -136,28 +98,20 @@ private slots:
             QVERIFY(picture.pixel(icon.topLeft() + QPoint(1, 1)) != IconKey);
             // Thursday 1 January 2026 on; Monday reads "Done". Right from day 5 wraps to 1, left from 1 to 5.
             const char* weekdays[] = {"Thu", "Fri", "Sat", "Sun", "Done", "Thu"};
-            for (int day = 1; day <= 6; ++day) {
+            for (int day = 1; day <= 6; ++day, t.bench.press(Qt::Key_Right)) {
                 QCOMPARE(t.screen.currentDay(), (day - 1) % 5 + 1);
-                QCOMPARE(conditionOf(t.screen), QStringLiteral("Day %1").arg((day - 1) % 5));
+                QCOMPARE(t.condition(), QStringLiteral("Day %1").arg((day - 1) % 5));
                 QCOMPARE(t.screen.shownWeekday(), QString::fromLatin1(weekdays[day - 1]));
-                QCOMPARE(spinner(t.screen, "daySpinner")->currentText(), QString::number((day - 1) % 5 + 1));
-                t.bench.press(Qt::Key_Right);
+                QCOMPARE(child<Spinner>(t.screen, "daySpinner")->currentText(), QString::number((day - 1) % 5 + 1));
             }
             t.bench.press(Qt::Key_Left);
             t.bench.press(Qt::Key_Left);
-            QCOMPARE(t.screen.currentDay(), 5);
-            QCOMPARE(conditionOf(t.screen), QStringLiteral("Day 4"));
+            QCOMPARE(t.condition(), QStringLiteral("Day 4"));
         });
         QVERIFY(t.bench.boxes.shown.empty());
-    }
-
-    void emptyDaysAndMissingIconsDrawNoIcon()
-    {
         // A short forecast text is read by the forecast's own tests; here, Oslo has no forecast yet:
         // every day is empty and draws no icon.
-        WeatherBench t;
-        t.storeParisForecast();
-        t.setWetp(0);
+        t.bench.store(Settings::WeatherPosition, 0);
         t.bench.visit(t.screen, [&] {
             for (int day = 1; day <= 5; ++day, t.bench.press(Qt::Key_Right)) {
                 QCOMPARE(t.screen.shownDay(), ForecastDayTexts());
@@ -165,20 +119,17 @@ private slots:
             }
         });
         // An icon folder without the icon: the day is shown, its icon is not.
-        t.setWetp(1);
-        WriteSetting(t.registry, Settings::IconFolder, L"\\nowhere\\");
+        t.bench.store(Settings::WeatherPosition, 1);
+        t.bench.store(Settings::IconFolder, L"\\nowhere\\");
         t.bench.visit(t.screen, [&] {
             QCOMPARE(t.screen.shownDay().iconPath, L"\\nowhere\\rain.bmp");
             QVERIFY(t.screen.iconRect().isNull());
             t.bench.render();
         });
-    }
-
-    void aFavouriteNotFoundIsToldAndClosesTheScreen()
-    {
+        // A position past the favourites is told, and the screen closes.
         for (const std::uint32_t wetp : {3u, 0xFFFFFFFFu}) {
-            WeatherBench t;
-            t.setWetp(wetp);
+            t.bench.store(Settings::WeatherPosition, wetp);
+            t.bench.boxes.shown.clear();
             bool driven = false;
             t.bench.run(t.screen, [&] { driven = true; });
             QVERIFY(!driven && !t.screen.isRunning());
@@ -190,31 +141,19 @@ private slots:
         }
     }
 
-    void updateForecastChangesNothing()
+    void updateForecastChangesNothingAndChangeCityStoresTheChoice()
     {
         WeatherBench t;
-        t.storeParisForecast();
-        t.setWetp(1);
+        t.storeParisForecast(1);
         const auto before = t.names();
         t.bench.visit(t.screen, [&] {
             t.bench.press(Qt::Key_Right);
-            const ForecastDayTexts shown = t.screen.shownDay();
+            const ForecastDayTexts day = t.screen.shownDay();
             t.screen.softKeys()->chooseItem(Commands::UpdateForecast);
             QCOMPARE(t.bench.window.topScreen(), &t.screen);
             QCOMPARE(t.screen.currentDay(), 2);
-            QCOMPARE(t.screen.shownDay(), shown);
-        });
-        QCOMPARE(t.names(), before);
-        QVERIFY(!t.favourites.getForecastText(1).empty());
-    }
-
-    void changeCityOpensTheFavouritesAndStoresTheChoice()
-    {
-        WeatherBench t;
-        t.storeParisForecast();
-        t.setWetp(1);
-        t.bench.visit(t.screen, [&] {
-            t.bench.press(Qt::Key_Right);
+            QCOMPARE(t.screen.shownDay(), day);
+            QCOMPARE(t.names(), before);
             t.bench.whenNextShown(t.screen, [&](Screen& shown) {
                 auto& dialog = static_cast<FavouritesDialog&>(shown);
                 QCOMPARE(dialog.currentCountry(), L"France"); // Paris, preselected
@@ -227,17 +166,16 @@ private slots:
             QCOMPARE(t.screen.currentDay(), 1);
             QCOMPARE(t.screen.shownDay(), ForecastDayTexts()); // Rome has no forecast yet
         });
-        QCOMPARE(ReadSetting(t.registry, Settings::WeatherPosition), 2u);
+        QCOMPARE(t.bench.stored(Settings::WeatherPosition), 2u);
     }
 
     void openedFromAnotherScreenTheCityCannotChange()
     {
         WeatherBench t;
-        t.storeParisForecast();
-        t.setWetp(2);
+        t.storeParisForecast(2);
         t.screen.setEntryCity(L"Paris");
         t.bench.visit(t.screen, [&] {
-            QCOMPARE(conditionOf(t.screen), QStringLiteral("Day 0"));
+            QCOMPARE(t.condition(), QStringLiteral("Day 0"));
             QVERIFY(!t.screen.softKeys()->isItemEnabled(Commands::ChangeCity));
             QVERIFY(!t.screen.softKeys()->isKeyEnabled(Commands::Services));
             t.bench.press(Qt::Key_Return); // the action key does nothing
@@ -261,29 +199,7 @@ private slots:
             t.bench.window.topSoftKeys()->chooseItem(Commands::Exit);
         });
         QVERIFY(shown);
-        QCOMPARE(ReadSetting(t.registry, Settings::WeatherPosition), 2u);
-    }
-
-    void aWorldClocksWeatherIconOpensItsCitysForecast()
-    {
-        ScreenTestBench bench;
-        CityFixture::write(bench.root, {});
-        CityCatalogue cities {bench.objects, bench.paths, bench.messages};
-        WeatherFavourites favourites {bench.objects, bench.paths, bench.messages};
-        cities.Load();
-        favourites.loadFavouritesOnce();
-        WorldClockScreen clocks {bench.environment, bench.window, cities, favourites};
-        RecordingOpener opener;
-        clocks.setWeatherOpener(&opener);
-        bench.visit(clocks, [&] {
-            bench.press(Qt::Key_Right); // "w": the home city, a favourite since the screen opened
-            bench.press(Qt::Key_Return);
-            bench.press(Qt::Key_Right);
-            bench.press(Qt::Key_Right); // "w1": made a favourite first, which is told
-            bench.press(Qt::Key_Return);
-        });
-        QCOMPARE(opener.cities, (std::vector<std::wstring> {L"C0000", L"C0684"}));
-        QCOMPARE(bench.boxes.shown.size(), std::size_t(1));
+        QCOMPARE(t.bench.stored(Settings::WeatherPosition), 2u);
     }
 };
 
@@ -292,13 +208,14 @@ class FavouritesDialogTest : public QObject
     Q_OBJECT
 
 private slots:
-    void theAddViewAddsFromTheCountryLists()
+    void theAddViewAddsFromTheCountryListsAndShowsNoneWhenTheyAreMissing()
     {
         WeatherBench t;
         FavouritesDialog dialog(t.bench.environment, t.bench.window, t.favourites);
         t.bench.visit(dialog, [&] {
-            Spinner* countries = spinner(dialog, "countrySpinner");
-            Spinner* cities = spinner(dialog, "citySpinner");
+            auto* countries = child<Spinner>(dialog, "countrySpinner");
+            auto* cities = child<Spinner>(dialog, "citySpinner");
+            auto* add = child<QPushButton>(dialog, "addPushButton");
             QVERIFY(!dialog.addViewShown() && !countries->isVisible());
             dialog.sendCommand(Commands::Add);
             QVERIFY(dialog.addViewShown() && countries->isVisible());
@@ -308,39 +225,31 @@ private slots:
             QCOMPARE(cities->items(), (QStringList {QStringLiteral("Paris"), QStringLiteral("Lyon")}));
             cities->setFocus();
             t.bench.press(Qt::Key_Right); // Lyon
-            t.button(dialog, "addPushButton")->click();
-            t.button(dialog, "addPushButton")->setFocus();
+            add->click();
+            add->setFocus();
             t.bench.press(Qt::Key_Return); // the action key on ADD; no duplicate check: a second record
-            QCOMPARE(spinner(dialog, "favouriteSpinner")->currentText(), QStringLiteral("Lyon"));
+            QCOMPARE(child<Spinner>(dialog, "favouriteSpinner")->currentText(), QStringLiteral("Lyon"));
             QCOMPARE(dialog.currentFavourite(), 0);
             countries->setFocus();
             t.bench.press(Qt::Key_Right);
             QCOMPARE(cities->count(), 0); // the list of "Nowhere" starts with ">"
-            t.button(dialog, "addPushButton")->click();
+            add->click();
         });
         const std::vector<std::wstring> favourites {L"Lyon|2996944|01/01/2000|France",
             L"Lyon|2996944|01/01/2000|France", L"Oslo|3143244|01/01/2000|Norway", L"Paris|2988507|01/01/2000|France",
             L"Rome|3169070|01/01/2000|Italy"};
         QCOMPARE(t.names(), favourites);
-    }
-
-    void missingOrUnreadableCountryListsGiveEmptySpinners()
-    {
-        WeatherBench t;
+        // Missing country lists give empty spinners.
         std::filesystem::remove_all(t.bench.root.path() / "weatcs");
-        FavouritesDialog dialog(t.bench.environment, t.bench.window, t.favourites);
-        t.bench.visit(dialog, [&] {
-            dialog.sendCommand(Commands::Add);
-            QCOMPARE(spinner(dialog, "countrySpinner")->count(), 0);
-            QCOMPARE(spinner(dialog, "citySpinner")->count(), 0);
-        });
-        // A name the device cannot open: a backslash in it reads as a folder on the device.
-        t.bench.root.write("weatcs/Bad\\Land", "Paris;2988507\n");
-        t.bench.visit(dialog, [&] {
-            dialog.sendCommand(Commands::Add);
-            QCOMPARE(spinner(dialog, "countrySpinner")->items(), QStringList {QStringLiteral("Bad\\Land")});
-            QCOMPARE(spinner(dialog, "citySpinner")->count(), 0);
-        });
+        // Then a name the device cannot open: a backslash in it reads as a folder on the device.
+        for (const QStringList& countries : {QStringList(), QStringList {QStringLiteral("Bad\\Land")}}) {
+            t.bench.visit(dialog, [&] {
+                dialog.sendCommand(Commands::Add);
+                QCOMPARE(child<Spinner>(dialog, "countrySpinner")->items(), countries);
+                QCOMPARE(child<Spinner>(dialog, "citySpinner")->count(), 0);
+            });
+            t.bench.root.write("weatcs/Bad\\Land", "Paris;2988507\n");
+        }
     }
 
     void removeAsksFirstAndRemovingTheLastSelectsNothing()
@@ -349,7 +258,7 @@ private slots:
         FavouritesDialog dialog(t.bench.environment, t.bench.window, t.favourites);
         dialog.setCurrentFavourite(2);
         t.bench.visit(dialog, [&] {
-            QPushButton* remove = t.button(dialog, "removePushButton");
+            auto* remove = child<QPushButton>(dialog, "removePushButton");
             t.bench.boxes.answer = QMessageBox::No;
             remove->click();
             QCOMPARE(t.favourites.count(), 3);
@@ -363,7 +272,7 @@ private slots:
 
             t.bench.boxes.answer = QMessageBox::Yes;
             remove->click(); // Rome, the last of the list
-            Spinner* list = spinner(dialog, "favouriteSpinner");
+            auto* list = child<Spinner>(dialog, "favouriteSpinner");
             QCOMPARE(list->items(), (QStringList {QStringLiteral("Oslo"), QStringLiteral("Paris")}));
             QCOMPARE(list->currentIndex(), -1);
             QCOMPARE(dialog.currentFavourite(), -1);

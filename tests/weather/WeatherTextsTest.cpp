@@ -7,64 +7,41 @@
 
 TEST(WeatherTexts, TemperaturesInFahrenheit)
 {
-    using Case = std::tuple<std::wstring, std::wstring>;
-    const Case cases[] = {
-        // 21 °C = 69.8 °F, 13 °C = 55.4 °F.
-        {L"21\u00B0 : 13\u00B0", L"70\u00B0 : 55\u00B0"},
-        // -5 °C = 23 °F; -40 is the same on both scales; 0 °C = 32 °F; 100 °C = 212 °F.
-        {L"-5\u00B0 : -40\u00B0", L"23\u00B0 : -40\u00B0"},
-        // -18 °C = -0.4 °F prints as "-0"; 37 °C = 98.6 °F.
-        {L"37\u00B0 : -18\u00B0", L"99\u00B0 : -0\u00B0"},
-        {L"-\u00B0 : 13\u00B0", L"-\u00B0 : 55\u00B0"},
-        {L"N/A\u00B0 : 13\u00B0", L"N/A\u00B0 : 55\u00B0"},
-        {L"21\u00B0 : -\u00B0", L"70\u00B0 : -\u00B0"},
-        {L"21\u00B0 : N/A\u00B0", L"70\u00B0 : N/A\u00B0"},
-        // Empty parts read as 0 °C.
-        {L"\u00B0 : \u00B0", L"32\u00B0 : 32\u00B0"},
-        // Text after the number is ignored as _wtol ignores it.
-        {L"21C\u00B0 : 13 x\u00B0", L"70\u00B0 : 55\u00B0"},
-    };
-    for (const auto& [celsius, fahrenheit] : cases) {
-        SCOPED_TRACE(testing::PrintToString(celsius));
-        EXPECT_EQ(FahrenheitText(celsius), fahrenheit);
-    }
-}
-
-TEST(WeatherTexts, TemperaturePairsInFahrenheit)
-{
-    using Case = std::tuple<std::wstring, std::wstring>;
-    const Case cases[] = {
-        {L"19/11", L"66/52"}, // 66.2 and 51.8 °F
-        {L"-5/-40", L"23/-40"},
-        {L"-/11", L"-/52"},
-        {L"19/-", L"66/-"},
-        {L"N/A/11", L"N/A/52"},
-        {L"19/N/A", L"66/N/A"},
-        {L"N/A/N/A", L"N/A/N/A"},
-        {L"", L"32/32"},
-    };
-    for (const auto& [celsius, fahrenheit] : cases) {
-        SCOPED_TRACE(testing::PrintToString(celsius));
-        EXPECT_EQ(FahrenheitPairText(celsius), fahrenheit);
-    }
+    // The converter, the Celsius text and its Fahrenheit text. 21 °C = 69.8 °F, 13 °C = 55.4 °F, -5 °C = 23 °F,
+    // -40 is the same on both scales, 37 °C = 98.6 °F and -18 °C = -0.4 °F, printed "-0"; "-" and "N/A" stay
+    // in either part, empty parts read as 0 °C and text after the number is ignored, as _wtol ignores it.
+    // Felt temperatures come in pairs: 19 and 11 °C are 66.2 and 51.8 °F.
+    using Convert = std::wstring (*)(std::wstring_view);
+    const std::tuple<Convert, std::wstring, std::wstring> cases[]
+        = {{FahrenheitText, L"21\u00B0 : 13\u00B0", L"70\u00B0 : 55\u00B0"},
+            {FahrenheitText, L"-5\u00B0 : -40\u00B0", L"23\u00B0 : -40\u00B0"},
+            {FahrenheitText, L"37\u00B0 : -18\u00B0", L"99\u00B0 : -0\u00B0"},
+            {FahrenheitText, L"-\u00B0 : 13\u00B0", L"-\u00B0 : 55\u00B0"},
+            {FahrenheitText, L"21\u00B0 : -\u00B0", L"70\u00B0 : -\u00B0"},
+            {FahrenheitText, L"N/A\u00B0 : 13\u00B0", L"N/A\u00B0 : 55\u00B0"},
+            {FahrenheitText, L"21\u00B0 : N/A\u00B0", L"70\u00B0 : N/A\u00B0"},
+            {FahrenheitText, L"\u00B0 : \u00B0", L"32\u00B0 : 32\u00B0"},
+            {FahrenheitText, L"21C\u00B0 : 13 x\u00B0", L"70\u00B0 : 55\u00B0"},
+            {FahrenheitPairText, L"19/11", L"66/52"}, {FahrenheitPairText, L"-5/-40", L"23/-40"},
+            {FahrenheitPairText, L"-/11", L"-/52"}, {FahrenheitPairText, L"19/-", L"66/-"},
+            {FahrenheitPairText, L"19/N/A", L"66/N/A"}, {FahrenheitPairText, L"N/A/11", L"N/A/52"},
+            {FahrenheitPairText, L"N/A/N/A", L"N/A/N/A"}, {FahrenheitPairText, L"", L"32/32"}};
+    for (const auto& [convert, celsius, fahrenheit] : cases)
+        EXPECT_EQ(convert(celsius), fahrenheit) << testing::PrintToString(celsius);
 }
 
 TEST(WeatherTexts, IconNamesFromTheMapping)
 {
     const std::wstring mapping = L"sun@00;cloud@03,13;rain@61,63;storm@95,96;";
     using Case = std::tuple<const char*, std::wstring, std::wstring, std::wstring>;
-    const Case cases[] = {
-        {"a code of an entry", mapping, L"61", L"rain"},
-        {"the second code of an entry", mapping, L"13", L"cloud"},
-        {"the first entry containing the code wins", mapping, L"3", L"cloud"},
-        {"the code may stand in the name", mapping, L"ai", L"rain"},
-        {"a code missing from the mapping", mapping, L"45", L"na"},
-        {"N/A", mapping, L"N/A", L"na"},
-        {"a dash", mapping, L"-", L"na"},
-        {"an empty mapping", L"", L"61", L"na"},
-        {"an entry without @ is its own name", L"fog;", L"fog", L"fog"},
-        {"empty pieces are no entries", L";;sun@00;", L"", L"sun"},
-    };
+    const Case cases[]
+        = {{"a code of an entry", mapping, L"61", L"rain"}, {"the second code of an entry", mapping, L"13", L"cloud"},
+            {"the first entry containing the code wins", mapping, L"3", L"cloud"},
+            {"the code may stand in the name", mapping, L"ai", L"rain"},
+            {"a code missing from the mapping", mapping, L"45", L"na"}, {"N/A", mapping, L"N/A", L"na"},
+            {"a dash", mapping, L"-", L"na"}, {"an empty mapping", L"", L"61", L"na"},
+            {"an entry without @ is its own name", L"fog;", L"fog", L"fog"},
+            {"empty pieces are no entries", L";;sun@00;", L"", L"sun"}};
     for (const auto& [what, text, code, name] : cases) {
         SCOPED_TRACE(what);
         EXPECT_EQ(MappingIconName(text, code), name);
@@ -74,19 +51,17 @@ TEST(WeatherTexts, IconNamesFromTheMapping)
 TEST(WeatherTexts, IconPathsCutTheProgramPathAtItsFirstBackslash)
 {
     using Case = std::tuple<std::wstring, std::wstring, std::wstring>;
-    const Case cases[] = {
-        {L"\\Wanderkit.exe", L"\\wiconset\\", L"\\wiconset\\rain.bmp"},
+    const Case cases[] = {{L"\\Wanderkit.exe", L"\\wiconset\\", L"\\wiconset\\rain.bmp"},
         {L"\\Program Files\\Wanderkit\\Wanderkit.exe", L"\\wiconset\\", L"\\wiconset\\rain.bmp"},
         {L"C:\\Wanderkit\\Wanderkit.exe", L"\\icons\\", L"C:\\icons\\rain.bmp"},
-        {L"Wanderkit.exe", L"\\wiconset\\", L"Wanderkit.exe\\wiconset\\rain.bmp"},
-    };
+        {L"Wanderkit.exe", L"\\wiconset\\", L"Wanderkit.exe\\wiconset\\rain.bmp"}};
     for (const auto& [program, folder, path] : cases) {
         SCOPED_TRACE(testing::PrintToString(program));
         EXPECT_EQ(WeatherIconPath(program, folder, L"rain"), path);
     }
 }
 
-TEST(WeatherTexts, CityLines)
+TEST(WeatherTexts, CityLinesWeekdaysAndDaySteps)
 {
     using Case = std::tuple<std::optional<ZoneOffset>, std::wstring>;
     const Case cases[] = {
@@ -99,10 +74,7 @@ TEST(WeatherTexts, CityLines)
     };
     for (const auto& [offset, line] : cases)
         EXPECT_EQ(WeatherCityLine(L"Paris", offset), line);
-}
 
-TEST(WeatherTexts, WeekdaysAndDaySteps)
-{
     // Sunday to Saturday; the Monday label reads "Done".
     const std::wstring_view labels[] = {L"Sun", L"Done", L"Tue", L"Wed", L"Thu", L"Fri", L"Sat"};
     for (int day = 0; day < 7; ++day) {

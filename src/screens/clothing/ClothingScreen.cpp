@@ -2,29 +2,28 @@
 #include "screens/clothing/ClothingScreen.h"
 
 #include "settings/SettingsTable.h"
+#include "ui/ConverterLayout.h"
 #include "ui/Painting.h"
 #include "ui/Spinner.h"
+#include "ui/StringIds.h"
 #include "ui/WideString.h"
 
 #include <QPainter>
 
 #include <algorithm>
+#include <functional>
 
 namespace {
-
-constexpr int ScreenTitle = 40045; // "Clothing sizes"
 
 // Layout, b being the title band's height: the wearer and garment spinners one above the other at
 // (6, b+6) and (6, b+36), W-17 wide and 24 high; the table title at (5, b+70); the four rows from
 // (5, b+100), 28 pixels apart. The hidden shift spinner sits at (W-25, 10), 0 x 0.
 constexpr int Band = TitleBand::Height;
-constexpr int SpinnerHeight = 24;
 constexpr int WearerTop = Band + 6;
 constexpr int GarmentTop = Band + 36;
 constexpr int TableTitleTop = Band + 70;
 constexpr int FirstRowTop = Band + 100;
 constexpr int RowPitch = 28;
-constexpr int TextLeft = 5;
 
 // A stored list position, or 0 when it is not one of `count` positions.
 int positionOrFirst(std::uint32_t stored, std::size_t count)
@@ -36,28 +35,23 @@ int positionOrFirst(std::uint32_t stored, std::size_t count)
 
 ClothingScreen::ClothingScreen(ScreenEnvironment& environment, DeviceWindow& window)
     : Screen(environment, window, MenuBarId::Converter, QStringLiteral("clothing"))
-    , m_title(Painting::ConverterBand, ScreenTitle)
-    , m_settings(environment.settings)
-    , m_wearerSpinner(new Spinner(this))
-    , m_garmentSpinner(new Spinner(this))
-    , m_shiftSpinner(new Spinner(this))
+    , m_title(Painting::ConverterBand, StringIds::ClothingSizes)
+    , m_wearerSpinner(addSpinner(QStringLiteral("wearerSpinner")))
+    , m_garmentSpinner(addSpinner(QStringLiteral("garmentSpinner")))
+    , m_shiftSpinner(addSpinner(QStringLiteral("shiftSpinner"), std::bind_front(&ClothingScreen::shiftRows, this)))
 {
     setBackgroundPicture(L"bconv.jpg");
-    m_wearerSpinner->setObjectName(QStringLiteral("wearerSpinner"));
-    m_garmentSpinner->setObjectName(QStringLiteral("garmentSpinner"));
-    m_shiftSpinner->setObjectName(QStringLiteral("shiftSpinner"));
+    keepSetting(Settings::ClothesWho, *m_wearerSpinner);
+    keepSetting(Settings::ClothesKind, *m_garmentSpinner);
     m_shiftSpinner->setItems({QStringLiteral("1"), QStringLiteral("2")});
     setTabOrder(m_wearerSpinner, m_garmentSpinner);
     setTabOrder(m_garmentSpinner, m_shiftSpinner);
-    watchSpinner(*m_shiftSpinner);
     connect(m_wearerSpinner, &Spinner::currentChanged, this, [this] {
         fillGarments(0);
         showTable();
     });
     connect(m_garmentSpinner, &Spinner::currentChanged, this, &ClothingScreen::showTable);
 }
-
-ClothingScreen::~ClothingScreen() = default;
 
 QString ClothingScreen::tableTitle() const
 {
@@ -90,9 +84,9 @@ void ClothingScreen::initialise()
     for (const int id : ClothingSizes::Wearers())
         wearers << Painting::loadString(id);
     m_wearerSpinner->setItems(wearers);
-    const int wearer = positionOrFirst(ReadSetting(m_settings, Settings::ClothesWho), ClothingSizes::Wearers().size());
+    const int wearer = positionOrFirst(ReadSetting(settings(), Settings::ClothesWho), ClothingSizes::Wearers().size());
     m_wearerSpinner->setCurrentIndex(wearer);
-    const std::uint32_t garment = ReadSetting(m_settings, Settings::ClothesKind);
+    const std::uint32_t garment = ReadSetting(settings(), Settings::ClothesKind);
     fillGarments(positionOrFirst(garment, ClothingSizes::Garments(wearer).size()));
     showTable();
     m_shiftSpinner->setFocus();
@@ -116,8 +110,8 @@ void ClothingScreen::showTable()
 void ClothingScreen::layout(int width, int)
 {
     m_title.layout(width);
-    m_wearerSpinner->setGeometry(6, WearerTop, width - 17, SpinnerHeight);
-    m_garmentSpinner->setGeometry(6, GarmentTop, width - 17, SpinnerHeight);
+    m_wearerSpinner->setGeometry(ConverterLayout::listBox(WearerTop, width));
+    m_garmentSpinner->setGeometry(ConverterLayout::listBox(GarmentTop, width));
     m_shiftSpinner->hideAt(width - 25, 10);
 }
 
@@ -125,20 +119,14 @@ void ClothingScreen::paint(QPainter& painter)
 {
     m_title.paint(painter);
     painter.setPen(Painting::White);
-    Painting::drawTextAt(painter, m_labelFont, TextLeft, TableTitleTop, tableTitle());
+    Painting::drawTextAt(painter, m_labelFont, ConverterLayout::TextLeft, TableTitleTop, tableTitle());
     const QStringList rows = shownRows();
     for (int i = 0; i < rows.size(); ++i)
-        Painting::drawTextAt(painter, m_rowFont, TextLeft, FirstRowTop + i * RowPitch, rows.at(i));
+        Painting::drawTextAt(painter, m_rowFont, ConverterLayout::TextLeft, FirstRowTop + i * RowPitch, rows.at(i));
 }
 
-void ClothingScreen::spinnerDelta(Spinner&, int delta)
+void ClothingScreen::shiftRows(int delta)
 {
     m_shift = std::clamp(m_shift + delta, 0, ClothingSizes::MaxShift);
     update();
-}
-
-void ClothingScreen::destroyWork()
-{
-    WriteSetting(m_settings, Settings::ClothesWho, static_cast<std::uint32_t>(m_wearerSpinner->currentIndex()));
-    WriteSetting(m_settings, Settings::ClothesKind, static_cast<std::uint32_t>(m_garmentSpinner->currentIndex()));
 }

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "reference/ClothingSizes.h"
-#include "settings/RegistrySettings.h"
 #include "ui/Screen.h"
 #include "ui/TitleBand.h"
 
@@ -17,7 +16,6 @@ class ClothingScreen final : public Screen
 
 public:
     ClothingScreen(ScreenEnvironment& environment, DeviceWindow& window);
-    ~ClothingScreen() override;
 
     // Scroll step of the rows, 0 to ClothingSizes::MaxShift.
     int shift() const { return m_shift; }
@@ -29,16 +27,15 @@ protected:
     void initialise() override;
     void layout(int width, int height) override;
     void paint(QPainter& painter) override;
-    void destroyWork() override;
-    void spinnerDelta(Spinner& spinner, int delta) override;
 
 private:
+    // Scrolls the rows sideways by `delta` characters, within 0 to ClothingSizes::MaxShift.
+    void shiftRows(int delta);
     // Fills the garment list with the chosen wearer's garments and selects `garment`.
     void fillGarments(int garment);
     void showTable();
 
     TitleBand m_title;
-    RegistrySettings m_settings;
     Spinner* m_wearerSpinner;
     Spinner* m_garmentSpinner;
     Spinner* m_shiftSpinner;

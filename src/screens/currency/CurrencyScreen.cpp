@@ -9,15 +9,16 @@
 #include "ui/DeviceWindow.h"
 #include "ui/NumericEdit.h"
 #include "ui/Painting.h"
+#include "ui/StringIds.h"
 #include "ui/WideString.h"
 
 #include <QPainter>
 
 #include <algorithm>
+#include <functional>
 
 namespace {
 
-constexpr int ScreenTitle = 40034; // "Currency Converter"
 constexpr int Band = TitleBand::Height; // b
 constexpr int FieldLeft = 55;
 constexpr int FieldRight = 200;
@@ -50,10 +51,9 @@ CurrencyScreen::CurrencyScreen(
     : Screen(environment, window, MenuBarId::Currency, QStringLiteral("currency"))
     , m_initialCurrencies(initialCurrencies)
     , m_store(environment.objects)
-    , m_settings(environment.settings)
     , m_titleFont(Painting::makeFont(23, Painting::Bold))
     , m_textFont(Painting::makeFont(20, Painting::Bold))
-    , m_titleBand(Painting::ConverterBand, ScreenTitle, m_titleFont)
+    , m_titleBand(Painting::ConverterBand, StringIds::CurrencyConverter, m_titleFont)
 {
     setBackgroundPicture(L"back.jpg");
     m_titleBand.setTextOrigin(QPoint(5, 2));
@@ -67,10 +67,13 @@ CurrencyScreen::CurrencyScreen(
         });
         connect(field, &QLineEdit::textChanged, this, [this, k] { convertFrom(k); });
         m_fields[k] = field;
+        keepSetting(*PositionSettings[k], [this, k] { return m_positions[k]; });
     }
+    keepSetting(Settings::CurrencyAmount, [this] { return ToWide(m_fields[0]->text().left(MaxFieldText)); });
+    // "Update rates" has no action of its own.
+    onCommand({Commands::Ok, Commands::ChangeCurrency}, std::bind_front(&CurrencyScreen::changeCurrency, this));
+    onCommand({Commands::Clear}, std::bind_front(&CurrencyScreen::clearFields, this));
 }
-
-CurrencyScreen::~CurrencyScreen() = default;
 
 void CurrencyScreen::initialise()
 {
@@ -78,11 +81,11 @@ void CurrencyScreen::initialise()
     m_store.SetInitialList(m_initialCurrencies);
     m_store.Load();
     for (std::size_t k = 0; k < FieldCount; ++k)
-        chooseCurrency(k, ReadSetting(m_settings, *PositionSettings[k]));
+        chooseCurrency(k, ReadSetting(settings(), *PositionSettings[k]));
     m_focusLabel = ToQString(m_currencies[0].label);
     m_lastUpdate = ToQString(LastUpdateText(m_store.LastUpdate(), environment().clock.localTime().year));
     m_fields[0]->setFocus();
-    m_fields[0]->setText(ToQString(ReadSetting(m_settings, Settings::CurrencyAmount)));
+    m_fields[0]->setText(ToQString(ReadSetting(settings(), Settings::CurrencyAmount)));
     convertFrom(0);
 }
 
@@ -131,17 +134,10 @@ void CurrencyScreen::convertFrom(std::size_t field)
     }
 }
 
-void CurrencyScreen::command(int id)
+void CurrencyScreen::clearFields()
 {
-    if (id == Commands::Ok || id == Commands::ChangeCurrency) {
-        changeCurrency();
-    } else if (id == Commands::Clear) {
-        for (NumericEdit* field : m_fields)
-            field->setText(QString());
-    } else {
-        // "Update rates" has no action of its own.
-        Screen::command(id);
-    }
+    for (NumericEdit* field : m_fields)
+        field->setText(QString());
 }
 
 void CurrencyScreen::changeCurrency()
@@ -190,11 +186,4 @@ void CurrencyScreen::paintRateLines(QPainter& painter, int bandTop)
     Painting::drawTextAt(painter, m_textFont, 5, bandTop + 35, ToQString(FirstRateLine(first, second)));
     const int lead = QFontMetrics(m_textFont).horizontalAdvance(ToQString(FirstRateLineLead(first)));
     Painting::drawTextAt(painter, m_textFont, 5 + lead, bandTop + 50, ToQString(SecondRateLine(first, third)));
-}
-
-void CurrencyScreen::destroyWork()
-{
-    for (std::size_t k = 0; k < FieldCount; ++k)
-        WriteSetting(m_settings, *PositionSettings[k], m_positions[k]);
-    WriteSetting(m_settings, Settings::CurrencyAmount, ToWide(m_fields[0]->text().left(MaxFieldText)));
 }

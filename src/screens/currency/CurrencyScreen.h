@@ -2,7 +2,6 @@
 #pragma once
 
 #include "currency/CurrencyConversion.h"
-#include "settings/RegistrySettings.h"
 #include "store/CurrencyStore.h"
 #include "store/InitialCurrencyList.h"
 #include "ui/Screen.h"
@@ -27,7 +26,6 @@ public:
 
     // `initialCurrencies` is the launcher's list, handed to the screen's own store at every opening.
     CurrencyScreen(ScreenEnvironment& environment, DeviceWindow& window, const InitialCurrencyList& initialCurrencies);
-    ~CurrencyScreen() override;
 
     std::uint32_t position(std::size_t field) const { return m_positions[field]; }
     const QString& focusLabel() const { return m_focusLabel; }
@@ -39,8 +37,6 @@ protected:
     void initialise() override;
     void layout(int width, int height) override;
     void paint(QPainter& painter) override;
-    void destroyWork() override;
-    void command(int id) override;
 
 private:
     // The field that has the focus, if one has.
@@ -49,11 +45,11 @@ private:
     void fieldFocused(std::size_t field);
     void convertFrom(std::size_t field);
     void changeCurrency();
+    void clearFields();
     void paintRateLines(QPainter& painter, int bandTop);
 
     const InitialCurrencyList& m_initialCurrencies;
     CurrencyStore m_store;
-    RegistrySettings m_settings;
     std::array<NumericEdit*, FieldCount> m_fields;
     std::array<std::uint32_t, FieldCount> m_positions {};
     std::array<ConverterCurrency, FieldCount> m_currencies;

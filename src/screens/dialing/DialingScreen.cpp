@@ -4,29 +4,21 @@
 #include "reference/DialingCodes.h"
 #include "ui/BusyCursor.h"
 #include "ui/Commands.h"
+#include "ui/ConverterLayout.h"
 #include "ui/Painting.h"
 #include "ui/ReportList.h"
 #include "ui/SoftKeyBar.h"
 #include "ui/Spinner.h"
+#include "ui/StringIds.h"
 #include "ui/WideString.h"
 
 #include <QPainter>
 
 namespace {
 
-constexpr int ScreenTitle = 40046; // "Dialing codes"
-constexpr int InternationalItem = 40082;
-constexpr int AreaCodesItem = 40078;
-constexpr int CityText = 40022;
-constexpr int CountryText = 40023;
-constexpr int CodeText = 40080;
-constexpr int GmtText = 40081;
-constexpr int RegionText = 40083;
-
 // The chooser at (6, b+6), W-17 wide and 24 high; both lists share (0, b+36) to the bottom right.
 constexpr int Band = TitleBand::Height;
 constexpr int ChooserTop = Band + 6;
-constexpr int ChooserHeight = 24;
 constexpr int ListTop = Band + 36;
 // The chooser's longest item, "International Dialing Codes", fits its box at this height.
 constexpr int ListFontHeight = 15;
@@ -43,28 +35,26 @@ ReportList* makeList(QWidget* parent, const QString& name, std::vector<ReportLis
 
 DialingScreen::DialingScreen(ScreenEnvironment& environment, DeviceWindow& window)
     : Screen(environment, window, MenuBarId::Launcher, QStringLiteral("dialing"))
-    , m_title(Painting::ConverterBand, ScreenTitle)
-    , m_chooser(new Spinner(this))
+    , m_title(Painting::ConverterBand, StringIds::DialingCodes)
+    , m_chooser(addSpinner(QStringLiteral("chooserSpinner")))
 {
     m_title.setTextOrigin(QPoint(5, 0));
     setBackgroundPicture(L"bconv.jpg");
-    m_chooser->setObjectName(QStringLiteral("chooserSpinner"));
-    m_chooser->setItems({Painting::loadString(InternationalItem), Painting::loadString(AreaCodesItem)});
+    m_chooser->setItems(
+        {Painting::loadString(StringIds::InternationalDialingCodes), Painting::loadString(StringIds::UsAreaCodes)});
     connect(m_chooser, &Spinner::currentChanged, this, &DialingScreen::showChosenList);
 }
-
-DialingScreen::~DialingScreen() = default;
 
 // The lists are made on the first opening, so that the program's start does not pay for them.
 void DialingScreen::createLists()
 {
     m_international = makeList(this, QStringLiteral("internationalReportList"),
-        {{Painting::loadString(CountryText), 45}, {Painting::loadString(CodeText), 26},
-            {Painting::loadString(GmtText), 21, 1}});
+        {{Painting::loadString(StringIds::Country), 45}, {Painting::loadString(StringIds::Code), 26},
+            {Painting::loadString(StringIds::Gmt), 21, 1}});
     // The state and the code share what the city leaves, 92 % in all as above, room kept for the scroll bar.
     m_areaCodes = makeList(this, QStringLiteral("areaCodeReportList"),
-        {{Painting::loadString(CityText), 35}, {Painting::loadString(RegionText), 40},
-            {Painting::loadString(CodeText), 17}});
+        {{Painting::loadString(StringIds::City), 35}, {Painting::loadString(StringIds::RegionState), 40},
+            {Painting::loadString(StringIds::Code), 17}});
 }
 
 void DialingScreen::initialise()
@@ -107,7 +97,7 @@ void DialingScreen::showChosenList()
 void DialingScreen::layout(int width, int height)
 {
     m_title.layout(width);
-    m_chooser->setGeometry(6, ChooserTop, width - 17, ChooserHeight);
+    m_chooser->setGeometry(ConverterLayout::listBox(ChooserTop, width));
     const QRect lists(0, ListTop, width, height - ListTop);
     m_international->setGeometry(lists);
     m_areaCodes->setGeometry(lists);

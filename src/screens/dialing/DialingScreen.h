@@ -17,7 +17,6 @@ class DialingScreen final : public Screen
 
 public:
     DialingScreen(ScreenEnvironment& environment, DeviceWindow& window);
-    ~DialingScreen() override;
 
 protected:
     void initialise() override;

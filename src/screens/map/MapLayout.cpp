@@ -4,16 +4,26 @@
 #include "astro/MapPoint.h"
 
 #include <algorithm>
+#include <array>
 
 namespace {
 
-// Row heights below the map; the space left over is shared out between the rows.
-constexpr int ClockRow = 34;
-constexpr int NameRow = 24;
-constexpr int CityTimeRow = 24;
-constexpr int CoordinatesRow = 16;
-constexpr int SunRow = 18;
-constexpr int NameInset = 36; // the name is fitted to the width less twice this
+// The rows below the map, top to bottom: where each goes, its height and its inset from both sides (the
+// name is fitted to the width less twice its inset). The space left over is shared out between the rows.
+struct Row
+{
+    QRect MapLayout::*place;
+    int height;
+    int inset;
+};
+
+constexpr std::array<Row, 5> Rows {{
+    {&MapLayout::clock, 34, 0},
+    {&MapLayout::name, 24, 36},
+    {&MapLayout::cityTime, 24, 4},
+    {&MapLayout::coordinates, 16, 4},
+    {&MapLayout::sun, 18, 4},
+}};
 
 } // namespace
 
@@ -22,18 +32,14 @@ MapLayout MapLayout::of(int width, int height)
     MapLayout layout;
     layout.mapHeight = MapHeightFor(height);
     layout.map = QRect(0, 0, width, std::max(layout.mapHeight, 0));
-    const int spare = height - layout.mapHeight - (ClockRow + NameRow + CityTimeRow + CoordinatesRow + SunRow);
-    const int gap = std::clamp(spare / 5, 0, 8);
+    int rowsHeight = 0;
+    for (const Row& row : Rows)
+        rowsHeight += row.height;
+    const int gap = std::clamp((height - layout.mapHeight - rowsHeight) / static_cast<int>(Rows.size()), 0, 8);
     int top = layout.mapHeight + 2;
-    const auto row = [&](int rowHeight, int inset = 0) {
-        const QRect rect(inset, top, width - 2 * inset, rowHeight);
-        top += rowHeight + gap;
-        return rect;
-    };
-    layout.clock = row(ClockRow);
-    layout.name = row(NameRow, NameInset);
-    layout.cityTime = row(CityTimeRow, 4);
-    layout.coordinates = row(CoordinatesRow, 4);
-    layout.sun = row(SunRow, 4);
+    for (const Row& row : Rows) {
+        layout.*row.place = QRect(row.inset, top, width - 2 * row.inset, row.height);
+        top += row.height + gap;
+    }
     return layout;
 }

@@ -5,7 +5,6 @@
 #include "device/DeviceClock.h"
 #include "device/DevicePaths.h"
 #include "screens/select/SelectDialog.h"
-#include "screens/weather/WeatherOpener.h"
 #include "session/HomeCity.h"
 #include "settings/SettingsTable.h"
 #include "store/CityCatalogue.h"
@@ -20,14 +19,16 @@
 #include "ui/Painting.h"
 #include "ui/SoftKeyBar.h"
 #include "ui/Spinner.h"
+#include "ui/StringIds.h"
 #include "ui/WideString.h"
 
 #include <QPainter>
 
+#include <functional>
+
 namespace {
 
 constexpr int TickTimer = 1;
-constexpr int LongLatString = 40024;
 const QColor TimeColour(51, 102, 150);
 const QColor CityTimeColour(0, 0, 100);
 const QColor WindowFill(150, 150, 150);
@@ -47,25 +48,24 @@ QImage loadPicture(const DevicePaths& paths, const wchar_t* name)
 
 MapScreen::MapScreen(
     ScreenEnvironment& environment, DeviceWindow& window, CityCatalogue& cities, WeatherFavourites& favourites)
-    : Screen(environment, window, MenuBarId::Map, QStringLiteral("worldmap"))
-    , m_cities(cities)
-    , m_favourites(favourites)
-    , m_settings(environment.settings)
-    , m_spinner(new Spinner(this))
+    : CityScreen(environment, window, MenuBarId::Map, QStringLiteral("worldmap"), cities, favourites)
+    , m_spinner(addSpinner(QStringLiteral("citySpinner"), std::bind_front(&MapScreen::stepCity, this)))
 {
-    m_spinner->setObjectName(QStringLiteral("citySpinner"));
-    watchSpinner(*m_spinner);
+    keepSetting(Settings::MapClock, [this] { return static_cast<std::uint32_t>(m_selected); });
+    onCommand({Commands::ShowCitiesOnMap}, std::bind_front(&MapScreen::toggleMarkers, this));
+    onCommand({Commands::ChangeCity, Commands::Ok}, std::bind_front(&MapScreen::changeCity, this));
+    onCommand({Commands::WeatherForecast}, std::bind_front(&MapScreen::showWeather, this));
 }
 
 void MapScreen::initialise()
 {
-    ReadSetting(m_settings, Settings::SyncLocalZone); // read as the handheld did; the map runs unsynchronised
+    ReadSetting(settings(), Settings::SyncLocalZone); // read as the handheld did; the map runs unsynchronised
     m_favourites.loadFavouritesOnce();
-    m_showCities = ReadSetting(m_settings, Settings::ShowCities) != 0;
+    m_showCities = ReadSetting(settings(), Settings::ShowCities) != 0;
     softKeys()->setItemChecked(Commands::ShowCitiesOnMap, m_showCities);
     // A stored position that is negative or past the end of the catalogue (a catalogue that shrank, a
     // value edited by hand) shows the first city, as a missing "mapclock" does: position 0 always exists.
-    m_selected = MapCities::validSelection(MapCities::storedSelection(m_settings), m_cities.Count());
+    m_selected = MapCities::validSelection(MapCities::storedSelection(settings()), m_cities.Count());
     computeDeviceOffset();
     computeCity();
     formatTimes();
@@ -78,7 +78,7 @@ void MapScreen::initialise()
     m_cityTimeFont = Painting::makeFont(23, Painting::Bold);
     m_nameFont = Painting::makeFont(24, Painting::Bold);
     m_sunFont = Painting::makeFont(18, Painting::Bold);
-    m_twelveHour = ReadSetting(m_settings, Settings::TwelveHour) == 1;
+    m_twelveHour = ReadSetting(settings(), Settings::TwelveHour) == 1;
     m_spinner->setItems({ToQString(m_city.name)});
     m_spinner->setCurrentIndex(0);
     m_spinner->setFocus();
@@ -94,7 +94,7 @@ void MapScreen::loadPictures()
 void MapScreen::computeDeviceOffset()
 {
     const DeviceClock& clock = environment().clock;
-    const std::uint32_t home = HomeCity::position(m_settings);
+    const std::uint32_t home = HomeCity::position(settings());
     m_device = HomeCity::deviceOffset(m_cities, home, clock);
     m_deviceDaylight = EvaluateHomeDaylight(zoneTexts(m_cities.Record(home)), clock.localTime()).inEffect;
 }
@@ -153,7 +153,7 @@ void MapScreen::tick()
         update(m_layout.cityTime);
     const DeviceClock& clock = environment().clock;
     const SystemTime now = clock.localTime();
-    const std::uint32_t home = HomeCity::position(m_settings);
+    const std::uint32_t home = HomeCity::position(settings());
     if (EvaluateHomeDaylight(zoneTexts(m_cities.Record(home)), now).inEffect != m_deviceDaylight)
         computeDeviceOffset();
     if (ComputeCitySlot(zoneTexts(m_city), m_device, now).offset != m_citySlot.offset) {
@@ -164,7 +164,7 @@ void MapScreen::tick()
         update(m_layout.clock | m_layout.cityArea());
 }
 
-void MapScreen::spinnerDelta(Spinner&, int delta)
+void MapScreen::stepCity(int delta)
 {
     m_leftPressed = delta < 0;
     m_rightPressed = delta > 0;
@@ -174,7 +174,7 @@ void MapScreen::spinnerDelta(Spinner&, int delta)
 void MapScreen::selectCity(std::int32_t city)
 {
     m_selected = city;
-    WriteSetting(m_settings, Settings::MapClock, static_cast<std::uint32_t>(m_selected));
+    WriteSetting(settings(), Settings::MapClock, static_cast<std::uint32_t>(m_selected));
     computeCity();
     formatTimes();
     m_spinner->setItems({ToQString(m_city.name)});
@@ -183,29 +183,15 @@ void MapScreen::selectCity(std::int32_t city)
     update();
 }
 
-void MapScreen::command(int id)
+void MapScreen::showWeather()
 {
-    switch (id) {
-    case Commands::ShowCitiesOnMap:
-        toggleMarkers();
-        break;
-    case Commands::ChangeCity:
-    case Commands::Ok:
-        changeCity();
-        break;
-    case Commands::WeatherForecast:
-        if (m_weatherOpener)
-            m_weatherOpener->openWeather(*this, m_cities.CityName(static_cast<std::uint32_t>(m_selected)));
-        break;
-    default:
-        Screen::command(id);
-    }
+    openWeatherFor(static_cast<std::uint32_t>(m_selected));
 }
 
 void MapScreen::toggleMarkers()
 {
-    m_showCities = ReadSetting(m_settings, Settings::ShowCities) == 0;
-    WriteSetting(m_settings, Settings::ShowCities, m_showCities ? 1 : 0);
+    m_showCities = ReadSetting(settings(), Settings::ShowCities) == 0;
+    WriteSetting(settings(), Settings::ShowCities, m_showCities ? 1 : 0);
     softKeys()->setItemChecked(Commands::ShowCitiesOnMap, m_showCities);
     m_redrawMap = true;
     update();
@@ -225,7 +211,6 @@ void MapScreen::changeCity()
 
 void MapScreen::destroyWork()
 {
-    WriteSetting(m_settings, Settings::MapClock, static_cast<std::uint32_t>(m_selected));
     m_dayPicture = m_nightPicture = m_map = QImage();
 }
 
@@ -239,7 +224,7 @@ MapRenderer::MarkerSet MapScreen::markers()
 {
     MapRenderer::MarkerSet set {{}, m_smallFont, 1};
     const std::uint32_t count = m_cities.Count();
-    for (const std::uint32_t position : MapCities::markedPositions(m_settings, true)) {
+    for (const std::uint32_t position : MapCities::markedPositions(settings(), true)) {
         if (position >= count)
             continue;
         const CityRecord city = m_cities.Record(position);
@@ -319,8 +304,8 @@ void MapScreen::paintCity(QPainter& painter) const
 
     painter.setFont(m_smallFont);
     painter.drawText(m_layout.coordinates, Qt::AlignLeft | Qt::AlignVCenter,
-        Painting::loadString(LongLatString) + QStringLiteral(": ") + ToQString(m_city.coordinate1) + QLatin1Char('/')
-            + ToQString(m_city.coordinate2));
+        Painting::loadString(StringIds::LongLat) + QStringLiteral(": ") + ToQString(m_city.coordinate1)
+            + QLatin1Char('/') + ToQString(m_city.coordinate2));
 
     const QRect& sun = m_layout.sun;
     painter.setFont(m_sunFont);

@@ -2,11 +2,10 @@
 #pragma once
 
 #include "astro/CitySunTimes.h"
+#include "screens/city/CityScreen.h"
 #include "screens/map/MapLayout.h"
 #include "screens/map/MapRenderer.h"
-#include "settings/RegistrySettings.h"
 #include "time/ClockOffsets.h"
-#include "ui/Screen.h"
 
 #include <QFont>
 
@@ -17,9 +16,8 @@ class WeatherFavourites;
 // World Map: the world picture with the night side darkened, the device's time, and one selected
 // city with its time, coordinates, sunrise and sunset. Left/right step through the catalogue (wrapping
 // at both ends); the menu shows or hides the World Clocks cities and changes the city.
-class WeatherOpener;
 
-class MapScreen final : public Screen
+class MapScreen final : public CityScreen
 {
     Q_OBJECT
 
@@ -31,8 +29,6 @@ public:
         ScreenEnvironment& environment, DeviceWindow& window, CityCatalogue& cities, WeatherFavourites& favourites);
 
     std::int32_t selectedCity() const { return m_selected; }
-    // What "Weather Forecast" opens the World Weather screen with.
-    void setWeatherOpener(WeatherOpener* opener) { m_weatherOpener = opener; }
     bool showCities() const { return m_showCities; }
     const MapLayout& mapLayout() const { return m_layout; }
     // The texts as drawn: the device time (twelve-hour form applied), the city's time, name and sun.
@@ -53,26 +49,23 @@ protected:
     void paint(QPainter& painter) override;
     void timerTick(int id) override;
     void destroyWork() override;
-    void command(int id) override;
-    void spinnerDelta(Spinner& spinner, int delta) override;
 
 private:
     void loadPictures();
     void computeDeviceOffset();
     void computeCity();
     void formatTimes();
+    // Left/Right: the next or previous city of the catalogue, wrapping at both ends.
+    void stepCity(int delta);
     void selectCity(std::int32_t city);
     void toggleMarkers();
     void changeCity();
+    void showWeather();
     void drawMap();
     MapRenderer::MarkerSet markers();
     void paintClock(QPainter& painter) const;
     void paintCity(QPainter& painter) const;
 
-    CityCatalogue& m_cities;
-    WeatherOpener* m_weatherOpener = nullptr;
-    WeatherFavourites& m_favourites;
-    RegistrySettings m_settings;
     Spinner* m_spinner;
     std::int32_t m_selected = 0;
     bool m_showCities = true;

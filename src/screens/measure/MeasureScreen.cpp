@@ -4,11 +4,13 @@
 #include "settings/SettingsTable.h"
 #include "ui/BusyCursor.h"
 #include "ui/Commands.h"
+#include "ui/ConverterLayout.h"
 #include "ui/MessageBox.h"
 #include "ui/NumericEdit.h"
 #include "ui/Painting.h"
 #include "ui/SoftKeyBar.h"
 #include "ui/Spinner.h"
+#include "ui/StringIds.h"
 #include "ui/TitleBand.h"
 #include "ui/WideString.h"
 #include "units/UnitConversion.h"
@@ -16,21 +18,14 @@
 #include <QPainter>
 #include <QSignalBlocker>
 
-namespace {
+#include <functional>
 
-constexpr int ScreenTitle = 40044; // "Measurements"
-constexpr int ConvertLabel = 40054;
-constexpr int FromLabel = 40052;
-constexpr int ToLabel = 40053;
-constexpr int BelowAbsoluteZero = 40055;
+namespace {
 
 // Layout, b being the title band's height and W the work area's width: the category list at (6, b+26),
 // W-17 wide; the from list, the amount field, the to list and the result field below it. Lists are 24
 // high and end 11 pixels from the right edge, the fields 25 high and 10 from it.
 constexpr int Band = TitleBand::Height;
-constexpr int ListLeft = 6;
-constexpr int ListHeight = 24;
-constexpr int ListRightMargin = 11;
 constexpr int FieldLeft = 5;
 constexpr int FieldHeight = 25;
 constexpr int FieldRightMargin = 10;
@@ -40,7 +35,6 @@ constexpr int AmountTop = Band + 115;
 constexpr int ToTop = Band + 176;
 constexpr int ResultTop = Band + 205;
 // The labels: "Convert:" under the band, "From:" and "To:" above their lists.
-constexpr int LabelLeft = 5;
 constexpr int ConvertLabelTop = 28;
 constexpr int FromLabelTop = Band + 60;
 constexpr int ToLabelTop = Band + 150;
@@ -68,19 +62,15 @@ int placed(int top, int height)
 
 MeasureScreen::MeasureScreen(ScreenEnvironment& environment, DeviceWindow& window)
     : Screen(environment, window, MenuBarId::Converter, QStringLiteral("measure"))
-    , m_title(Painting::ConverterBand, ScreenTitle)
-    , m_settings(environment.settings)
+    , m_title(Painting::ConverterBand, StringIds::Measurements)
     , m_catalogue(environment.objects)
-    , m_categorySpinner(new Spinner(this))
-    , m_fromSpinner(new Spinner(this))
-    , m_toSpinner(new Spinner(this))
+    , m_categorySpinner(addSpinner(QStringLiteral("categorySpinner")))
+    , m_fromSpinner(addSpinner(QStringLiteral("fromSpinner")))
+    , m_toSpinner(addSpinner(QStringLiteral("toSpinner")))
     , m_amountEdit(new NumericEdit(this))
     , m_resultEdit(new NumericEdit(this))
 {
     setBackgroundPicture(L"bconv.jpg");
-    m_categorySpinner->setObjectName(QStringLiteral("categorySpinner"));
-    m_fromSpinner->setObjectName(QStringLiteral("fromSpinner"));
-    m_toSpinner->setObjectName(QStringLiteral("toSpinner"));
     m_amountEdit->setObjectName(QStringLiteral("amountLineEdit"));
     m_resultEdit->setObjectName(QStringLiteral("resultLineEdit"));
     m_resultEdit->setReadOnly(true); // looks like the amount field; the program alone writes it
@@ -92,9 +82,13 @@ MeasureScreen::MeasureScreen(ScreenEnvironment& environment, DeviceWindow& windo
     connect(m_fromSpinner, &Spinner::currentChanged, this, &MeasureScreen::convert);
     connect(m_toSpinner, &Spinner::currentChanged, this, &MeasureScreen::convert);
     connect(m_amountEdit, &QLineEdit::textChanged, this, &MeasureScreen::convert);
+    keepSetting(Settings::MeasureType, *m_categorySpinner);
+    keepSetting(Settings::MeasureUnit1, *m_fromSpinner);
+    keepSetting(Settings::MeasureUnit2, *m_toSpinner);
+    keepSetting(Settings::MeasureValue, [this] { return UnitConversion::AmountText(ToWide(m_amountEdit->text())); });
+    onCommand({Commands::Clear}, std::bind_front(&MeasureScreen::clear, this));
+    onCommand({Commands::Undo}, std::bind_front(&MeasureScreen::undo, this));
 }
-
-MeasureScreen::~MeasureScreen() = default;
 
 void MeasureScreen::initialise()
 {
@@ -111,16 +105,16 @@ void MeasureScreen::initialise()
     for (const UnitCategory& category : UnitTables::Categories())
         titles << Painting::loadString(category.titleId);
     m_categorySpinner->setItems(titles);
-    m_categorySpinner->setCurrentIndex(static_cast<int>(ReadSetting(m_settings, Settings::MeasureType)));
+    m_categorySpinner->setCurrentIndex(static_cast<int>(ReadSetting(settings(), Settings::MeasureType)));
     fillUnitLists();
-    m_fromSpinner->setCurrentIndex(static_cast<int>(ReadSetting(m_settings, Settings::MeasureUnit1)));
-    m_toSpinner->setCurrentIndex(static_cast<int>(ReadSetting(m_settings, Settings::MeasureUnit2)));
+    m_fromSpinner->setCurrentIndex(static_cast<int>(ReadSetting(settings(), Settings::MeasureUnit1)));
+    m_toSpinner->setCurrentIndex(static_cast<int>(ReadSetting(settings(), Settings::MeasureUnit2)));
 
     for (Spinner* list : {m_categorySpinner, m_fromSpinner, m_toSpinner})
         list->setFont(m_listFont);
     m_resultEdit->setText(QStringLiteral("0"));
     setAmount(QStringLiteral("0"));
-    setAmount(ToQString(ReadSetting(m_settings, Settings::MeasureValue)));
+    setAmount(ToQString(ReadSetting(settings(), Settings::MeasureValue)));
     // The conversions made while opening leave "Undo" grey.
     setUndoEnabled(false);
     m_categorySpinner->setFocus();
@@ -156,7 +150,7 @@ void MeasureScreen::convert()
     const auto result = UnitConversion::Convert(m_units, m_categorySpinner->currentIndex(),
         m_fromSpinner->currentIndex(), m_toSpinner->currentIndex(), ToWide(m_amountEdit->text()));
     if (result.belowAbsoluteZero)
-        environment().boxes.show(this, Painting::loadString(BelowAbsoluteZero), QString());
+        environment().boxes.show(this, Painting::loadString(StringIds::BelowAbsoluteZero), QString());
     m_resultEdit->setText(ToQString(result.text));
     setUndoEnabled(true);
 }
@@ -189,25 +183,14 @@ void MeasureScreen::setUndoEnabled(bool enabled)
         keys->setItemEnabled(Commands::Undo, enabled);
 }
 
-void MeasureScreen::command(int id)
-{
-    if (id == Commands::Clear)
-        clear();
-    else if (id == Commands::Undo)
-        undo();
-    else
-        Screen::command(id);
-}
-
 void MeasureScreen::layout(int width, int height)
 {
     m_title.layout(width);
-    const int listWidth = width - ListRightMargin - ListLeft;
     const int fieldWidth = width - FieldRightMargin - FieldLeft;
-    m_categorySpinner->setGeometry(ListLeft, placed(CategoryTop, height), listWidth, ListHeight);
-    m_fromSpinner->setGeometry(ListLeft, placed(FromTop, height), listWidth, ListHeight);
+    m_categorySpinner->setGeometry(ConverterLayout::listBox(placed(CategoryTop, height), width));
+    m_fromSpinner->setGeometry(ConverterLayout::listBox(placed(FromTop, height), width));
     m_amountEdit->setGeometry(FieldLeft, placed(AmountTop, height), fieldWidth, FieldHeight);
-    m_toSpinner->setGeometry(ListLeft, placed(ToTop, height), listWidth, ListHeight);
+    m_toSpinner->setGeometry(ConverterLayout::listBox(placed(ToTop, height), width));
     m_resultEdit->setGeometry(FieldLeft, placed(ResultTop, height), fieldWidth, FieldHeight);
 }
 
@@ -216,21 +199,10 @@ void MeasureScreen::paint(QPainter& painter)
     m_title.paint(painter);
     painter.setPen(Painting::White);
     const int height = workHeight();
-    Painting::drawTextAt(painter, m_labelFont, LabelLeft, placed(ConvertLabelTop, height), Painting::loadString(ConvertLabel));
-    Painting::drawTextAt(painter, m_labelFont, LabelLeft, placed(FromLabelTop, height), Painting::loadString(FromLabel));
-    Painting::drawTextAt(painter, m_labelFont, LabelLeft, placed(ToLabelTop, height), Painting::loadString(ToLabel));
-}
-
-void MeasureScreen::destroyWork()
-{
-    const std::pair<const DwordSetting&, Spinner*> lists[] = {
-        {Settings::MeasureType, m_categorySpinner},
-        {Settings::MeasureUnit1, m_fromSpinner},
-        {Settings::MeasureUnit2, m_toSpinner},
-    };
-    for (const auto& [setting, list] : lists) {
-        if (list->currentIndex() >= 0)
-            WriteSetting(m_settings, setting, static_cast<std::uint32_t>(list->currentIndex()));
-    }
-    WriteSetting(m_settings, Settings::MeasureValue, UnitConversion::AmountText(ToWide(m_amountEdit->text())));
+    Painting::drawTextAt(painter, m_labelFont, ConverterLayout::TextLeft, placed(ConvertLabelTop, height),
+        Painting::loadString(StringIds::Convert));
+    Painting::drawTextAt(painter, m_labelFont, ConverterLayout::TextLeft, placed(FromLabelTop, height),
+        Painting::loadString(StringIds::From));
+    Painting::drawTextAt(painter, m_labelFont, ConverterLayout::TextLeft, placed(ToLabelTop, height),
+        Painting::loadString(StringIds::To));
 }

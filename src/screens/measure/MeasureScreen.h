@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "settings/RegistrySettings.h"
 #include "ui/Screen.h"
 #include "ui/TitleBand.h"
 #include "units/UnitCatalogue.h"
@@ -19,14 +18,11 @@ class MeasureScreen final : public Screen
 
 public:
     MeasureScreen(ScreenEnvironment& environment, DeviceWindow& window);
-    ~MeasureScreen() override;
 
 protected:
     void initialise() override;
     void layout(int width, int height) override;
     void paint(QPainter& painter) override;
-    void destroyWork() override;
-    void command(int id) override;
 
 private:
     void readUnits();
@@ -41,7 +37,6 @@ private:
     void setUndoEnabled(bool enabled);
 
     TitleBand m_title;
-    RegistrySettings m_settings;
     UnitCatalogue m_catalogue;
     UnitLists m_units;
     Spinner* m_categorySpinner;

@@ -7,6 +7,7 @@
 #include "time/CityInformation.h"
 #include "ui/Painting.h"
 #include "ui/Spinner.h"
+#include "ui/StringIds.h"
 #include "ui/WideString.h"
 
 #include <QPainter>
@@ -30,7 +31,6 @@ SelectDialog::SelectDialog(ScreenEnvironment& environment, DeviceWindow& window)
     : Screen(environment, window, MenuBarId::Select, QStringLiteral("select"))
     , m_cities(environment.objects, environment.paths, environment.messages)
     , m_currencies(environment.objects)
-    , m_settings(environment.settings)
     , m_list(new Spinner(this, Spinner::Orientation::Vertical))
 {
     m_list->setObjectName(QStringLiteral("choiceSpinner"));
@@ -95,7 +95,7 @@ void SelectDialog::computePanel()
     if (m_mode != Mode::City || index < 0)
         return;
     const DeviceClock& clock = environment().clock;
-    const DeviceOffset device = HomeCity::deviceOffset(m_cities, HomeCity::position(m_settings), clock);
+    const DeviceOffset device = HomeCity::deviceOffset(m_cities, HomeCity::position(settings()), clock);
     const CityRecord city = m_cities.Record(static_cast<std::uint32_t>(index));
     for (const std::wstring& line : CityInformationLines(city, device, clock.localTime()))
         m_panelLines << ToQString(line);
@@ -116,11 +116,12 @@ void SelectDialog::layout(int width, int)
 void SelectDialog::paint(QPainter& painter)
 {
     const bool city = m_mode == Mode::City;
-    Painting::drawBand(
-        painter, m_titleBand, Painting::ShellBand, Painting::loadString(city ? 40020 : 40037), m_titleFont);
+    Painting::drawBand(painter, m_titleBand, Painting::ShellBand,
+        Painting::loadString(city ? StringIds::SelectCity : StringIds::SelectCurrency), m_titleFont);
     if (!city)
         return;
-    Painting::drawBand(painter, m_infoBand, Painting::ShellBand, Painting::loadString(40021), m_titleFont);
+    Painting::drawBand(
+        painter, m_infoBand, Painting::ShellBand, Painting::loadString(StringIds::CityInformations), m_titleFont);
     painter.setPen(Qt::black);
     const QStringList& lines = m_panelLines;
     const int width = workWidth() - 10;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "settings/RegistrySettings.h"
 #include "store/CityCatalogue.h"
 #include "store/CurrencyStore.h"
 #include "ui/Screen.h"
@@ -44,7 +43,6 @@ private:
     int m_selection = 0;
     CityCatalogue m_cities;
     CurrencyStore m_currencies;
-    RegistrySettings m_settings;
     Spinner* m_list;
     QStringList m_panelLines;
     QFont m_titleFont;

@@ -7,18 +7,18 @@
 #include "ui/Painting.h"
 #include "ui/SoftKeyBar.h"
 #include "ui/Spinner.h"
+#include "ui/StringIds.h"
 #include "ui/WideString.h"
 #include "weather/WeatherCountries.h"
 
 #include <QPainter>
 #include <QPushButton>
 
+#include <functional>
 #include <utility>
 
 namespace {
 
-constexpr int FavoritesListTitle = 40040; // "Favorites List"
-constexpr int InformationTitle = 40021; // "City Informations"
 constexpr int BandHeight = 24;
 constexpr int RowHeight = 26;
 constexpr int Gap = 5;
@@ -38,19 +38,18 @@ FavouritesDialog::FavouritesDialog(
     ScreenEnvironment& environment, DeviceWindow& window, WeatherFavourites& favourites, QString name)
     : Screen(environment, window, MenuBarId::Favourites, std::move(name))
     , m_favourites(favourites)
-    , m_favouriteList(new Spinner(this))
+    , m_favouriteList(addSpinner(QStringLiteral("favouriteSpinner")))
     , m_removeButton(makeButton(QStringLiteral("Remove"), "removePushButton", this))
-    , m_countryList(new Spinner(this))
-    , m_cityList(new Spinner(this))
+    , m_countryList(addSpinner(QStringLiteral("countrySpinner")))
+    , m_cityList(addSpinner(QStringLiteral("citySpinner")))
     , m_addButton(makeButton(QStringLiteral("ADD"), "addPushButton", this))
 {
-    m_favouriteList->setObjectName(QStringLiteral("favouriteSpinner"));
-    m_countryList->setObjectName(QStringLiteral("countrySpinner"));
-    m_cityList->setObjectName(QStringLiteral("citySpinner"));
     connect(m_favouriteList, &Spinner::currentChanged, this, &FavouritesDialog::favouriteChanged);
     connect(m_countryList, &Spinner::currentChanged, this, [this] { readCountryFile(); });
     connect(m_addButton, &QPushButton::clicked, this, &FavouritesDialog::addSelectedCity);
     connect(m_removeButton, &QPushButton::clicked, this, &FavouritesDialog::removeSelectedFavourite);
+    onCommand({Commands::Add}, std::bind_front(&FavouritesDialog::showAddView, this));
+    onCommand({Commands::Ok}, std::bind_front(&FavouritesDialog::pressFocusedButton, this));
 }
 
 void FavouritesDialog::initialise()
@@ -102,16 +101,10 @@ void FavouritesDialog::reloadCountry()
     m_currentCountry = m_favourites.getCountryFile(static_cast<std::uint32_t>(m_currentFavourite));
 }
 
-void FavouritesDialog::command(int id)
+void FavouritesDialog::pressFocusedButton()
 {
-    // The action key presses the focused button, as in a dialog.
-    auto* focused = qobject_cast<QPushButton*>(focusWidget());
-    if (id == Commands::Add)
-        showAddView();
-    else if (id == Commands::Ok && focused)
+    if (auto* focused = qobject_cast<QPushButton*>(focusWidget()))
         focused->click();
-    else
-        Screen::command(id);
 }
 
 void FavouritesDialog::showAddView()
@@ -213,9 +206,10 @@ void FavouritesDialog::layout(int width, int height)
 
 void FavouritesDialog::paint(QPainter& painter)
 {
-    Painting::drawBand(painter, m_listBand, Painting::ShellBand, Painting::loadString(FavoritesListTitle), m_bandFont);
     Painting::drawBand(
-        painter, m_informationBand, Painting::ShellBand, Painting::loadString(InformationTitle), m_bandFont);
+        painter, m_listBand, Painting::ShellBand, Painting::loadString(StringIds::FavoritesList), m_bandFont);
+    Painting::drawBand(
+        painter, m_informationBand, Painting::ShellBand, Painting::loadString(StringIds::CityInformations), m_bandFont);
     painter.setPen(Qt::black);
     painter.setFont(m_textFont);
     const QFontMetrics metrics(m_textFont);

@@ -35,7 +35,6 @@ protected:
     void initialise() override;
     void layout(int width, int height) override;
     void paint(QPainter& painter) override;
-    void command(int id) override;
 
 private:
     // The country spinner, the city spinner and "ADD": hidden until the Add view is shown.
@@ -44,6 +43,8 @@ private:
     void favouriteChanged(int index);
     void reloadCountry();
     void showAddView();
+    // The action key presses the focused button, as in a dialog.
+    void pressFocusedButton();
     void readCountryFile();
     void addSelectedCity();
     void removeSelectedFavourite();

@@ -17,6 +17,7 @@
 #include "ui/Painting.h"
 #include "ui/SoftKeyBar.h"
 #include "ui/Spinner.h"
+#include "ui/StringIds.h"
 #include "ui/WideString.h"
 #include "weather/OpenMeteoForecast.h"
 #include "weather/WeatherTexts.h"
@@ -24,11 +25,10 @@
 #include <QFile>
 #include <QPainter>
 
+#include <functional>
+
 namespace {
 
-constexpr int ScreenTitle = 40009; // "World Weather"
-constexpr int NotAvailable = 40039;
-constexpr int RealFeel = 40038;
 constexpr int IconSize = 48;
 constexpr int RowHeight = 20;
 constexpr int Margin = 6;
@@ -70,13 +70,10 @@ WeatherScreen::WeatherScreen(ScreenEnvironment& environment, DeviceWindow& windo
     : Screen(environment, window, MenuBarId::Weather, QStringLiteral("weather"))
     , m_favourites(favourites)
     , m_cities(environment.objects, environment.paths, environment.messages)
-    , m_settings(environment.settings)
-    , m_days(new Spinner(this))
-    , m_title(Painting::ShellBand, ScreenTitle)
+    , m_days(addSpinner(QStringLiteral("daySpinner"), std::bind_front(&WeatherScreen::stepDay, this)))
+    , m_title(Painting::ShellBand, StringIds::WorldWeather)
 {
-    m_days->setObjectName(QStringLiteral("daySpinner"));
     m_days->setWrapping(true);
-    watchSpinner(*m_days);
 }
 
 void WeatherScreen::setEntryCity(const std::wstring& cityName)
@@ -88,18 +85,18 @@ void WeatherScreen::setEntryCity(const std::wstring& cityName)
 void WeatherScreen::initialise()
 {
     readHomeCity();
-    m_mapping = ReadMappingText(m_settings, environment().paths);
+    m_mapping = ReadMappingText(settings(), environment().paths);
     m_favourites.loadFavouritesOnce();
     if (m_entryMode) {
         softKeys()->setItemEnabled(Commands::ChangeCity, false);
         softKeys()->setKeyEnabled(Commands::Services, false);
     } else {
-        m_favouritePosition = static_cast<std::int32_t>(ReadSetting(m_settings, Settings::WeatherPosition));
+        m_favouritePosition = static_cast<std::int32_t>(ReadSetting(settings(), Settings::WeatherPosition));
         m_favouriteName = m_favourites.getName(static_cast<std::uint32_t>(m_favouritePosition));
     }
     for (int day = 0; day < 7; ++day)
         m_weekdays[static_cast<std::size_t>(day)] = ToQString(WeekdayLabel(day));
-    m_iconFolder = ReadSetting(m_settings, Settings::IconFolder);
+    m_iconFolder = ReadSetting(settings(), Settings::IconFolder);
     m_today = environment().clock.localTime();
     m_titleFont = Painting::makeFont(23, Painting::Bold);
     m_labelFont = Painting::makeFont(18, Painting::Normal);
@@ -107,7 +104,7 @@ void WeatherScreen::initialise()
     m_conditionFont = Painting::makeFont(18, Painting::Bold);
     m_cityFont = Painting::makeFont(20, Painting::Bold);
     m_temperatureFont = Painting::makeFont(35, Painting::Bold);
-    m_title = TitleBand(Painting::ShellBand, ScreenTitle, m_titleFont);
+    m_title = TitleBand(Painting::ShellBand, StringIds::WorldWeather, m_titleFont);
     m_days->setItems(
         {QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3"), QStringLiteral("4"), QStringLiteral("5")});
     m_days->setFont(m_valueFont);
@@ -122,7 +119,7 @@ void WeatherScreen::initialise()
 void WeatherScreen::readHomeCity()
 {
     m_cities.Load();
-    const std::uint32_t home = HomeCity::position(m_settings);
+    const std::uint32_t home = HomeCity::position(settings());
     m_homeCityName = ToQString(m_cities.CityName(home));
     m_deviceOffset = HomeCity::deviceOffset(m_cities, home, environment().clock);
 }
@@ -144,8 +141,8 @@ bool WeatherScreen::computeForecast()
     const ForecastSources sources {m_mapping, m_iconFolder, DevicePaths::ProgramPath, m_temperatureUnit};
     m_display = ForecastDisplay::ofFavourite(m_favourites, m_favouriteName, m_today, sources);
     if (!m_display) {
-        environment().boxes.show(this, Painting::loadString(NotAvailable), QStringLiteral("Wanderkit"), QMessageBox::Ok,
-            QMessageBox::Information);
+        environment().boxes.show(this, Painting::loadString(StringIds::ForecastNotAvailable),
+            QStringLiteral("Wanderkit"), QMessageBox::Ok, QMessageBox::Information);
         endScreen();
         return false;
     }
@@ -162,7 +159,7 @@ void WeatherScreen::showDay(int day)
     update();
 }
 
-void WeatherScreen::spinnerDelta(Spinner&, int delta)
+void WeatherScreen::stepDay(int delta)
 {
     showDay(SteppedDay(m_currentDay, delta));
 }
@@ -187,7 +184,7 @@ void WeatherScreen::changeFavourite()
         return;
     m_favouritePosition = dialog.currentFavourite();
     m_favouriteName = m_favourites.getName(static_cast<std::uint32_t>(m_favouritePosition));
-    WriteSetting(m_settings, Settings::WeatherPosition, static_cast<std::uint32_t>(m_favouritePosition));
+    WriteSetting(settings(), Settings::WeatherPosition, static_cast<std::uint32_t>(m_favouritePosition));
     if (!computeForecast())
         return;
     m_days->setCurrentIndex(0);
@@ -228,7 +225,7 @@ void WeatherScreen::layout(int width, int height)
                                 : QRect(Margin, m_cityBand.bottom() + 4, spinnerLeft - 4 - Margin, 26);
     m_days->setGeometry(spinnerLeft, m_weekdayInCard ? lineTop : m_dayBand.top(), DaySpinnerWidth, 26);
     m_details = QRect(Margin, m_card.bottom() + 5, inner, std::max(0, height - m_card.bottom() - 5));
-    m_labelWidth = QFontMetrics(m_labelFont).horizontalAdvance(Painting::loadString(RealFeel)) + 10;
+    m_labelWidth = QFontMetrics(m_labelFont).horizontalAdvance(Painting::loadString(StringIds::RealFeel)) + 10;
 }
 
 void WeatherScreen::paint(QPainter& painter)
@@ -297,7 +294,7 @@ void WeatherScreen::paintDetails(QPainter& painter) const
         ? QString()
         : ToQString(m_shown.sunrise) + QStringLiteral(" - ") + ToQString(m_shown.sunset);
     const std::array<std::pair<QString, QString>, 4> rows {{
-        {Painting::loadString(RealFeel), ToQString(m_shown.realFeel)},
+        {Painting::loadString(StringIds::RealFeel), ToQString(m_shown.realFeel)},
         {QStringLiteral("Wind"), ToQString(m_shown.wind)},
         {QStringLiteral("Rain"), ToQString(m_shown.precipitation)},
         {QStringLiteral("Sun"), sun},
@@ -329,7 +326,7 @@ void WeatherScreen::tourPrepare()
     const auto sample
         = file.open(QIODevice::ReadOnly) ? OpenMeteoForecast::read(file.readAll().toStdString(), error) : std::nullopt;
     m_favourites.loadFavouritesOnce();
-    const auto position = ReadSetting(m_settings, Settings::WeatherPosition);
+    const auto position = ReadSetting(settings(), Settings::WeatherPosition);
     const std::wstring name = m_favourites.getName(position);
     if (!sample || name.empty() || !m_favourites.getForecastText(position).empty())
         return;

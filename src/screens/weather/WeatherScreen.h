@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "settings/RegistrySettings.h"
 #include "store/CityCatalogue.h"
 #include "time/ZoneOffset.h"
 #include "ui/Screen.h"
@@ -53,7 +52,6 @@ protected:
     void layout(int width, int height) override;
     void paint(QPainter& painter) override;
     void command(int id) override;
-    void spinnerDelta(Spinner& spinner, int delta) override;
 
 private:
     void readHomeCity();
@@ -62,6 +60,8 @@ private:
     void changeFavourite();
     // False when the favourite is not in the store: the screen has told the user and closed.
     bool computeForecast();
+    // Left/Right: the next or previous day of the five, wrapping.
+    void stepDay(int delta);
     void showDay(int day);
     void paintDay(QPainter& painter) const;
     void paintWeekday(QPainter& painter) const;
@@ -70,7 +70,6 @@ private:
 
     WeatherFavourites& m_favourites;
     CityCatalogue m_cities;
-    RegistrySettings m_settings;
     bool m_entryMode = false;
     std::int32_t m_favouritePosition = 0;
     std::wstring m_favouriteName;

@@ -3,7 +3,6 @@
 
 #include "device/DeviceClock.h"
 #include "screens/select/SelectDialog.h"
-#include "screens/weather/WeatherOpener.h"
 #include "settings/SettingsTable.h"
 #include "store/CityCatalogue.h"
 #include "store/CountryCityList.h"
@@ -17,9 +16,12 @@
 #include "ui/Painting.h"
 #include "ui/SoftKeyBar.h"
 #include "ui/Spinner.h"
+#include "ui/StringIds.h"
 #include "ui/WideString.h"
 
 #include <QPainter>
+
+#include <functional>
 
 namespace {
 
@@ -48,17 +50,16 @@ SystemTime handTime(const std::wstring& text, const SystemTime& now)
 
 WorldClockScreen::WorldClockScreen(
     ScreenEnvironment& environment, DeviceWindow& window, CityCatalogue& cities, WeatherFavourites& favourites)
-    : Screen(environment, window, MenuBarId::WorldClocks, QStringLiteral("worldclock"))
-    , m_cities(cities)
-    , m_favourites(favourites)
-    , m_settings(environment.settings)
-    , m_focusList(new Spinner(this))
-    , m_title(Painting::ConverterBand, 40008, Painting::makeFont(23, Painting::Bold)) // "World Clocks"
+    : CityScreen(environment, window, MenuBarId::WorldClocks, QStringLiteral("worldclock"), cities, favourites)
+    , m_focusList(addSpinner(QStringLiteral("focusSpinner"), std::bind_front(&WorldClockScreen::showFocusStep, this)))
+    , m_title(Painting::ConverterBand, StringIds::WorldClocks, Painting::makeFont(23, Painting::Bold))
 {
-    m_focusList->setObjectName(QStringLiteral("focusSpinner"));
     m_focusList->setWrapping(true);
-    watchSpinner(*m_focusList);
     setBackgroundPicture(L"back.jpg");
+    for (std::size_t i = 0; i < SlotCount; ++i)
+        keepSetting(*SlotSettings[i], [this, i] { return m_cityOf[i]; });
+    onCommand({Commands::TwelveHourClocks}, std::bind_front(&WorldClockScreen::toggleTwelveHour, this));
+    onCommand({Commands::Ok}, std::bind_front(&WorldClockScreen::openFocusedEntry, this));
 }
 
 void WorldClockScreen::initialise()
@@ -82,11 +83,11 @@ void WorldClockScreen::initialise()
 void WorldClockScreen::readSettings()
 {
     // "syncltz" is created when missing, but the clocks always run with synchronisation off.
-    ReadSetting(m_settings, Settings::SyncLocalZone);
+    ReadSetting(settings(), Settings::SyncLocalZone);
     m_syncLocalZone = false;
-    m_twelveHour = ReadSetting(m_settings, Settings::TwelveHour) == 1;
+    m_twelveHour = ReadSetting(settings(), Settings::TwelveHour) == 1;
     for (int i = 0; i < SlotCount; ++i)
-        m_cityOf[static_cast<std::size_t>(i)] = ReadSetting(m_settings, *SlotSettings[static_cast<std::size_t>(i)]);
+        m_cityOf[static_cast<std::size_t>(i)] = ReadSetting(settings(), *SlotSettings[static_cast<std::size_t>(i)]);
 }
 
 void WorldClockScreen::computeOffsets()
@@ -121,9 +122,9 @@ void WorldClockScreen::makeHomeFavourite()
     if (m_favourite[0])
         return;
     addFavourite(m_cityOf[0]);
-    m_settings.GetDWORD(Settings::WeatherPosition.subkey, Settings::WeatherPosition.name);
-    if (m_settings.Status() != RegistrySettings::Read)
-        WriteSetting(m_settings, Settings::WeatherPosition, m_cityOf[0]);
+    settings().GetDWORD(Settings::WeatherPosition.subkey, Settings::WeatherPosition.name);
+    if (settings().Status() != RegistrySettings::Read)
+        WriteSetting(settings(), Settings::WeatherPosition, m_cityOf[0]);
 }
 
 bool WorldClockScreen::addFavourite(std::uint32_t cityIndex)
@@ -250,7 +251,7 @@ void WorldClockScreen::refresh()
     }
 }
 
-void WorldClockScreen::spinnerDelta(Spinner&, int delta)
+void WorldClockScreen::showFocusStep(int delta)
 {
     m_movedLeft = delta < 0;
     m_movedRight = delta > 0;
@@ -290,16 +291,8 @@ void WorldClockScreen::tap(QPoint at)
     command(Commands::Ok);
 }
 
-void WorldClockScreen::command(int id)
+void WorldClockScreen::openFocusedEntry()
 {
-    if (id == Commands::TwelveHourClocks) {
-        toggleTwelveHour();
-        return;
-    }
-    if (id != Commands::Ok) {
-        Screen::command(id);
-        return;
-    }
     const int entry = m_focusList->currentIndex();
     if (entry < 0)
         return;
@@ -311,11 +304,11 @@ void WorldClockScreen::command(int id)
 
 void WorldClockScreen::toggleTwelveHour()
 {
-    const bool wasTwelveHour = ReadSetting(m_settings, Settings::TwelveHour) == 1;
+    const bool wasTwelveHour = ReadSetting(settings(), Settings::TwelveHour) == 1;
     m_twelveHour = !wasTwelveHour;
     update();
     softKeys()->setItemChecked(Commands::TwelveHourClocks, m_twelveHour);
-    WriteSetting(m_settings, Settings::TwelveHour, m_twelveHour ? 1 : 0);
+    WriteSetting(settings(), Settings::TwelveHour, m_twelveHour ? 1 : 0);
 }
 
 void WorldClockScreen::changeCity(int slot)
@@ -328,7 +321,7 @@ void WorldClockScreen::changeCity(int slot)
     if (window().isExiting())
         return;
     m_cityOf[index] = static_cast<std::uint32_t>(dialog.selection());
-    WriteSetting(m_settings, *SlotSettings[index], m_cityOf[index]);
+    WriteSetting(settings(), *SlotSettings[index], m_cityOf[index]);
     m_focusList->setFocus();
     computeOffsets();
     formatTexts();
@@ -341,20 +334,14 @@ void WorldClockScreen::showWeather(int slot)
     const auto index = static_cast<std::size_t>(slot);
     if (!m_favourite[index]) {
         const bool added = addFavourite(m_cityOf[index]);
-        environment().boxes.show(this, Painting::loadString(added ? 40041 : 40039), QStringLiteral("Wanderkit"),
-            QMessageBox::Ok, QMessageBox::Information);
+        environment().boxes.show(this,
+            Painting::loadString(added ? StringIds::AddedToFavorites : StringIds::ForecastNotAvailable),
+            QStringLiteral("Wanderkit"), QMessageBox::Ok, QMessageBox::Information);
         update();
         if (!added)
             return;
     }
-    if (m_weatherOpener)
-        m_weatherOpener->openWeather(*this, m_cities.CityName(m_cityOf[index]));
-}
-
-void WorldClockScreen::destroyWork()
-{
-    for (std::size_t i = 0; i < SlotCount; ++i)
-        WriteSetting(m_settings, *SlotSettings[i], m_cityOf[i]);
+    openWeatherFor(m_cityOf[index]);
 }
 
 void WorldClockScreen::tourVisit()

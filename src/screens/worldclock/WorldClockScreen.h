@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "screens/city/CityScreen.h"
 #include "screens/worldclock/ClockCell.h"
-#include "settings/RegistrySettings.h"
 #include "time/ClockOffsets.h"
 #include "time/ClockSlotText.h"
-#include "ui/Screen.h"
 #include "ui/TitleBand.h"
 
 #include <array>
@@ -14,13 +13,12 @@
 class CityCatalogue;
 class Spinner;
 class WeatherFavourites;
-class WeatherOpener;
 
 // World Clocks: the home clock (the device's own time) and four cities, each with an analog dial, its
 // time and date, a daylight-saving mark and a weather icon. Left/right move the focus over the ten
 // entries (clock faces and weather icons); the action key changes a clock's city or adds the city to
 // the weather favourites.
-class WorldClockScreen final : public Screen
+class WorldClockScreen final : public CityScreen
 {
     Q_OBJECT
 
@@ -43,17 +41,12 @@ public:
     // One tick of the clock: new texts from the device clock, and a repaint of what changed.
     void refresh();
     void tourVisit() override;
-    // Who opens the weather screen for a weather icon's city; without one the icon only adds the favourite.
-    void setWeatherOpener(WeatherOpener* opener) { m_weatherOpener = opener; }
 
 protected:
     void initialise() override;
     void layout(int width, int height) override;
     void paint(QPainter& painter) override;
     void timerTick(int id) override;
-    void destroyWork() override;
-    void command(int id) override;
-    void spinnerDelta(Spinner& spinner, int delta) override;
     void tap(QPoint at) override;
 
 private:
@@ -62,19 +55,19 @@ private:
     void formatTexts();
     void makeHomeFavourite();
     bool addFavourite(std::uint32_t city);
+    // The action key on the focused entry: a clock face changes its city, a weather icon shows its weather.
+    void openFocusedEntry();
     void changeCity(int slot);
     void showWeather(int slot);
     void toggleTwelveHour();
+    // A step of the focus: the title arrow on its side lights up.
+    void showFocusStep(int delta);
     ClockView view(int slot) const;
     void paintTitle(QPainter& painter) const;
     void paintFocus(QPainter& painter) const;
     // The focus entry (0 home dial, 1 home weather, 2 first city's dial, ...) under `at`, or -1.
     int entryAt(QPoint at) const;
 
-    CityCatalogue& m_cities;
-    WeatherFavourites& m_favourites;
-    WeatherOpener* m_weatherOpener = nullptr;
-    RegistrySettings m_settings;
     std::array<std::uint32_t, SlotCount> m_cityOf {};
     std::array<QString, SlotCount> m_names;
     std::array<ZoneOffset, SlotCount> m_standardOffsets {};

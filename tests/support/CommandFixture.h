@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "CommandResult.h"
+#include "TempDir.h"
+
+#include <gtest/gtest.h>
+
+// Commands run on a device root and a state folder in fresh temporary folders, at the local time `now`
+// ("YYYY-MM-DD HH:MM:SS"; the system's time when null) unless a run gives its own.
+class CommandFixture : public ::testing::Test
+{
+protected:
+    DeviceOptions options(const char* at = nullptr) const;
+    CommandResult run(const std::string& command, const std::vector<std::string>& args, const char* at = nullptr) const
+    {
+        return CommandResult::of(command, args, options(at));
+    }
+
+    TempDir device;
+    TempDir state;
+    const char* now = nullptr;
+};
