@@ -2,7 +2,6 @@
 #include "ScreenTestBench.h"
 #include "screens/map/MapScreen.h"
 #include "screens/worldclock/WorldClockScreen.h"
-#include "settings/RegistrySettings.h"
 #include "settings/SettingsTable.h"
 #include "store/CityCatalogue.h"
 #include "store/WeatherFavourites.h"
@@ -124,7 +123,7 @@ struct Rig
         cities.Load();
         favourites.loadFavouritesOnce();
         for (int slot = Home; slot < SlotCount; ++slot)
-            WriteSetting(registry, *ClockSettings[slot], position(ClockCities[slot]));
+            bench.store(*ClockSettings[slot], position(ClockCities[slot]));
     }
 
     std::uint32_t position(std::wstring_view name)
@@ -138,7 +137,6 @@ struct Rig
     ScreenTestBench bench;
     CityCatalogue cities {bench.objects, bench.paths, bench.messages};
     WeatherFavourites favourites {bench.objects, bench.paths, bench.messages};
-    RegistrySettings registry {bench.settings};
 };
 
 // World Clocks and the map, each in its own window on its own bench, run through the starts one after another.
@@ -155,7 +153,7 @@ public:
         m_mapRig.bench.clock.set(start.from);
         m_mapShows = start.mapShows;
         m_mapSight = nullptr;
-        WriteSetting(m_mapRig.registry, Settings::MapClock, m_mapRig.position(ClockCities[start.mapShows]));
+        m_mapRig.bench.store(Settings::MapClock, m_mapRig.position(ClockCities[start.mapShows]));
         m_clockRig.bench.visit(m_clocks, [&] { m_mapRig.bench.visit(m_map, [&] { soak(start); }); });
     }
 
