@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Timings of the stores on generated data of the shipped sizes: 1,100 cities, 189 currencies and
 // 20 weather favourites. State files live in a temporary folder on the same disk as /tmp.
+#include "SilentSink.h"
+#include "TempDir.h"
 #include "settings/RegistrySettings.h"
 #include "settings/SettingsHive.h"
 #include "store/CityCatalogue.h"
@@ -9,10 +11,7 @@
 
 #include <benchmark/benchmark.h>
 
-#include <fstream>
 #include <sstream>
-#include <stdexcept>
-#include <stdlib.h>
 
 namespace {
 
@@ -20,38 +19,21 @@ constexpr int Cities = 1100;
 constexpr int Currencies = 189;
 constexpr int Favourites = 20;
 
-class SilentSink final : public MessageSink
-{
-public:
-    void showMessage(std::wstring_view, std::wstring_view) override { }
-};
-
 // A temporary folder holding a device root with the three data files, removed at the end.
 class Workspace
 {
 public:
     Workspace()
     {
-        std::string pattern = (std::filesystem::temp_directory_path() / "wanderkit-bench-XXXXXX").string();
-        if (!mkdtemp(pattern.data()))
-            throw std::runtime_error("cannot create a temporary folder");
-        m_root = pattern;
-        std::filesystem::create_directories(m_root / "device");
-        write("cities.lst", citiesFile());
-        write("currs.lst", currenciesFile());
-        write("cities.wet", favouritesFile());
+        m_folder.write("device/cities.lst", citiesFile());
+        m_folder.write("device/currs.lst", currenciesFile());
+        m_folder.write("device/cities.wet", favouritesFile());
     }
-    ~Workspace() { std::filesystem::remove_all(m_root); }
 
-    DevicePaths device() const { return DevicePaths(m_root / "device"); }
-    std::filesystem::path stateFile(const std::string& name) const { return m_root / name; }
+    DevicePaths device() const { return DevicePaths(m_folder.path() / "device"); }
+    std::filesystem::path stateFile(const std::string& name) const { return m_folder.path() / name; }
 
 private:
-    void write(const char* name, const std::string& bytes)
-    {
-        std::ofstream(m_root / "device" / name, std::ios::binary) << bytes;
-    }
-
     static std::string citiesFile()
     {
         std::ostringstream file;
@@ -82,7 +64,7 @@ private:
         return file.str();
     }
 
-    std::filesystem::path m_root;
+    TempDir m_folder;
 };
 
 // The launcher's loads on a fresh objectstore.db: cities, weather favourites, currency file and store.

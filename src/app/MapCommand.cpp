@@ -4,7 +4,7 @@
 #include "app/PngFile.h"
 #include "astro/MapCities.h"
 #include "astro/TerminatorColumns.h"
-#include "cli/CommandSession.h"
+#include "cli/RunOnDevice.h"
 #include "device/DeviceClock.h"
 #include "screens/map/MapRenderer.h"
 #include "session/HomeCity.h"
@@ -22,7 +22,6 @@
 
 namespace {
 
-constexpr int UsageError = 2;
 constexpr int MaxSide = 16384;
 constexpr const char* Usage = "Usage: wanderkit map FILE.png [--size WxH] [--markers]\n";
 // The handheld's day picture is 480 x 240; anything larger is drawn from the 2048 x 1024 one.
@@ -134,45 +133,41 @@ MapRenderer::MarkerSet markerSet(CommandSession& session, QSize size)
 
 int RunMapCommand(const CommandRequest& command, std::ostream& out, std::ostream& err)
 {
-    const auto request = parseMapRequest(command.args, err);
-    if (!request)
-        return UsageError;
-    auto session = CommandSession::open(command, err);
-    if (!session)
-        return 1;
-    const QImage day = dayPicture(session->paths(), *request);
-    if (day.isNull()) {
-        err << "wanderkit: map: no readable day picture (day.jpg) in " << session->paths().root().string() << '\n';
-        return 1;
-    }
-    const SystemTime now = session->clock().localTime();
-    const DeviceOffset device
-        = HomeCity::deviceOffset(session->cities(), HomeCity::position(session->settings()), session->clock());
-    const QSize size(request->width, request->height);
-    const TerminatorColumns night
-        = ComputeTerminatorColumns(computeSunForTerminator(now, device), size.width(), size.height(), now.month);
-    // Labels need fonts, and fonts a GUI application: one without a display, made only for --markers.
-    std::optional<QGuiApplication> application;
-    std::optional<MapRenderer::MarkerSet> markers;
-    if (request->markers) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-        static int argc = 1;
-        static char name[] = "wanderkit";
-        static char* argv[] = {name, nullptr};
-        application.emplace(argc, argv);
-        markers = markerSet(*session, size);
-    }
-    const QImage map
-        = MapRenderer::render(day, size, MapRenderer::Stretch::Smooth, night, markers ? &*markers : nullptr);
-    if (map.isNull()) {
-        err << "wanderkit: map: not enough memory for a " << size.width() << 'x' << size.height() << " map\n";
-        return 1;
-    }
-    QString error;
-    if (!PngFile::write(map, QString::fromStdString(request->file), error)) {
-        err << "wanderkit: map: cannot write " << request->file << ": " << error.toStdString() << '\n';
-        return 1;
-    }
-    out << request->file << '\t' << size.width() << 'x' << size.height() << '\n';
-    return 0;
+    return RunOnDevice(command, err, parseMapRequest, [&](const MapRequest& request, CommandSession& session) {
+        const QImage day = dayPicture(session.paths(), request);
+        if (day.isNull()) {
+            err << "wanderkit: map: no readable day picture (day.jpg) in " << session.paths().root().string() << '\n';
+            return CommandExit::Unusable;
+        }
+        const SystemTime now = session.clock().localTime();
+        const DeviceOffset device
+            = HomeCity::deviceOffset(session.cities(), HomeCity::position(session.settings()), session.clock());
+        const QSize size(request.width, request.height);
+        const TerminatorColumns night
+            = ComputeTerminatorColumns(computeSunForTerminator(now, device), size.width(), size.height(), now.month);
+        // Labels need fonts, and fonts a GUI application: one without a display, made only for --markers.
+        std::optional<QGuiApplication> application;
+        std::optional<MapRenderer::MarkerSet> markers;
+        if (request.markers) {
+            qputenv("QT_QPA_PLATFORM", "offscreen");
+            static int argc = 1;
+            static char name[] = "wanderkit";
+            static char* argv[] = {name, nullptr};
+            application.emplace(argc, argv);
+            markers = markerSet(session, size);
+        }
+        const QImage map
+            = MapRenderer::render(day, size, MapRenderer::Stretch::Smooth, night, markers ? &*markers : nullptr);
+        if (map.isNull()) {
+            err << "wanderkit: map: not enough memory for a " << size.width() << 'x' << size.height() << " map\n";
+            return CommandExit::Unusable;
+        }
+        QString error;
+        if (!PngFile::write(map, QString::fromStdString(request.file), error)) {
+            err << "wanderkit: map: cannot write " << request.file << ": " << error.toStdString() << '\n';
+            return CommandExit::Unusable;
+        }
+        out << request.file << '\t' << size.width() << 'x' << size.height() << '\n';
+        return 0;
+    });
 }

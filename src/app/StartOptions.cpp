@@ -151,6 +151,10 @@ Commands (print to standard output, no window):
                           the five days of a favourite's forecast (or day N)
   favourites              the weather favourites: name, location code, last
                           update, country file
+  favourites add CITY     add a city of the weather country lists ("Lyon" or
+                          "Paris:France") as the favourites dialog does
+  favourites remove FAVOURITE
+                          remove a favourite (exit 1 when there is none)
   forecast import FILE [--favourite NAME]
                           store an Open-Meteo daily forecast (FILE - is standard
                           input) for the favourite at its place, or for NAME

@@ -1,24 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "astro/HorizonArc.h"
 
+#include "astro/TerminatorAngles.h"
+
 #include <cmath>
 
 namespace {
 
-constexpr double DegToRad = 0.017444444444444446; // 3.14 / 180
-constexpr double RadToDeg = 57.324840764331206; // 180 / 3.14
+using TerminatorAngles::DegToRad;
+using TerminatorAngles::RadToDeg;
+using TerminatorAngles::wrap;
+
 constexpr double PerTurn = 0.002777777777777778; // 1 / 360
 constexpr double HorizonAltitude = -0.8333333333333334; // degrees: refraction and the Sun's radius
-
-// Into [0, 1], both ends included.
-double wrap(double fraction)
-{
-    while (fraction > 1)
-        fraction -= 1;
-    while (fraction < 0)
-        fraction += 1;
-    return fraction;
-}
 
 } // namespace
 
@@ -38,15 +32,15 @@ HorizonArc RowHorizonArc(const TerminatorSun& sun, int row, int mapHeight)
 
 double TransitFraction(const TerminatorSun& sun, double lonW)
 {
-    return wrap((lonW + sun.rightAscension - sun.siderealAngle) * PerTurn);
+    return wrap((lonW + sun.rightAscension - sun.siderealAngle) * PerTurn, 1);
 }
 
 bool IsNightAt(double transit, const HorizonArc& arc, double dayFraction)
 {
     if (arc.kind != HorizonArc::Kind::Crossing)
         return arc.kind == HorizonArc::Kind::AlwaysNight;
-    const double rise = wrap(transit - arc.halfDay);
-    const double set = wrap(transit + arc.halfDay);
+    const double rise = wrap(transit - arc.halfDay, 1);
+    const double set = wrap(transit + arc.halfDay, 1);
     if (rise < set)
         return dayFraction < rise || dayFraction > set;
     if (rise > set)

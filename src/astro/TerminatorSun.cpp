@@ -1,25 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "astro/TerminatorSun.h"
 
+#include "astro/TerminatorAngles.h"
 #include "time/CalendarDays.h"
 
 #include <cmath>
 
 namespace {
 
-// pi taken as 3.14: 3.14 / 180 and 180 / 3.14.
-constexpr double DegToRad = 0.017444444444444446;
-constexpr double RadToDeg = 57.324840764331206;
-constexpr double CenturiesPerDay = 2.7378507871321012e-5; // 1 / 36525
+using TerminatorAngles::DegToRad;
+using TerminatorAngles::RadToDeg;
+using TerminatorAngles::wrap;
 
-double normalise(double degrees)
-{
-    while (degrees > 360)
-        degrees -= 360;
-    while (degrees < 0)
-        degrees += 360;
-    return degrees;
-}
+constexpr double CenturiesPerDay = 2.7378507871321012e-5; // 1 / 36525
 
 bool isGregorian(double day, int month, int year)
 {
@@ -79,8 +72,8 @@ TerminatorSun computeSunForTerminator(const SystemTime& localTime, DeviceOffset 
     const double t = JulianCenturies(JulianDay(utc.day + sun.dayFraction, utc.month, utc.year));
 
     // Mean longitude and anomaly: the square covers coefficient and T together.
-    const double l0 = normalise(280.46646 + 36000.76983 * t + (0.0003032 * t) * (0.0003032 * t));
-    const double m = normalise(357.52911 + 35999.05029 * t - (0.0001537 * t) * (0.0001537 * t));
+    const double l0 = wrap(280.46646 + 36000.76983 * t + (0.0003032 * t) * (0.0003032 * t), 360);
+    const double m = wrap(357.52911 + 35999.05029 * t - (0.0001537 * t) * (0.0001537 * t), 360);
     const double mr = m * DegToRad;
     const double centre = std::sin(mr) * (1.914602 - 0.004817 * t - 1.4e-5 * t * t)
         + std::sin(2 * mr) * (0.019993 - 0.000101 * t) + std::sin(3 * mr) * 0.000289;
@@ -91,9 +84,9 @@ TerminatorSun computeSunForTerminator(const SystemTime& localTime, DeviceOffset 
 
     const double lambdaR = lambda * DegToRad;
     const double obliquity = eps0 * DegToRad + (0.00256 * DegToRad) * std::cos(omega * DegToRad); // radians
-    sun.rightAscension = normalise(std::atan2(std::cos(obliquity) * std::sin(lambdaR), std::cos(lambdaR)) * RadToDeg);
+    sun.rightAscension = wrap(std::atan2(std::cos(obliquity) * std::sin(lambdaR), std::cos(lambdaR)) * RadToDeg, 360);
     sun.declination = std::asin(std::sin(obliquity) * std::sin(lambdaR));
     sun.siderealAngle
-        = normalise(100.46061837 + 36000.770053608 * t + 0.000387933 * t * t - 2.5833118057349522e-8 * t * t * t);
+        = wrap(100.46061837 + 36000.770053608 * t + 0.000387933 * t * t - 2.5833118057349522e-8 * t * t * t, 360);
     return sun;
 }

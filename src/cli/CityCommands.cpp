@@ -2,7 +2,7 @@
 #include "cli/CityCommands.h"
 
 #include "cli/CityLookup.h"
-#include "cli/CommandSession.h"
+#include "cli/RunOnDevice.h"
 #include "device/DeviceClock.h"
 #include "session/HomeCity.h"
 #include "text/WideText.h"
@@ -16,7 +16,7 @@
 
 namespace {
 
-constexpr int UsageError = 2;
+using CommandExit::UsageError;
 
 std::string joined(const std::vector<std::string>& words)
 {
@@ -79,7 +79,7 @@ int RunCitiesCommand(const CommandRequest& request, std::ostream& out, std::ostr
 {
     auto session = CommandSession::open(request, err);
     if (!session)
-        return 1;
+        return CommandExit::Unusable;
     const std::wstring text = FoldLatin1(Utf8ToWide(joined(request.args)));
     CityCatalogue& cities = session->cities();
     const std::uint32_t count = cities.Count();
@@ -96,39 +96,35 @@ int RunCitiesCommand(const CommandRequest& request, std::ostream& out, std::ostr
 
 int RunTimeCommand(const CommandRequest& request, std::ostream& out, std::ostream& err)
 {
-    const auto wanted = parseTimeRequest(request.args, err);
-    if (!wanted)
-        return UsageError;
-    auto session = CommandSession::open(request, err);
-    if (!session)
-        return 1;
-    std::uint32_t home = HomeCity::position(session->settings());
-    if (wanted->home) {
-        const auto found = findCity(*session, *wanted->home, err);
-        if (!found)
-            return UsageError;
-        home = *found;
-    }
-    std::vector<std::uint32_t> positions;
-    for (const std::string& word : wanted->cities) {
-        const auto found = findCity(*session, word, err);
-        if (!found)
-            return UsageError;
-        positions.push_back(*found);
-    }
-    CityCatalogue& cities = session->cities();
-    const SystemTime now = session->clock().localTime();
-    const DeviceOffset device = HomeCity::deviceOffset(cities, home, session->clock());
-    for (const std::uint32_t position : positions) {
-        const CityRecord city = cities.Record(position);
-        const ClockSlot slot = ComputeCitySlot({city.timeZone, city.daylightRule}, device, now);
-        const ClockSlotText text = FormatCitySlot(slot, device, now);
-        const std::wstring time = wanted->twelveHour ? ToTwelveHour(text.time).withSuffix() : text.time;
-        out << position << '\t' << WideToUtf8(city.name) << '\t' << WideToUtf8(time) << '\t' << WideToUtf8(text.date)
-            << '\t' << slot.offset << '\t' << slot.observes << '\t' << dayMonthYear(slot, slot.start) << '\t'
-            << dayMonthYear(slot, slot.end) << '\n';
-    }
-    return 0;
+    return RunOnDevice(request, err, parseTimeRequest, [&](const TimeRequest& wanted, CommandSession& session) {
+        std::uint32_t home = HomeCity::position(session.settings());
+        if (wanted.home) {
+            const auto found = findCity(session, *wanted.home, err);
+            if (!found)
+                return UsageError;
+            home = *found;
+        }
+        std::vector<std::uint32_t> positions;
+        for (const std::string& word : wanted.cities) {
+            const auto found = findCity(session, word, err);
+            if (!found)
+                return UsageError;
+            positions.push_back(*found);
+        }
+        CityCatalogue& cities = session.cities();
+        const SystemTime now = session.clock().localTime();
+        const DeviceOffset device = HomeCity::deviceOffset(cities, home, session.clock());
+        for (const std::uint32_t position : positions) {
+            const CityRecord city = cities.Record(position);
+            const ClockSlot slot = ComputeCitySlot({city.timeZone, city.daylightRule}, device, now);
+            const ClockSlotText text = FormatCitySlot(slot, device, now);
+            const std::wstring time = wanted.twelveHour ? ToTwelveHour(text.time).withSuffix() : text.time;
+            out << position << '\t' << WideToUtf8(city.name) << '\t' << WideToUtf8(time) << '\t'
+                << WideToUtf8(text.date) << '\t' << slot.offset << '\t' << slot.observes << '\t'
+                << dayMonthYear(slot, slot.start) << '\t' << dayMonthYear(slot, slot.end) << '\n';
+        }
+        return 0;
+    });
 }
 
 int RunCityCommand(const CommandRequest& request, std::ostream& out, std::ostream& err)
@@ -139,7 +135,7 @@ int RunCityCommand(const CommandRequest& request, std::ostream& out, std::ostrea
     }
     auto session = CommandSession::open(request, err);
     if (!session)
-        return 1;
+        return CommandExit::Unusable;
     const auto position = findCity(*session, request.args[0], err);
     if (!position)
         return UsageError;

@@ -4,6 +4,7 @@
 #include "cli/CityCommands.h"
 #include "cli/CurrencyCommands.h"
 #include "cli/DialCommand.h"
+#include "cli/FavouritesCommand.h"
 #include "cli/ForecastCommand.h"
 #include "cli/SettingsCommand.h"
 #include "cli/SizesCommand.h"

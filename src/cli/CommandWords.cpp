@@ -2,6 +2,7 @@
 #include "cli/CommandWords.h"
 
 #include <cctype>
+#include <ostream>
 
 namespace {
 
@@ -22,6 +23,13 @@ CommandWords CommandWords::split(const std::vector<std::string>& args)
     for (const std::string& arg : args)
         (isOption(arg) ? split.options : split.words).push_back(arg);
     return split;
+}
+
+int CommandWords::refuseOption(
+    const std::string& option, std::string_view command, std::string_view usage, std::ostream& err)
+{
+    err << "wanderkit " << command << ": unknown option " << option << '\n' << usage;
+    return 2;
 }
 
 std::string CommandWords::joined(std::size_t first) const

@@ -2,8 +2,10 @@
 #include "cli/FavouriteLookup.h"
 
 #include "store/CityCatalogue.h"
+#include "store/CountryCityList.h"
 #include "store/WeatherFavourites.h"
 #include "text/WideText.h"
+#include "weather/WeatherCountries.h"
 
 #include <algorithm>
 #include <charconv>
@@ -32,6 +34,17 @@ std::multimap<std::wstring, Place> cataloguePlaces(CityCatalogue& cities)
         places.emplace(city.name, Place {Wcstod(city.coordinate2), Wcstod(city.coordinate1)});
     }
     return places;
+}
+
+// Calls `visit(country, list, city)` for every city of every weather country list, in country and file order.
+template<typename Visit>
+void forEachWeatherCity(const DevicePaths& paths, Visit visit)
+{
+    for (const std::wstring& country : ListWeatherCountries(paths)) {
+        const CountryCityList list = CountryCityList::read(paths, country);
+        for (const std::wstring& city : list.cities())
+            visit(country, list, city);
+    }
 }
 
 } // namespace
@@ -69,4 +82,32 @@ std::optional<std::uint32_t> FavouriteNear(
         }
     }
     return nearest;
+}
+
+std::vector<WeatherCity> FindWeatherCities(const DevicePaths& paths, const std::string& word)
+{
+    const std::wstring wanted = FoldLatin1(Utf8ToWide(word));
+    const bool withCountry = wanted.find(L':') != std::wstring::npos;
+    std::vector<WeatherCity> found;
+    forEachWeatherCity(paths, [&](const std::wstring& country, const CountryCityList& list, const std::wstring& city) {
+        if (FoldLatin1(withCountry ? city + L":" + country : city) != wanted)
+            return;
+        const bool seen = std::any_of(found.begin(), found.end(),
+            [&](const WeatherCity& other) { return other.name == city && other.country == country; });
+        const auto code = list.codeOf(city);
+        if (!seen && code)
+            found.push_back({city, country, *code});
+    });
+    return found;
+}
+
+std::vector<std::string> WeatherCitiesContaining(const DevicePaths& paths, const std::string& word, std::size_t limit)
+{
+    const std::wstring part = FoldLatin1(BeforeFirst(Utf8ToWide(word), L':'));
+    std::vector<std::string> names;
+    forEachWeatherCity(paths, [&](const std::wstring& country, const CountryCityList&, const std::wstring& city) {
+        if (names.size() < limit && !part.empty() && FoldLatin1(city).find(part) != std::wstring::npos)
+            names.push_back(WideToUtf8(city + L":" + country));
+    });
+    return names;
 }

@@ -64,29 +64,26 @@ void PrintWearer(std::ostream& out, int wearer, std::optional<int> garment, bool
 
 int RunSizesCommand(const CommandRequest& request, std::ostream& out, std::ostream& err)
 {
-    const CommandWords args = CommandWords::split(request.args);
-    if (!args.options.empty()) {
-        err << "wanderkit sizes: unknown option " << args.options.front() << '\n' << Usage;
-        return 2;
-    }
-    std::optional<int> wearer;
-    std::optional<int> garment;
-    if (!args.words.empty()) {
-        wearer = FindByName(ClothingSizes::Wearers(), args.words.front());
-        if (!wearer)
-            return UnknownName(err, "wearer", args.words.front(), ClothingSizes::Wearers());
-    }
-    if (args.words.size() > 1) {
-        const std::string name = args.joined(1);
-        garment = FindByName(ClothingSizes::Garments(*wearer), name);
-        if (!garment)
-            return UnknownName(err, "garment", name, ClothingSizes::Garments(*wearer));
-    }
-    bool first = true;
-    const int wearers = static_cast<int>(ClothingSizes::Wearers().size());
-    for (int w = 0; w < wearers; ++w) {
-        if (!wearer || *wearer == w)
-            PrintWearer(out, w, garment, first);
-    }
-    return 0;
+    return CommandWords::withoutOptions(request.args, "sizes", Usage, err, [&](const CommandWords& args) {
+        std::optional<int> wearer;
+        std::optional<int> garment;
+        if (!args.words.empty()) {
+            wearer = FindByName(ClothingSizes::Wearers(), args.words.front());
+            if (!wearer)
+                return UnknownName(err, "wearer", args.words.front(), ClothingSizes::Wearers());
+        }
+        if (args.words.size() > 1) {
+            const std::string name = args.joined(1);
+            garment = FindByName(ClothingSizes::Garments(*wearer), name);
+            if (!garment)
+                return UnknownName(err, "garment", name, ClothingSizes::Garments(*wearer));
+        }
+        bool first = true;
+        const int wearers = static_cast<int>(ClothingSizes::Wearers().size());
+        for (int w = 0; w < wearers; ++w) {
+            if (!wearer || *wearer == w)
+                PrintWearer(out, w, garment, first);
+        }
+        return 0;
+    });
 }

@@ -3,7 +3,7 @@
 
 #include "astro/CitySunTimes.h"
 #include "cli/CityLookup.h"
-#include "cli/CommandSession.h"
+#include "cli/RunOnDevice.h"
 #include "device/SystemDeviceClock.h"
 #include "session/HomeCity.h"
 #include "text/WideText.h"
@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr int UsageError = 2;
+using CommandExit::UsageError;
 constexpr const char* Usage = "Usage: wanderkit sun CITY [--date YYYY-MM-DD]\n";
 
 struct SunRequest
@@ -70,24 +70,20 @@ SystemTime onDate(SystemTime now, const std::optional<SystemTime>& date)
 
 int RunSunCommand(const CommandRequest& command, std::ostream& out, std::ostream& err)
 {
-    const auto request = parseSunRequest(command.args, err);
-    if (!request)
-        return UsageError;
-    auto session = CommandSession::open(command, err);
-    if (!session)
-        return 1;
-    std::string error;
-    const auto position = CityLookup(session->cities()).find(request->city, error);
-    if (!position) {
-        err << "wanderkit: " << error << '\n';
-        return UsageError;
-    }
-    CityCatalogue& cities = session->cities();
-    const DeviceOffset device
-        = HomeCity::deviceOffset(cities, HomeCity::position(session->settings()), session->clock());
-    const CitySunTimes sun
-        = ComputeCitySunTimes(cities.Record(*position), device, onDate(session->clock().localTime(), request->date));
-    out << WideToUtf8(sun.times.sunriseText) << '\t' << WideToUtf8(sun.times.sunsetText) << '\t'
-        << WideToUtf8(sun.times.dayLengthText) << '\t' << sun.utcHours << '\n';
-    return 0;
+    return RunOnDevice(command, err, parseSunRequest, [&](const SunRequest& request, CommandSession& session) {
+        std::string error;
+        const auto position = CityLookup(session.cities()).find(request.city, error);
+        if (!position) {
+            err << "wanderkit: " << error << '\n';
+            return UsageError;
+        }
+        CityCatalogue& cities = session.cities();
+        const DeviceOffset device
+            = HomeCity::deviceOffset(cities, HomeCity::position(session.settings()), session.clock());
+        const CitySunTimes sun
+            = ComputeCitySunTimes(cities.Record(*position), device, onDate(session.clock().localTime(), request.date));
+        out << WideToUtf8(sun.times.sunriseText) << '\t' << WideToUtf8(sun.times.sunsetText) << '\t'
+            << WideToUtf8(sun.times.dayLengthText) << '\t' << sun.utcHours << '\n';
+        return 0;
+    });
 }

@@ -125,58 +125,53 @@ void printCategory(std::ostream& out, const UnitLists& lists, int category)
 
 int RunConvertCommand(const CommandRequest& request, std::ostream& out, std::ostream& err)
 {
-    const CommandWords args = CommandWords::split(request.args);
-    if (!args.options.empty()) {
-        err << "wanderkit convert: unknown option " << args.options.front() << '\n' << ConvertUsage;
-        return 2;
-    }
-    if (args.words.size() != 3) {
-        err << ConvertUsage;
-        return 2;
-    }
-    const auto lists = readLists(request, err);
-    if (!lists)
-        return 1;
-    const UnitLookup lookup(*lists);
-    const auto pair = resolve(err, lookup, args.words[1], args.words[2]);
-    if (!pair)
-        return 2;
-    const auto [from, to] = *pair;
-    const auto result = UnitConversion::Convert(*lists, from.category, from.index, to.index, Utf8ToWide(args.words[0]));
-    out << WideToUtf8(result.text) << '\n';
-    if (result.belowAbsoluteZero) {
-        err << WideToUtf8(StringTable::Load(BelowAbsoluteZero)) << '\n';
-        return 1;
-    }
-    return 0;
+    return CommandWords::withoutOptions(request.args, "convert", ConvertUsage, err, [&](const CommandWords& args) {
+        if (args.words.size() != 3) {
+            err << ConvertUsage;
+            return 2;
+        }
+        const auto lists = readLists(request, err);
+        if (!lists)
+            return 1;
+        const UnitLookup lookup(*lists);
+        const auto pair = resolve(err, lookup, args.words[1], args.words[2]);
+        if (!pair)
+            return 2;
+        const auto [from, to] = *pair;
+        const auto result
+            = UnitConversion::Convert(*lists, from.category, from.index, to.index, Utf8ToWide(args.words[0]));
+        out << WideToUtf8(result.text) << '\n';
+        if (result.belowAbsoluteZero) {
+            err << WideToUtf8(StringTable::Load(BelowAbsoluteZero)) << '\n';
+            return 1;
+        }
+        return 0;
+    });
 }
 
 int RunUnitsCommand(const CommandRequest& request, std::ostream& out, std::ostream& err)
 {
-    const CommandWords args = CommandWords::split(request.args);
-    if (!args.options.empty()) {
-        err << "wanderkit units: unknown option " << args.options.front() << '\n' << UnitsUsage;
-        return 2;
-    }
-    std::optional<int> only;
-    if (!args.words.empty()) {
-        only = findCategory(args.joined());
-        if (!only) {
-            err << "wanderkit units: no category \"" << args.joined() << "\"; choose 0 to 6 or one of:";
-            for (int category = 0; category < UnitTables::CategoryCount; ++category)
-                err << (category ? ", " : " ") << title(category);
-            err << '\n';
-            return 2;
+    return CommandWords::withoutOptions(request.args, "units", UnitsUsage, err, [&](const CommandWords& args) {
+        std::optional<int> only;
+        if (!args.words.empty()) {
+            only = findCategory(args.joined());
+            if (!only) {
+                err << "wanderkit units: no category \"" << args.joined() << "\"; choose 0 to 6 or one of:";
+                for (int category = 0; category < UnitTables::CategoryCount; ++category)
+                    err << (category ? ", " : " ") << title(category);
+                err << '\n';
+                return 2;
+            }
         }
-    }
-    const auto lists = readLists(request, err);
-    if (!lists)
-        return 1;
-    for (int category = 0; category < UnitTables::CategoryCount; ++category) {
-        if (only && *only != category)
-            continue;
-        out << (only || category == 0 ? "" : "\n");
-        printCategory(out, *lists, category);
-    }
-    return 0;
+        const auto lists = readLists(request, err);
+        if (!lists)
+            return 1;
+        for (int category = 0; category < UnitTables::CategoryCount; ++category) {
+            if (only && *only != category)
+                continue;
+            out << (only || category == 0 ? "" : "\n");
+            printCategory(out, *lists, category);
+        }
+        return 0;
+    });
 }

@@ -100,20 +100,3 @@ int RunWeatherCommand(const CommandRequest& request, std::ostream& out, std::ost
             printDay(out, k, ForecastWeekday(today, k), display->day(k));
     return 0;
 }
-
-int RunFavouritesCommand(const CommandRequest& request, std::ostream& out, std::ostream& err)
-{
-    if (!request.args.empty()) {
-        err << "wanderkit favourites: takes no arguments\nUsage: wanderkit favourites\n";
-        return UsageError;
-    }
-    const auto session = CommandSession::open(request, err);
-    if (!session)
-        return Unusable;
-    WeatherFavourites& favourites = session->favourites();
-    const std::uint16_t count = favourites.count();
-    for (std::uint32_t i = 0; i < count; ++i)
-        out << WideToUtf8(favourites.getName(i)) << '\t' << WideToUtf8(favourites.getLocationCode(i)) << '\t'
-            << WideToUtf8(favourites.getLastUpdate(i)) << '\t' << WideToUtf8(favourites.getCountryFile(i)) << '\n';
-    return 0;
-}

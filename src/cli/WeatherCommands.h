@@ -11,7 +11,3 @@
 // (these two only when the forecast does not start today). FAVOURITE is a name
 // (any case) or a position; without it, the favourite the screen shows ("wetp").
 int RunWeatherCommand(const CommandRequest& request, std::ostream& out, std::ostream& err);
-
-// `wanderkit favourites`: one line per favourite in store order: name, location code, last update and
-// country file, tab-separated.
-int RunFavouritesCommand(const CommandRequest& request, std::ostream& out, std::ostream& err);

@@ -38,14 +38,12 @@ bool SettingsHive::prepare(SqliteConnection& connection)
 
 std::unique_ptr<SettingsHive> SettingsHive::open(const std::filesystem::path& file, MessageSink& messages)
 {
-    auto connection = StateFile::open(file, messages, &SettingsHive::prepare);
-    return connection ? std::unique_ptr<SettingsHive>(new SettingsHive(std::move(connection))) : nullptr;
+    return StateFile::openAs<SettingsHive>(file, messages);
 }
 
 std::unique_ptr<SettingsHive> SettingsHive::openInMemory()
 {
-    auto connection = StateFile::openInMemory(&SettingsHive::prepare);
-    return connection ? std::unique_ptr<SettingsHive>(new SettingsHive(std::move(connection))) : nullptr;
+    return StateFile::openInMemoryAs<SettingsHive>();
 }
 
 bool SettingsHive::keyExists(std::wstring_view path)

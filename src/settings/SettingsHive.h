@@ -54,6 +54,8 @@ public:
     bool clear();
 
 private:
+    friend class StateFile;
+
     explicit SettingsHive(std::unique_ptr<SqliteConnection> connection);
     static bool prepare(SqliteConnection& connection);
     bool createKey(const std::string& foldedPath);

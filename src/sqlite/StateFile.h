@@ -25,6 +25,26 @@ public:
     // An in-memory database with the same tables.
     [[nodiscard]] static std::unique_ptr<SqliteConnection> openInMemory(const Prepare& prepare);
 
+    // A `Database` built on the connection `open` or `openInMemory` gives, prepared by `Database::prepare`;
+    // nothing when that gives none. The database class makes StateFile a friend for its constructor.
+    template<typename Database>
+    [[nodiscard]] static std::unique_ptr<Database> openAs(const std::filesystem::path& file, MessageSink& messages)
+    {
+        return wrap<Database>(open(file, messages, &Database::prepare));
+    }
+    template<typename Database>
+    [[nodiscard]] static std::unique_ptr<Database> openInMemoryAs()
+    {
+        return wrap<Database>(openInMemory(&Database::prepare));
+    }
+
     // Where a broken `file` goes: "<name>.broken-YYYYMMDD-HHMMSS" beside it, numbered when that exists.
     static std::filesystem::path setAsideName(const std::filesystem::path& file, const std::tm& localTime);
+
+private:
+    template<typename Database>
+    static std::unique_ptr<Database> wrap(std::unique_ptr<SqliteConnection> connection)
+    {
+        return connection ? std::unique_ptr<Database>(new Database(std::move(connection))) : nullptr;
+    }
 };

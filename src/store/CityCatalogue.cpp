@@ -88,36 +88,6 @@ void CityCatalogue::fill(DelimitedFieldReader& reader)
     }
 }
 
-std::wstring CityCatalogue::CityName(std::uint32_t position)
-{
-    return std::wstring(BeforeFirst(m_database.ReadAt(position, NameId), L':'));
-}
-
-std::wstring CityCatalogue::Country(std::uint32_t position)
-{
-    return std::wstring(AfterFirst(m_database.ReadAt(position, NameId), L':'));
-}
-
-std::wstring CityCatalogue::Coordinate1(std::uint32_t position)
-{
-    return std::wstring(BeforeFirst(m_database.ReadAt(position, CoordinatesId), L':'));
-}
-
-std::wstring CityCatalogue::Coordinate2(std::uint32_t position)
-{
-    return std::wstring(AfterFirst(m_database.ReadAt(position, CoordinatesId), L':'));
-}
-
-std::wstring CityCatalogue::TimeZoneText(std::uint32_t position)
-{
-    return m_database.ReadAt(position, TimeZoneId);
-}
-
-std::wstring CityCatalogue::DaylightRuleText(std::uint32_t position)
-{
-    return m_database.ReadAt(position, DaylightRuleId);
-}
-
 CityRecord CityCatalogue::Record(std::uint32_t position)
 {
     std::wstring name, coordinates;

@@ -31,12 +31,12 @@ public:
     // The same, filling it from the bytes `source` gives.
     void Load(const DeviceFileSource& source);
 
-    std::wstring CityName(std::uint32_t position);
-    std::wstring Country(std::uint32_t position);
-    std::wstring Coordinate1(std::uint32_t position);
-    std::wstring Coordinate2(std::uint32_t position);
-    std::wstring TimeZoneText(std::uint32_t position);
-    std::wstring DaylightRuleText(std::uint32_t position);
+    std::wstring CityName(std::uint32_t position) { return m_database.ReadBeforeColonAt(position, NameId); }
+    std::wstring Country(std::uint32_t position) { return m_database.ReadAfterColonAt(position, NameId); }
+    std::wstring Coordinate1(std::uint32_t position) { return m_database.ReadBeforeColonAt(position, CoordinatesId); }
+    std::wstring Coordinate2(std::uint32_t position) { return m_database.ReadAfterColonAt(position, CoordinatesId); }
+    std::wstring TimeZoneText(std::uint32_t position) { return m_database.ReadAt(position, TimeZoneId); }
+    std::wstring DaylightRuleText(std::uint32_t position) { return m_database.ReadAt(position, DaylightRuleId); }
     CityRecord Record(std::uint32_t position);
     std::uint16_t Count();
 

@@ -10,11 +10,12 @@ namespace {
 
 constexpr std::array<PropertyId, 3> SortIds = {CurrencyStore::NameId, CurrencyStore::CodeId, CurrencyStore::RateId};
 constexpr int NameCaseInsensitive = 2; // sort mode: the first order, on the name, ignores case
+constexpr DatabaseShape Shape {L"wdkCurrencies", 98765, SortIds, NameCaseInsensitive};
 
-std::array<Property, 3> currencyProperties(std::wstring_view code, std::wstring_view name, std::wstring_view rate)
+// A currency's record, its properties written in the order name, code, rate.
+std::vector<Property> currencyRecord(std::wstring_view code, std::wstring_view name, std::wstring_view rate)
 {
-    return {{{CurrencyStore::NameId, std::wstring(name)}, {CurrencyStore::CodeId, std::wstring(code)},
-        {CurrencyStore::RateId, std::wstring(rate)}}};
+    return Shape.record({name, code, rate});
 }
 
 constexpr std::int64_t FileTimeTicksPerDay = 864000000000LL; // 100 ns units
@@ -59,8 +60,7 @@ void CurrencyStore::SetInitialList(InitialCurrencyList list)
 
 std::int32_t CurrencyStore::Load()
 {
-    const DatabaseShape shape {DatabaseName, DatabaseType, SortIds, NameCaseInsensitive};
-    const auto result = FirstStartLoad::run(m_store, m_database, shape, [this](PropertyDatabase&) {
+    const auto result = FirstStartLoad::run(m_store, m_database, Shape, [this](PropertyDatabase&) {
         fill();
         return true;
     });
@@ -71,32 +71,12 @@ std::int32_t CurrencyStore::Load()
 void CurrencyStore::fill()
 {
     for (const CurrencyEntry& entry : m_initial.entries)
-        m_database.Add(currencyProperties(entry.code, entry.name, entry.rate), 0);
+        m_database.Add(currencyRecord(entry.code, entry.name, entry.rate), 0);
     // The implicit empty entries past the end of the file: all alike, so only the first can be written.
     if (static_cast<std::size_t>(m_initial.size()) > m_initial.entries.size())
-        m_database.Add(currencyProperties({}, {}, {}), 0);
+        m_database.Add(currencyRecord({}, {}, {}), 0);
     // A freshly loaded list reads as never updated.
     m_database.SetLastModified(0, 0);
-}
-
-std::wstring CurrencyStore::Code(std::uint32_t position)
-{
-    return m_database.ReadAt(position, CodeId);
-}
-
-std::wstring CurrencyStore::Name(std::uint32_t position)
-{
-    return m_database.ReadAt(position, NameId);
-}
-
-std::wstring CurrencyStore::RateText(std::uint32_t position)
-{
-    return m_database.ReadAt(position, RateId);
-}
-
-std::uint16_t CurrencyStore::RecordCount()
-{
-    return m_database.RecordCount();
 }
 
 std::uint64_t CurrencyStore::LastUpdate()
@@ -113,7 +93,7 @@ bool CurrencyStore::UpdateByName(std::wstring_view code, std::wstring_view name,
 {
     if (m_database.SeekEqual({NameId, std::wstring(name)}) == 0)
         return false;
-    return m_database.UpdateCurrent(currencyProperties(code, name, rate));
+    return m_database.UpdateCurrent(currencyRecord(code, name, rate));
 }
 
 bool CurrencyStore::DeleteAt(std::uint32_t position)

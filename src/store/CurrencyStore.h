@@ -9,13 +9,11 @@
 #include <optional>
 #include <string>
 
-// The currency store "wdkCurrencies", filled once from the initial list. A currency is addressed by its
-// position in ascending, case-insensitive order of its name.
+// The currency store "wdkCurrencies" (database type 98765), filled once from the initial list. A currency
+// is addressed by its position in ascending, case-insensitive order of its name.
 class CurrencyStore
 {
 public:
-    static constexpr std::wstring_view DatabaseName = L"wdkCurrencies";
-    static constexpr std::uint32_t DatabaseType = 98765;
     static constexpr PropertyId CodeId = 401;
     static constexpr PropertyId NameId = 402;
     static constexpr PropertyId RateId = 403;
@@ -29,10 +27,10 @@ public:
     // initial list's count after a first-start load (skipped duplicates included).
     std::int32_t Load();
 
-    std::wstring Code(std::uint32_t position);
-    std::wstring Name(std::uint32_t position);
-    std::wstring RateText(std::uint32_t position);
-    std::uint16_t RecordCount();
+    std::wstring Code(std::uint32_t position) { return m_database.ReadAt(position, CodeId); }
+    std::wstring Name(std::uint32_t position) { return m_database.ReadAt(position, NameId); }
+    std::wstring RateText(std::uint32_t position) { return m_database.ReadAt(position, RateId); }
+    std::uint16_t RecordCount() { return m_database.RecordCount(); }
     std::int32_t Count() const { return m_count; }
 
     // The last-update stamp: a FILETIME, 0 when never updated.

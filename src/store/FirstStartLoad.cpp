@@ -1,6 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "store/FirstStartLoad.h"
 
+std::vector<Property> DatabaseShape::record(std::initializer_list<std::wstring_view> values) const
+{
+    std::vector<Property> properties;
+    for (std::size_t i = 0; i < values.size() && i < sortIds.size(); ++i)
+        properties.push_back({sortIds[i], std::wstring(values.begin()[i])});
+    return properties;
+}
+
 namespace {
 
 bool isFilled(PropertyDatabase& database, const DatabaseShape& shape)

@@ -4,7 +4,10 @@
 #include "store/PropertyDatabase.h"
 
 #include <functional>
+#include <initializer_list>
 #include <span>
+#include <string_view>
+#include <vector>
 
 // The shape a store gives its database when it creates it.
 struct DatabaseShape
@@ -13,6 +16,9 @@ struct DatabaseShape
     std::uint32_t type = 0;
     std::span<const PropertyId> sortIds;
     int sortMode = 0;
+
+    // A record as the store writes it: `values` paired with the sort orders' properties, in their order.
+    [[nodiscard]] std::vector<Property> record(std::initializer_list<std::wstring_view> values) const;
 };
 
 // A store's load from shipped data, done once per device: a database that holds at least one record is

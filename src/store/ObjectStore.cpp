@@ -51,14 +51,12 @@ bool ObjectStore::prepare(SqliteConnection& connection)
 
 std::unique_ptr<ObjectStore> ObjectStore::open(const std::filesystem::path& file, MessageSink& messages)
 {
-    auto connection = StateFile::open(file, messages, &ObjectStore::prepare);
-    return connection ? std::unique_ptr<ObjectStore>(new ObjectStore(std::move(connection))) : nullptr;
+    return StateFile::openAs<ObjectStore>(file, messages);
 }
 
 std::unique_ptr<ObjectStore> ObjectStore::openInMemory()
 {
-    auto connection = StateFile::openInMemory(&ObjectStore::prepare);
-    return connection ? std::unique_ptr<ObjectStore>(new ObjectStore(std::move(connection))) : nullptr;
+    return StateFile::openInMemoryAs<ObjectStore>();
 }
 
 ObjectStore::Stamp ObjectStore::stamp()

@@ -51,6 +51,8 @@ public:
     std::size_t recordCount(std::int64_t databaseId);
 
 private:
+    friend class StateFile;
+
     struct CachedIndex
     {
         Stamp stamp;

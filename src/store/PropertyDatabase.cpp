@@ -258,6 +258,16 @@ std::wstring PropertyDatabase::ReadAt(std::uint32_t position, PropertyId id)
     return found == end ? std::wstring() : readable(found->text);
 }
 
+std::wstring PropertyDatabase::ReadBeforeColonAt(std::uint32_t position, PropertyId id)
+{
+    return std::wstring(BeforeFirst(ReadAt(position, id), L':'));
+}
+
+std::wstring PropertyDatabase::ReadAfterColonAt(std::uint32_t position, PropertyId id)
+{
+    return std::wstring(AfterFirst(ReadAt(position, id), L':'));
+}
+
 std::vector<Property> PropertyDatabase::ReadRecordAt(std::uint32_t position)
 {
     std::vector<Property> result;

@@ -56,6 +56,10 @@ public:
 
     // Property `id` of the record at `position`; empty when there is no such record or property.
     std::wstring ReadAt(std::uint32_t position, PropertyId id);
+    // The same property's part before its first ":" (all of it when there is none) and the part after it,
+    // for properties that hold two texts ("city:country").
+    std::wstring ReadBeforeColonAt(std::uint32_t position, PropertyId id);
+    std::wstring ReadAfterColonAt(std::uint32_t position, PropertyId id);
     // The first four properties of the record at `position`, in written order, in one read.
     std::vector<Property> ReadRecordAt(std::uint32_t position);
 

@@ -13,15 +13,8 @@ namespace {
 
 constexpr std::array<PropertyId, 4> SortIds = {WeatherFavourites::NameId, WeatherFavourites::LocationCodeId,
     WeatherFavourites::ForecastId, WeatherFavourites::UpdateKeyId};
-
-std::array<Property, 4> favouriteProperties(
-    std::wstring_view name, std::wstring_view locationCode, std::wstring_view forecast, std::wstring_view updateKey)
-{
-    return {{{WeatherFavourites::NameId, std::wstring(name)},
-        {WeatherFavourites::LocationCodeId, std::wstring(locationCode)},
-        {WeatherFavourites::ForecastId, std::wstring(forecast)},
-        {WeatherFavourites::UpdateKeyId, std::wstring(updateKey)}}};
-}
+constexpr int EveryOrderCaseSensitive = 1; // sort mode
+constexpr DatabaseShape Shape {L"wdkWeather", 54321, SortIds, EveryOrderCaseSensitive};
 
 // Reads "\cities.wet" line by line, each byte widened as Latin-1; past the end every line is empty.
 class FavouritesFile
@@ -50,7 +43,7 @@ private:
 
 // "country file;city;location code": missing fields are empty; a location code holding a carriage
 // return loses its last character.
-std::array<Property, 4> favouriteFromLine(std::wstring_view line)
+std::vector<Property> favouriteFromLine(std::wstring_view line)
 {
     const std::wstring_view countryFile = BeforeFirst(line, L';');
     const std::wstring_view rest = AfterFirst(line, L';');
@@ -60,7 +53,7 @@ std::array<Property, 4> favouriteFromLine(std::wstring_view line)
         code.remove_suffix(1);
     const std::wstring updateKey
         = std::wstring(WeatherFavourites::InitialUpdateDate) + L":" + std::wstring(countryFile);
-    return favouriteProperties(city, code, {}, updateKey);
+    return Shape.record({city, code, {}, updateKey});
 }
 
 } // namespace
@@ -76,10 +69,10 @@ bool WeatherFavourites::openFavourites(int sortIndex)
 {
     m_database.Close();
     if (sortIndex < 0)
-        return m_database.Open(DatabaseName);
+        return m_database.Open(Shape.name);
     if (sortIndex >= static_cast<int>(SortIds.size()))
         return false;
-    return m_database.OpenSorted(DatabaseName, SortIds[static_cast<std::size_t>(sortIndex)]);
+    return m_database.OpenSorted(Shape.name, SortIds[static_cast<std::size_t>(sortIndex)]);
 }
 
 void WeatherFavourites::loadFavouritesOnce()
@@ -89,14 +82,13 @@ void WeatherFavourites::loadFavouritesOnce()
 
 void WeatherFavourites::loadFavouritesOnce(const DeviceFileSource& source)
 {
-    const DatabaseShape shape {DatabaseName, DatabaseType, SortIds, 1};
     const auto fillFromSource = [&source](PropertyDatabase& database) {
         const auto bytes = source();
         if (bytes)
             fill(database, *bytes);
         return bytes.has_value();
     };
-    if (FirstStartLoad::run(m_store, m_database, shape, fillFromSource) == FirstStartLoad::Result::SourceMissing)
+    if (FirstStartLoad::run(m_store, m_database, Shape, fillFromSource) == FirstStartLoad::Result::SourceMissing)
         m_messages.showMessage(L"Initial Weather Favorite Cities File not found!", L"Wanderkit");
 }
 
@@ -116,29 +108,14 @@ void WeatherFavourites::fill(PropertyDatabase& database, std::string_view bytes)
     }
 }
 
-std::wstring WeatherFavourites::getName(std::uint32_t position)
-{
-    return m_database.ReadAt(position, NameId);
-}
-
-std::wstring WeatherFavourites::getLocationCode(std::uint32_t position)
-{
-    return m_database.ReadAt(position, LocationCodeId);
-}
-
-std::wstring WeatherFavourites::getForecastText(std::uint32_t position)
-{
-    return m_database.ReadAt(position, ForecastId);
-}
-
 std::wstring WeatherFavourites::getLastUpdate(std::uint32_t position)
 {
-    return std::wstring(BeforeFirst(m_database.ReadAt(position, UpdateKeyId), L':'));
+    return m_database.ReadBeforeColonAt(position, UpdateKeyId);
 }
 
 std::wstring WeatherFavourites::getCountryFile(std::uint32_t position)
 {
-    return std::wstring(AfterFirst(m_database.ReadAt(position, UpdateKeyId), L':'));
+    return m_database.ReadAfterColonAt(position, UpdateKeyId);
 }
 
 std::int64_t WeatherFavourites::findByName(std::wstring_view name)
@@ -154,14 +131,14 @@ std::int64_t WeatherFavourites::findByLocationCode(std::wstring_view code)
 bool WeatherFavourites::addFavourite(
     std::wstring_view name, std::wstring_view locationCode, std::wstring_view, std::wstring_view updateKey)
 {
-    return m_database.Add(favouriteProperties(name, locationCode, {}, updateKey), PropertyDatabase::NoKey);
+    return m_database.Add(Shape.record({name, locationCode, {}, updateKey}), PropertyDatabase::NoKey);
 }
 
 bool WeatherFavourites::updateFavourite(std::wstring_view name, std::wstring_view locationCode,
     std::wstring_view forecast, std::wstring_view updateKey, int byName)
 {
     const std::int64_t found = byName == 1 ? findByName(name) : findByLocationCode(locationCode);
-    return found != 0 && m_database.UpdateCurrent(favouriteProperties(name, locationCode, forecast, updateKey));
+    return found != 0 && m_database.UpdateCurrent(Shape.record({name, locationCode, forecast, updateKey}));
 }
 
 bool WeatherFavourites::removeFavourite(std::uint32_t position)

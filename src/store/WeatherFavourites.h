@@ -10,13 +10,12 @@
 #include <string>
 #include <string_view>
 
-// The weather favourites "wdkWeather": one record per favourite city with its location code, its stored
-// forecast and its update key ("date:country list file"). Filled once from "\cities.wet".
+// The weather favourites "wdkWeather" (database type 54321): one record per favourite city with its
+// location code, its stored forecast and its update key ("date:country list file"). Filled once from
+// "\cities.wet".
 class WeatherFavourites
 {
 public:
-    static constexpr std::wstring_view DatabaseName = L"wdkWeather";
-    static constexpr std::uint32_t DatabaseType = 54321;
     static constexpr PropertyId NameId = 201; // favCityName
     static constexpr PropertyId LocationCodeId = 202; // favLocationCode
     static constexpr PropertyId ForecastId = 203; // favForecastText
@@ -32,9 +31,9 @@ public:
     // The same load from the bytes `source` gives.
     void loadFavouritesOnce(const DeviceFileSource& source);
 
-    std::wstring getName(std::uint32_t position);
-    std::wstring getLocationCode(std::uint32_t position);
-    std::wstring getForecastText(std::uint32_t position);
+    std::wstring getName(std::uint32_t position) { return m_database.ReadAt(position, NameId); }
+    std::wstring getLocationCode(std::uint32_t position) { return m_database.ReadAt(position, LocationCodeId); }
+    std::wstring getForecastText(std::uint32_t position) { return m_database.ReadAt(position, ForecastId); }
     std::wstring getLastUpdate(std::uint32_t position); // the update key before its first ":"
     std::wstring getCountryFile(std::uint32_t position); // the update key after its first ":"
 

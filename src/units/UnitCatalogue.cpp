@@ -11,12 +11,7 @@ namespace {
 constexpr std::array<PropertyId, 3> SortIds
     = {UnitCatalogue::CategoryId, UnitCatalogue::NameId, UnitCatalogue::FactorId};
 constexpr int EveryOrderCaseSensitive = 0; // sort mode
-
-std::array<Property, 3> unitProperties(std::wstring_view category, std::wstring_view name, std::wstring_view factor)
-{
-    return {{{UnitCatalogue::CategoryId, std::wstring(category)}, {UnitCatalogue::NameId, std::wstring(name)},
-        {UnitCatalogue::FactorId, std::wstring(factor)}}};
-}
+constexpr DatabaseShape Shape {L"wdkConverters", 56789, SortIds, EveryOrderCaseSensitive};
 
 } // namespace
 
@@ -27,12 +22,11 @@ UnitCatalogue::UnitCatalogue(ObjectStore& store)
 
 void UnitCatalogue::Build()
 {
-    const DatabaseShape shape {DatabaseName, DatabaseType, SortIds, EveryOrderCaseSensitive};
-    FirstStartLoad::run(m_store, m_database, shape, [this](PropertyDatabase&) {
+    FirstStartLoad::run(m_store, m_database, Shape, [this](PropertyDatabase&) {
         fill();
         return true;
     });
-    m_database.OpenSorted(DatabaseName, CategoryId);
+    m_database.OpenSorted(Shape.name, CategoryId);
 }
 
 // Each category is written starting with its table's last row, then the others in table order. Units of
@@ -48,40 +42,15 @@ void UnitCatalogue::fill()
     }
 }
 
-std::wstring UnitCatalogue::Category(std::uint32_t position)
-{
-    return m_database.ReadAt(position, CategoryId);
-}
-
-std::wstring UnitCatalogue::Name(std::uint32_t position)
-{
-    return m_database.ReadAt(position, NameId);
-}
-
-std::wstring UnitCatalogue::Factor(std::uint32_t position)
-{
-    return m_database.ReadAt(position, FactorId);
-}
-
-bool UnitCatalogue::SeekTo(std::uint32_t position)
-{
-    return m_database.SeekTo(position) != 0;
-}
-
-std::uint16_t UnitCatalogue::RecordCount()
-{
-    return m_database.RecordCount();
-}
-
 bool UnitCatalogue::AddUnit(std::wstring_view category, std::wstring_view name, std::wstring_view factor)
 {
-    return m_database.Add(unitProperties(category, name, factor), PropertyDatabase::NoKey);
+    return m_database.Add(Shape.record({category, name, factor}), PropertyDatabase::NoKey);
 }
 
 bool UnitCatalogue::UpdateUnitAt(
     std::uint32_t position, std::wstring_view category, std::wstring_view name, std::wstring_view factor)
 {
-    return m_database.UpdateAt(position, unitProperties(category, name, factor));
+    return m_database.UpdateAt(position, Shape.record({category, name, factor}));
 }
 
 bool UnitCatalogue::DeleteUnitAt(std::uint32_t position)

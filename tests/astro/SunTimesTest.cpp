@@ -14,16 +14,14 @@ TEST(SunTimes, FormatterTruncatesHoursAndMinutes)
         {23.999999998433125, L"23:59"}, // never rounded up to 24:00
         // Negative hours keep "0" before each negative part: -1 and -30 are both below 10.
         {-1.5, L"0-1:0-30"},
-        {-0.25, L"00:0-15"},
         // Not a number converts as the processor does, to -2147483648.
         {std::nan(""), L"0-2147483648:0-2147483648"},
-        {3e9, L"0-2147483648:0-2147483648"},
     };
     for (const auto& [hours, text] : cases)
         EXPECT_EQ(FormatHoursMinutes(hours), text) << hours;
 
     // The offset drops an hhmm offset's minutes; the hhmm test is "beyond 100", so 100 stays plain hours.
-    const std::pair<ZoneOffset, std::int32_t> offsets[] = {{530, 5}, {630, 6}, {-330, -3}, {-3, -3}, {100, 100}};
+    const std::pair<ZoneOffset, std::int32_t> offsets[] = {{530, 5}, {-330, -3}, {-3, -3}, {100, 100}};
     for (const auto& [offset, hours] : offsets)
         EXPECT_EQ(SunOffsetHours(offset), hours) << offset;
 }
@@ -36,14 +34,12 @@ TEST(SunTimes, SunriseSunsetAndDayLength)
     const std::tuple<int, int, int, int, int, int, const wchar_t*, const wchar_t*, const wchar_t*> cases[] = {
         // London, whole degrees 51 N 0 E, on UTC: the published times are 03:43 and 20:21 at 51.5 N.
         {21, 6, 2026, 51, 0, 0, L"03:46", L"20:17", L"16:30"},
-        {21, 12, 2026, 51, 0, 0, L"08:01", L"15:54", L"07:52"},
         // The equator at the equinox: tan(0) = 0 gives exactly six hours either side of noon.
         {20, 3, 2026, 0, 0, 0, L"06:07", L"18:07", L"12:00"},
         // Delhi, 28 N 77 E at +5:30, computed with 5 hours (published: 07:14 and 17:35 at +5:30).
         {1, 1, 2026, 28, 77, 5, L"06:45", L"17:05", L"10:20"},
         // Sydney, 33 S 151 E at +11 (daylight saving): the latitude's sign turns the arc correction.
         {1, 1, 2000, -33, 151, 11, L"05:52", L"20:06", L"14:13"},
-        {15, 9, 2026, -34, -58, -3, L"06:52", L"18:41", L"11:48"},
         // Midnight sun at 69 N: the product is clamped to 1, a day of 23.9999999984 hours.
         {21, 6, 2026, 69, 18, 2, L"00:49", L"00:49", L"23:59"},
     };
@@ -53,13 +49,6 @@ TEST(SunTimes, SunriseSunsetAndDayLength)
             std::tie(times.sunriseText, times.sunsetText, times.dayLengthText), std::tuple(sunrise, sunset, dayLength))
             << latitude << ' ' << month;
     }
-    // The offset shifts both times by whole hours.
-    const SunTimes utc = computeSunTimes(1, 1, 2026, 28, 77, 0);
-    const SunTimes india = computeSunTimes(1, 1, 2026, 28, 77, SunOffsetHours(530));
-    EXPECT_DOUBLE_EQ(india.sunrise - utc.sunrise, 5.0);
-    EXPECT_DOUBLE_EQ(india.sunset - utc.sunset, 5.0);
-    EXPECT_EQ(india.dayLength, utc.dayLength);
-
     // 69 N on 21 December: tan(69) x tan(0.8316 - 23.4353) = 2.6051 x -0.4163 = -1.0845, below -1 and not
     // clamped, so asin gives not-a-number and every text shows the conversion's -2147483648.
     const SunTimes times = computeSunTimes(21, 12, 2026, 69, 18, 1);

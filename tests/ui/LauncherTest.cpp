@@ -2,15 +2,9 @@
 #include "ScreenTestBench.h"
 #include "app/ServicesApp.h"
 #include "screens/clothing/ClothingScreen.h"
-#include "screens/dialing/DialingScreen.h"
-#include "settings/SettingsTable.h"
-#include "store/CityCatalogue.h"
 #include "store/CurrencyStore.h"
-#include "ui/Commands.h"
-#include "ui/SoftKeyBar.h"
 
 #include <QPaintEvent>
-#include <QTest>
 
 #include <array>
 
@@ -155,41 +149,38 @@ private slots:
 
     void servicesComesBackToTheSelectionAndExitEndsEveryScreen()
     {
-        for (const int service : {5, 6}) { // "Clothing sizes" and "Dialing codes"
-            ScreenTestBench bench;
-            ServicesApp launcher(bench.environment, bench.window);
-            Screen* screen = launcher.serviceScreen(service);
-            QVERIFY(service == 5 ? qobject_cast<ClothingScreen*>(screen) != nullptr
-                                 : qobject_cast<DialingScreen*>(screen) != nullptr);
-            bool servicesEnabled = false;
-            bool exitEnded = false;
-            bench.run(launcher, [&] {
-                for (int i = 0; i < service; ++i)
-                    bench.press(Qt::Key_Right);
-                bench.whenShown(*screen, [&] {
-                    servicesEnabled = screen->softKeys()->isKeyEnabled(Commands::Services);
-                    bench.press(Qt::Key_F1);
-                    screen->endScreen(); // in case the key did nothing
-                });
-                bench.press(Qt::Key_Return); // returns once the screen has ended
-                QCOMPARE(launcher.selection(), service);
-                QVERIFY(!launcher.softKeys()->isKeyEnabled(Commands::Services)); // the launcher's own is grey
+        ScreenTestBench bench;
+        ServicesApp launcher(bench.environment, bench.window);
+        Screen* clothing = launcher.serviceScreen(5); // "Clothing sizes"
+        QVERIFY(qobject_cast<ClothingScreen*>(clothing));
+        bool servicesEnabled = false;
+        bool exitEnded = false;
+        bench.run(launcher, [&] {
+            for (int i = 0; i < 5; ++i)
+                bench.press(Qt::Key_Right);
+            bench.whenShown(*clothing, [&] {
+                servicesEnabled = clothing->softKeys()->isKeyEnabled(Commands::Services);
                 bench.press(Qt::Key_F1);
-                QCOMPARE(bench.window.topScreen(), &launcher);
-                bench.whenShown(*screen, [&] {
-                    bench.press(Qt::Key_Down);
-                    bench.press(Qt::Key_Right);
-                    screen->softKeys()->chooseItem(Commands::Exit);
-                    exitEnded = bench.window.isExiting();
-                    bench.window.exitAll(); // in case the item did nothing
-                });
-                bench.press(Qt::Key_Return);
+                clothing->endScreen(); // in case the key did nothing
             });
-            QVERIFY(servicesEnabled && exitEnded);
-            QVERIFY(!screen->isRunning() && !launcher.isRunning());
-            if (service == 5) // the clothing screen saved the wearer chosen before "Exit"
-                QCOMPARE(bench.stored(Settings::ClothesWho), 1u);
-        }
+            bench.press(Qt::Key_Return); // returns once the screen has ended
+            QCOMPARE(launcher.selection(), 5);
+            QVERIFY(!launcher.softKeys()->isKeyEnabled(Commands::Services)); // the launcher's own is grey
+            bench.press(Qt::Key_F1);
+            QCOMPARE(bench.window.topScreen(), &launcher);
+            bench.whenShown(*clothing, [&] {
+                bench.press(Qt::Key_Down);
+                bench.press(Qt::Key_Right);
+                clothing->softKeys()->chooseItem(Commands::Exit);
+                exitEnded = bench.window.isExiting();
+                bench.window.exitAll(); // in case the item did nothing
+            });
+            bench.press(Qt::Key_Return);
+        });
+        QVERIFY(servicesEnabled && exitEnded);
+        QVERIFY(!clothing->isRunning() && !launcher.isRunning());
+        // The clothing screen saved the wearer chosen before "Exit".
+        QCOMPARE(bench.stored(Settings::ClothesWho), 1u);
     }
 
     void theStoresAreLoadedInOrderOnceTheCurrencyFileAtEveryStartAndAmountsAreForgotten()
@@ -225,9 +216,6 @@ private slots:
         // A filled store is not loaded again, but a missing currency file is still reported.
         std::filesystem::remove(bench.root.path() / "currs.lst");
         QCOMPARE(start(), std::vector<std::wstring> {L"Wanderkit: Initial Currencies File not found!"});
-        CityCatalogue cities(bench.objects, bench.paths, bench.messages);
-        cities.Load();
-        QCOMPARE(cities.CityName(1), std::wstring(L"Paris"));
         CurrencyStore currencies(bench.objects);
         currencies.Load();
         QCOMPARE(currencies.RecordCount(), 2);

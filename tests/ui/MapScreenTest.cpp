@@ -3,17 +3,47 @@
 
 #include "CityFixture.h"
 #include "ScreenTestBench.h"
+#include "app/PngFile.h"
 #include "astro/MapPoint.h"
 #include "screens/select/SelectDialog.h"
-#include "settings/SettingsTable.h"
 #include "store/CityCatalogue.h"
 #include "store/WeatherFavourites.h"
-#include "ui/Commands.h"
-#include "ui/SoftKeyBar.h"
+#include "ui/Painting.h"
 
-#include <QTest>
+#include <QPainter>
+#include <QTemporaryDir>
 
 namespace {
+
+// A picture whose every pixel differs from its neighbours in all three channels.
+QImage patterned(QSize size)
+{
+    QImage image(size, QImage::Format_RGB32);
+    for (int y = 0; y < size.height(); ++y)
+        for (int x = 0; x < size.width(); ++x)
+            image.setPixel(x, y, qRgb((x * 7 + y) % 256, (y * 5 + 3 * x) % 256, (x * 11 + y * 13 + 1) % 256));
+    return image;
+}
+
+TerminatorSun sunAt(int month, int day, int hour)
+{
+    return computeSunForTerminator({2026, static_cast<std::uint16_t>(month), 0, static_cast<std::uint16_t>(day),
+                                       static_cast<std::uint16_t>(hour), 0, 0, 0},
+        {0, 0});
+}
+
+// The rectangle of pixels in `image` that have exactly `colour`; empty when none.
+QRect pixelsOf(const QImage& image, QRgb colour)
+{
+    QRect found;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (image.pixel(x, y) == colour)
+                found |= QRect(x, y, 1, 1);
+    return found;
+}
+
+const QRgb Marker = MapRenderer::MarkerColour.rgb();
 
 // Six cities "A0" to "A5" at chosen whole-degree coordinates (longitude, latitude), on GMT.
 const std::pair<int, int> Places[] = {{0, 0}, {0, 90}, {-120, 20}, {60, -30}, {120, 45}, {10, 10}};
@@ -148,7 +178,6 @@ private slots:
         for (int slot = 1; slot <= 4; ++slot)
             registry.SetDWORD(Settings::WorldClockKey, L"clock" + std::to_wstring(slot), std::uint32_t(slot));
         t.bench.store(Settings::MapClock, 3); // A3 is drawn as the selected city
-        const QRgb marker = MapRenderer::MarkerColour.rgb();
         const QRgb selected = MapRenderer::SelectedColour.rgb();
         t.run([&] {
             QVERIFY(t.screen.showCities()); // "showcs" absent
@@ -156,21 +185,20 @@ private slots:
             QImage map = t.map();
             QCOMPARE(map.size(), QSize(240, 138));
             // Where a point lands is the renderer's; here, which cities are marked. A0 at longitude 0,
-            // latitude 0 is the middle column and row; A1 at latitude 90 is on row 0; A5, in no clock, is not.
-            QCOMPARE(map.pixel(120, 69), marker);
-            QCOMPARE(map.pixel(120, 0), marker);
-            QCOMPARE(map.pixel(40, 53), marker); // A2: 120 - 80, 69 - 15.3
-            QCOMPARE(map.pixel(200, 34), marker); // A4: 120 + 80, 69 - 34.5
-            QCOMPARE(map.pixel(160, 92), selected); // A3: 120 + 40, 69 + 23
+            // latitude 0 is the middle column and row; A1 at latitude 90 is on row 0; A3 at (60, -30) is
+            // (120 + 40, 69 + 23); A5, in no clock, is not.
+            QCOMPARE(map.pixel(120, 69), Marker);
+            QCOMPARE(map.pixel(120, 0), Marker);
+            QCOMPARE(map.pixel(160, 92), selected);
             const MapPoint a5 = MapPointOf(10, 10, 240, 138);
-            QVERIFY(map.pixel(a5.x, a5.y) != marker);
+            QVERIFY(map.pixel(a5.x, a5.y) != Marker);
             for (const std::uint32_t shown : {0u, 1u}) {
                 t.screen.sendCommand(Commands::ShowCitiesOnMap);
                 QCOMPARE(t.screen.showCities(), shown == 1);
                 QCOMPARE(t.screen.softKeys()->isItemChecked(Commands::ShowCitiesOnMap), shown == 1);
                 QCOMPARE(t.bench.stored(Settings::ShowCities), shown);
                 map = t.map();
-                QCOMPARE(map.pixel(160, 92) == selected && map.pixel(120, 69) == marker, shown == 1);
+                QCOMPARE(map.pixel(160, 92) == selected && map.pixel(120, 69) == Marker, shown == 1);
             }
         });
         MapBench hidden(writePlaces);
@@ -178,7 +206,7 @@ private slots:
         hidden.run([&] { QVERIFY(!hidden.screen.showCities()); });
     }
 
-    void nightPixelsKeepOnlyTheBlueChannelOfTheDayPictureOrOfTheGradient()
+    void nightPixelsKeepOnlyTheBlueChannelOfTheDayPicture()
     {
         // "bmap.jpg", the night picture, is loaded and held but never drawn: night is the day picture's blue.
         MapBench t([](const TempDir& root) {
@@ -204,50 +232,104 @@ private slots:
             QCOMPARE(map.pixel(0, 69), qRgb(0, 0, qBlue(day.pixel(0, 69))));
             QCOMPARE(map.pixel(120, 0), qRgb(0, 0, qBlue(day.pixel(120, 0))));
         });
-        // Without a day picture the gradient is the day.
-        MapBench gradient;
-        gradient.bench.store(Settings::ShowCities, 0);
-        gradient.run([&] {
-            // Nor is there a "bmap.jpg": nothing is said about either.
-            QVERIFY(!gradient.screen.holdsNightPicture());
-            const QImage window = gradient.bench.render();
-            // Band 30 (the top) is RGB(114, 150, 180): kept in day, only its blue at night.
-            QCOMPARE(window.pixel(120, 69), qRgb(84 + 23, 120 + 23, 150 + 23)); // row 69 is in band 23
-            QCOMPARE(window.pixel(120, 2), qRgb(0, 0, 180)); // the north pole's winter night
-            QCOMPARE(window.pixel(2, 69), qRgb(0, 0, 173));
-        });
-        // The fixture has no favourites file, and only that is said.
-        for (const auto& message : gradient.bench.messages.messages)
+        // Nor is anything said about either picture: the fixture's only message is its missing favourites file.
+        for (const auto& message : t.bench.messages.messages)
             QVERIFY(message.text.find(L"jpg") == std::wstring::npos);
-        QVERIFY(gradient.bench.boxes.shown.empty());
+        QVERIFY(t.bench.boxes.shown.empty());
     }
 
     void theCityTimeAndItsSunFollowTheZoneAndDaylightSaving()
     {
-        // C0010 is on +5:30 and the device (C0000) on GMT without a rule: C0010's time is 5:30 ahead, its
-        // sun uses 5 hours. C0684 observes from day 67 (8 March 2026) of its own date: at 04:59 GMT its date
-        // is still 7 March; two minutes later it is 8 March. The local time follows "twelvehour".
-        const std::map<int, std::string> zones {{10, "530;0;0;0;0;0"}, {684, "-5;1;67;2;305;2"}};
-        for (const std::uint32_t twelveHour : {1u, 0u}) {
-            MapBench t([&](const TempDir& root) { CityFixture::write(root, zones); });
-            t.bench.clock.set(FakeDeviceClock::at(2026, 3, 8, 4, 59, 0));
-            t.bench.store(Settings::TwelveHour, twelveHour);
-            t.bench.store(Settings::MapClock, twelveHour ? 10 : 684);
-            t.run([&] {
-                if (twelveHour) {
-                    QCOMPARE(t.screen.shownLocalTime(), QStringLiteral("04:59:00 AM"));
-                    QCOMPARE(t.screen.cityTime(), QStringLiteral("10:29"));
-                    QCOMPARE(t.screen.sun().utcHours, 5);
-                    return;
+        // The device (C0000) is on GMT without a rule. C0684 observes from day 67 (8 March 2026) of its own
+        // date: at 04:59 GMT its date is still 7 March; two minutes later it is 8 March. The local time
+        // follows "twelvehour"; the city's time does not.
+        MapBench t([](const TempDir& root) { CityFixture::write(root, {{684, "-5;1;67;2;305;2"}}); });
+        t.bench.clock.set(FakeDeviceClock::at(2026, 3, 8, 4, 59, 0));
+        t.bench.store(Settings::TwelveHour, 1);
+        t.bench.store(Settings::MapClock, 684);
+        t.run([&] {
+            QCOMPARE(t.screen.shownLocalTime(), QStringLiteral("04:59:00 AM"));
+            QCOMPARE(t.screen.cityTime(), QStringLiteral("23:59"));
+            QCOMPARE(t.screen.sun().utcHours, -5);
+            t.bench.advance(2 * 60 * 1000);
+            QCOMPARE(t.screen.cityTime(), QStringLiteral("01:01"));
+            QCOMPARE(t.screen.sun().utcHours, -4);
+        });
+    }
+
+    // ---- The renderer alone.
+    void nightPixelsKeepOnlyTheBlueChannel()
+    {
+        // Every month's column step, including a span ending on row mapHeight (June's south pole).
+        for (const int month : {3, 6, 12}) {
+            const QSize size(240, 138);
+            const QImage day = patterned(size);
+            const TerminatorColumns night = ComputeTerminatorColumns(sunAt(month, 21, 12), 240, 138, month);
+            const QImage map = MapRenderer::render(day, size, MapRenderer::Stretch::Plain, night, nullptr);
+            QCOMPARE(map.size(), size);
+            for (const NightSpan& span : night.spans) {
+                if (span.column >= size.width())
+                    continue;
+                for (int y = 0; y < size.height(); ++y) {
+                    const QRgb before = day.pixel(span.column, y);
+                    const bool dark = y >= span.first && y <= span.last;
+                    QCOMPARE(map.pixel(span.column, y), dark ? qRgb(0, 0, qBlue(before)) : before);
                 }
-                QCOMPARE(t.screen.shownLocalTime(), QStringLiteral("04:59:00"));
-                QCOMPARE(t.screen.cityTime(), QStringLiteral("23:59"));
-                QCOMPARE(t.screen.sun().utcHours, -5);
-                t.bench.advance(2 * 60 * 1000);
-                QCOMPARE(t.screen.cityTime(), QStringLiteral("01:01"));
-                QCOMPARE(t.screen.sun().utcHours, -4);
-            });
+            }
         }
+    }
+
+    void markersSitOnTheirPointsWithLabelsByTheQuarterRule()
+    {
+        const QSize size(240, 138);
+        QImage black(size, QImage::Format_RGB32);
+        black.fill(Qt::black);
+        // Places A0 to A4: the 4 x 4 square around each point, cut by the map's edge, and its label's side.
+        const std::pair<QRect, bool> cases[] = {
+            // Longitude 0 is the middle column, 120, in the second quarter: label on the left.
+            {QRect(118, 67, 4, 4), true},
+            // Latitude 90 is row 0; -90 row 138, below the last row.
+            {QRect(118, 0, 4, 2), true}, {QRect(38, 51, 4, 4), false}, // x 40 in the first quarter
+            {QRect(158, 90, 4, 4), false}, // x 160 in the third, y 69 + 23
+            {QRect(198, 32, 4, 4), true}, // x 200 in the last
+        };
+        for (std::size_t i = 0; i < std::size(cases); ++i) {
+            const auto [longitude, latitude] = Places[i];
+            const auto& [square, labelLeft] = cases[i];
+            MapRenderer::MarkerSet set {
+                {{QStringLiteral("Wxyz"), longitude, latitude, false}}, Painting::makeFont(14, Painting::Bold), 1};
+            const QImage map = MapRenderer::render(black, size, MapRenderer::Stretch::Plain, {}, &set);
+            const MapPoint point = MapPointOf(longitude, latitude, size.width(), size.height());
+            // The square and the label's pixels are the marker colour; the square is the only block of it
+            // on the point's side, and the label lies wholly on one side of the point.
+            QVERIFY2(pixelsOf(map, Marker).contains(square), qPrintable(QString::number(i)));
+            QCOMPARE(QRect(point.x - 2, point.y - 2, 4, 4).intersected(QRect(QPoint(0, 0), size)), square);
+            QImage labelOnly = map;
+            QPainter(&labelOnly).fillRect(square, Qt::black);
+            const QRect label = pixelsOf(labelOnly, Marker);
+            QVERIFY(!label.isEmpty());
+            QVERIFY2(
+                labelLeft ? label.right() < point.x - 2 : label.left() > point.x + 2, qPrintable(QString::number(i)));
+            // The label's top is 6 pixels above the point (the glyphs start a little below it).
+            QVERIFY(label.top() >= std::max(0, point.y - 6));
+        }
+    }
+
+    void pngFilesReadBackPixelForPixel()
+    {
+        QTemporaryDir folder;
+        for (const QSize size : {QSize(1, 1), QSize(7, 3), QSize(300, 200), QSize(1024, 700)}) {
+            const QImage picture = patterned(size);
+            const QString path = folder.filePath(QStringLiteral("map.png"));
+            QString error;
+            QVERIFY(PngFile::write(picture, path, error));
+            const QImage back(path, "PNG");
+            QCOMPARE(back.size(), size);
+            QCOMPARE(back.convertToFormat(QImage::Format_RGB32), picture);
+        }
+        QString error;
+        QVERIFY(!PngFile::write(patterned(QSize(4, 4)), folder.filePath(QStringLiteral("no/such/folder.png")), error));
+        QVERIFY(!error.isEmpty());
     }
 };
 

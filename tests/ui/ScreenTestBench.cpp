@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ScreenTestBench.h"
 
-#include "ui/Screen.h"
-
-#include <QTest>
 #include <QTimer>
 
 #include <memory>

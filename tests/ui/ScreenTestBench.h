@@ -8,14 +8,18 @@
 #include "TempDir.h"
 #include "session/DeviceSession.h"
 #include "settings/SettingsTable.h"
+#include "ui/Commands.h"
 #include "ui/DeviceWindow.h"
+#include "ui/Screen.h"
 #include "ui/ScreenEnvironment.h"
+#include "ui/SoftKeyBar.h"
+#include "ui/Spinner.h"
+
+#include <QTest>
 
 #include <functional>
 #include <memory>
 #include <string_view>
-
-class Screen;
 
 // The child of `parent` named `name`: a screen's spinner, field or list.
 template<class Widget>
@@ -24,8 +28,9 @@ Widget* child(const QObject& parent, const char* name)
     return parent.findChild<Widget*>(QString::fromLatin1(name));
 }
 
-// Everything a screen needs, fresh for each test: a hand-driven clock, a device root in a temporary
-// folder, in-memory state stores, recorded messages and message boxes, and a device window.
+// Everything a screen needs, fresh for each test (this header also brings what every screen test uses): a hand-driven
+// clock, a device root in a temporary folder, in-memory state stores, recorded messages and message boxes, and a device
+// window.
 class ScreenTestBench
 {
 public:

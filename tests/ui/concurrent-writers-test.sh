@@ -1,79 +1,112 @@
 #!/usr/bin/env bash
-# Writers at once: several `wanderkit settings set` processes write the same state while another
-# process reads it and the program itself has it open. No command may fail (a write that waited too
-# long for the lock exits 1), and a later read sees the last written values.
-# WANDERKIT_WRITERS and WANDERKIT_WRITES set the processes and the writes per process (default 4 x 50).
+# shellcheck disable=SC2317 # the round functions are called through run_writer
+# Writers at once: while the program has the state open and a reader reads it, processes write it all at
+# the same time: `settings set`, `favourites add` and `remove`, `forecast import` and `rates import`. No
+# command may fail (a write that waited too long for the lock exits 1) or mention a lock, and a later
+# read sees each writer's last value.
+# Usage: concurrent-writers-test.sh PROGRAM DEVICE_ROOT. WANDERKIT_WRITES sets the rounds of each writer
+# (default 20).
 set -u
 program=$1
-writers=${WANDERKIT_WRITERS:-4}
-writes=${WANDERKIT_WRITES:-50}
-work=$(mktemp -d)
-trap 'kill $(jobs -p) 2>/dev/null; rm -rf "$work"' EXIT
-export XDG_RUNTIME_DIR="$work/runtime"
-mkdir -m 700 "$XDG_RUNTIME_DIR"
+device_root=$2
+writes=${WANDERKIT_WRITES:-20}
+# shellcheck source=../support/process-test.sh
+. "$(dirname "$0")/../support/process-test.sh"
 state="$work/state"
-failures=0
-check() { # description, expected, actual
-    if [ "$2" != "$3" ]; then
-        echo "FAIL: $1: expected $2, got $3"
-        failures=$((failures + 1))
-    else
-        echo "ok: $1"
-    fi
-}
-settings() { "$program" settings "$@" --state-dir "$state"; }
+wk() { "$program" --state-dir "$state" --device-root "$device_root" --now "2026-06-15 09:00:00" "$@"; }
+settings() { wk settings "$@"; }
 
 settings set Wanderkit\\hostile shared 0 >/dev/null
 check "the first write creates the state" 0 $?
 # The program holds its own connections to the same files throughout.
-"$program" --state-dir "$state" >"$work/program.log" 2>&1 &
+"$program" --state-dir "$state" --device-root "$device_root" >"$work/program.log" 2>&1 &
 program_pid=$!
 
-# Writer w writes w*1000+1 .. w*1000+writes, in order, to its own value and to the shared one.
-writer() {
-    local w=$1 failed=0 i
+# Forecast i of Paris ends on 19/06/(2000 + i); rates file i says i dollars a euro and 2 i of the rest.
+for i in $(seq "$writes"); do
+    sed "s/\"2026-/\"$((2000 + i))-/" "$(dirname "$0")/../../resources/tour/forecast.json" >"$work/forecast$i.json"
+    ecb_file "$device_root/currs.lst" 2026-06-01 "$i" "$((2 * i))" >"$work/rates$i.xml"
+done
+
+# Each writer counts its failed commands into $work/NAME.failed; messages go to $work/NAME.err.
+run_writer() { # name, function, its words after the round's number
+    local failed=0 i
     for i in $(seq "$writes"); do
-        settings set Wanderkit\\hostile "writer$w" $((w * 1000 + i)) 2>>"$work/writer$w.err" || failed=$((failed + 1))
-        settings set Wanderkit\\hostile shared $((w * 1000 + i)) 2>>"$work/writer$w.err" || failed=$((failed + 1))
+        "$2" "$i" "${@:3}" 2>>"$work/$1.err" || failed=$((failed + 1))
     done
-    echo "$failed" >"$work/writer$w.failed"
+    echo "$failed" >"$work/$1.failed"
 }
-# The reader lists and reads until the writers are done; each read must succeed with a written number.
+# Settings writer w writes w*1000+i to its own value and to the shared one.
+settings_round() { # round, w
+    settings set Wanderkit\\hostile "writer$2" $(($2 * 1000 + $1)) &&
+        settings set Wanderkit\\hostile shared $(($2 * 1000 + $1))
+}
+# A favourites writer adds its city and removes it again, and adds it once more in its last round.
+favourite_round() { # round, city:country
+    wk favourites add "$2" >/dev/null || return 1
+    [ "$1" -eq "$writes" ] || wk favourites remove "${2%%:*}" >/dev/null
+}
+forecast_round() { wk forecast import "$work/forecast$1.json" --favourite Paris >/dev/null; }
+rates_round() { wk rates import "$work/rates$1.xml" >/dev/null; }
+
+# The reader lists and reads until the writers are done; each read must succeed.
 reader() {
     local failed=0 value
     while [ ! -e "$work/done" ]; do
         settings >/dev/null 2>>"$work/reader.err" || failed=$((failed + 1))
         value=$(settings get Wanderkit\\hostile shared 2>>"$work/reader.err") || failed=$((failed + 1))
         [[ "$value" =~ ^[0-9]+$ ]] || failed=$((failed + 1))
+        wk favourites >/dev/null 2>>"$work/reader.err" || failed=$((failed + 1))
+        wk rates >/dev/null 2>>"$work/reader.err" || failed=$((failed + 1))
     done
     echo "$failed" >"$work/reader.failed"
 }
 
+started=$(date +%s%N)
 reader &
 reader_pid=$!
 pids=()
-for w in $(seq "$writers"); do
-    writer "$w" &
+for w in 1 2; do
+    run_writer "settings$w" settings_round "$w" &
     pids+=($!)
 done
+run_writer favourites1 favourite_round Coro:Venezuela &
+pids+=($!)
+run_writer favourites2 favourite_round Leiria:Portugal &
+pids+=($!)
+run_writer forecast forecast_round &
+pids+=($!)
+run_writer rates rates_round &
+pids+=($!)
 for pid in "${pids[@]}"; do wait "$pid"; done
 touch "$work/done"
 wait "$reader_pid"
+# 4 settings writes, 2 favourites writes (one fewer in the last round), a forecast and rates a round.
+echo "$((10 * writes - 2)) writes by six processes in $((($(date +%s%N) - started) / 1000000)) ms"
 
-for w in $(seq "$writers"); do
-    check "writer $w: every one of its $((2 * writes)) writes succeeds" 0 "$(cat "$work/writer$w.failed")"
-    check "writer $w: a later read sees its last value" $((w * 1000 + writes)) "$(settings get Wanderkit\\hostile "writer$w")"
+for writer in settings1 settings2 favourites1 favourites2 forecast rates; do
+    check "$writer: every one of its writes succeeds" 0 "$(cat "$work/$writer.failed")"
 done
 check "the reader: every read succeeds" 0 "$(cat "$work/reader.failed")"
-# The write committed last is some writer's last write.
+for w in 1 2; do
+    check "settings writer $w: a later read sees its last value" $((w * 1000 + writes)) \
+        "$(settings get Wanderkit\\hostile "writer$w")"
+done
 shared=$(settings get Wanderkit\\hostile shared)
-last=no
-for w in $(seq "$writers"); do [ "$shared" = $((w * 1000 + writes)) ] && last=yes; done
-check "the shared value ($shared) is a writer's last write" yes "$last"
+check "the shared setting ($shared) is a writer's last write" yes \
+    "$([ "$shared" = $((1000 + writes)) ] || [ "$shared" = $((2000 + writes)) ] && echo yes)"
+favourites=$(wk favourites)
+check "each favourites writer's city is there once" "1 1" \
+    "$(grep -c "^Coro	" <<<"$favourites") $(grep -c "^Leiria	" <<<"$favourites")"
+check "Paris holds the last forecast" "Paris	2988507	19/06/$((2000 + writes))	France" "$(grep "^Paris	" <<<"$favourites")"
+# The last file alone, imported into a copy of the state, gives the same rates.
+cp -r "$state" "$work/reference"
+state="$work/reference" wk rates import "$work/rates$writes.xml" >/dev/null
+check "the rates are the last file's" "$(state="$work/reference" wk rates)" "$(wk rates)"
 check "no command met a locked database" 0 "$(cat "$work"/*.err | grep -ci "locked")"
 kill -0 "$program_pid" 2>/dev/null
 check "the program keeps running throughout" 0 $?
 kill "$program_pid"
 wait "$program_pid" 2>/dev/null
 
-exit $((failures > 0))
+finish

@@ -2,20 +2,9 @@
 # `wanderkit map` as a process: the PNG it writes, its sizes and its usage errors. No display is used.
 set -u
 program=$1
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
+# shellcheck source=../support/process-test.sh
+. "$(dirname "$0")/../support/process-test.sh"
 unset DISPLAY WAYLAND_DISPLAY QT_QPA_PLATFORM
-export XDG_RUNTIME_DIR="$work/runtime"
-mkdir -m 700 "$XDG_RUNTIME_DIR"
-failures=0
-check() { # description, expected, actual
-    if [ "$2" != "$3" ]; then
-        echo "FAIL: $1: expected $2, got $3"
-        failures=$((failures + 1))
-    else
-        echo "ok: $1"
-    fi
-}
 # Width and height from a PNG's header, and whether it starts with the PNG signature.
 png_size() { od -An -tu1 -j16 -N8 "$1" | awk '{ printf "%dx%d", $1*16777216+$2*65536+$3*256+$4, $5*16777216+$6*65536+$7*256+$8 }'; }
 png_signature() { od -An -tx1 -N8 "$1" | tr -d ' \n'; }
@@ -62,5 +51,4 @@ check "a device root without day.jpg exits 1" 1 $?
 grep -q "day.jpg" "$work/err"
 check "the missing picture is named" 0 $?
 
-echo "$failures failed"
-[ "$failures" -eq 0 ]
+finish

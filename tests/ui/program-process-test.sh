@@ -2,19 +2,8 @@
 # The program as a process: usage errors, an unusable state folder, the single instance and the tour.
 set -u
 program=$1
-work=$(mktemp -d)
-trap 'kill $(jobs -p) 2>/dev/null; rm -rf "$work"' EXIT
-export XDG_RUNTIME_DIR="$work/runtime"
-mkdir -m 700 "$XDG_RUNTIME_DIR"
-failures=0
-check() { # description, expected, actual
-    if [ "$2" != "$3" ]; then
-        echo "FAIL: $1: expected $2, got $3"
-        failures=$((failures + 1))
-    else
-        echo "ok: $1"
-    fi
-}
+# shellcheck source=../support/process-test.sh
+. "$(dirname "$0")/../support/process-test.sh"
 
 "$program" --frobnicate >"$work/out" 2>"$work/err"
 check "an unknown option exits 2" 2 $?
@@ -95,4 +84,4 @@ check "the tour renders the launcher" 0 $?
 test -s "$work/tour/launcher-landscape.png"
 check "the tour renders the launcher in landscape" 0 $?
 
-exit $((failures > 0))
+finish

@@ -16,16 +16,12 @@ TEST(WeatherTexts, TemperaturesInFahrenheit)
         = {{FahrenheitText, L"21\u00B0 : 13\u00B0", L"70\u00B0 : 55\u00B0"},
             {FahrenheitText, L"-5\u00B0 : -40\u00B0", L"23\u00B0 : -40\u00B0"},
             {FahrenheitText, L"37\u00B0 : -18\u00B0", L"99\u00B0 : -0\u00B0"},
-            {FahrenheitText, L"-\u00B0 : 13\u00B0", L"-\u00B0 : 55\u00B0"},
-            {FahrenheitText, L"21\u00B0 : -\u00B0", L"70\u00B0 : -\u00B0"},
             {FahrenheitText, L"N/A\u00B0 : 13\u00B0", L"N/A\u00B0 : 55\u00B0"},
-            {FahrenheitText, L"21\u00B0 : N/A\u00B0", L"70\u00B0 : N/A\u00B0"},
+            {FahrenheitText, L"21\u00B0 : -\u00B0", L"70\u00B0 : -\u00B0"},
             {FahrenheitText, L"\u00B0 : \u00B0", L"32\u00B0 : 32\u00B0"},
             {FahrenheitText, L"21C\u00B0 : 13 x\u00B0", L"70\u00B0 : 55\u00B0"},
-            {FahrenheitPairText, L"19/11", L"66/52"}, {FahrenheitPairText, L"-5/-40", L"23/-40"},
-            {FahrenheitPairText, L"-/11", L"-/52"}, {FahrenheitPairText, L"19/-", L"66/-"},
-            {FahrenheitPairText, L"19/N/A", L"66/N/A"}, {FahrenheitPairText, L"N/A/11", L"N/A/52"},
-            {FahrenheitPairText, L"N/A/N/A", L"N/A/N/A"}, {FahrenheitPairText, L"", L"32/32"}};
+            {FahrenheitPairText, L"19/11", L"66/52"}, {FahrenheitPairText, L"-/11", L"-/52"},
+            {FahrenheitPairText, L"19/N/A", L"66/N/A"}, {FahrenheitPairText, L"", L"32/32"}};
     for (const auto& [convert, celsius, fahrenheit] : cases)
         EXPECT_EQ(convert(celsius), fahrenheit) << testing::PrintToString(celsius);
 }
@@ -34,14 +30,12 @@ TEST(WeatherTexts, IconNamesFromTheMapping)
 {
     const std::wstring mapping = L"sun@00;cloud@03,13;rain@61,63;storm@95,96;";
     using Case = std::tuple<const char*, std::wstring, std::wstring, std::wstring>;
-    const Case cases[]
-        = {{"a code of an entry", mapping, L"61", L"rain"}, {"the second code of an entry", mapping, L"13", L"cloud"},
-            {"the first entry containing the code wins", mapping, L"3", L"cloud"},
-            {"the code may stand in the name", mapping, L"ai", L"rain"},
-            {"a code missing from the mapping", mapping, L"45", L"na"}, {"N/A", mapping, L"N/A", L"na"},
-            {"a dash", mapping, L"-", L"na"}, {"an empty mapping", L"", L"61", L"na"},
-            {"an entry without @ is its own name", L"fog;", L"fog", L"fog"},
-            {"empty pieces are no entries", L";;sun@00;", L"", L"sun"}};
+    const Case cases[] = {{"a code of an entry", mapping, L"61", L"rain"},
+        {"the first entry containing the code wins", mapping, L"3", L"cloud"},
+        {"the code may stand in the name", mapping, L"ai", L"rain"},
+        {"a code missing from the mapping", mapping, L"45", L"na"},
+        {"an entry without @ is its own name", L"fog;", L"fog", L"fog"},
+        {"empty pieces are no entries", L";;sun@00;", L"", L"sun"}};
     for (const auto& [what, text, code, name] : cases) {
         SCOPED_TRACE(what);
         EXPECT_EQ(MappingIconName(text, code), name);
@@ -52,7 +46,6 @@ TEST(WeatherTexts, IconPathsCutTheProgramPathAtItsFirstBackslash)
 {
     using Case = std::tuple<std::wstring, std::wstring, std::wstring>;
     const Case cases[] = {{L"\\Wanderkit.exe", L"\\wiconset\\", L"\\wiconset\\rain.bmp"},
-        {L"\\Program Files\\Wanderkit\\Wanderkit.exe", L"\\wiconset\\", L"\\wiconset\\rain.bmp"},
         {L"C:\\Wanderkit\\Wanderkit.exe", L"\\icons\\", L"C:\\icons\\rain.bmp"},
         {L"Wanderkit.exe", L"\\wiconset\\", L"Wanderkit.exe\\wiconset\\rain.bmp"}};
     for (const auto& [program, folder, path] : cases) {
@@ -66,8 +59,6 @@ TEST(WeatherTexts, CityLinesWeekdaysAndDaySteps)
     using Case = std::tuple<std::optional<ZoneOffset>, std::wstring>;
     const Case cases[] = {
         {1, L"Paris GMT+1"},
-        {0, L"Paris GMT+0"},
-        {-5, L"Paris GMT-5"},
         {530, L"Paris GMT+5:30"}, // hours x 100 + minutes
         {-330, L"Paris GMT-3:30"}, // the minutes carry the sign
         {std::nullopt, L"Paris"},
@@ -82,7 +73,7 @@ TEST(WeatherTexts, CityLinesWeekdaysAndDaySteps)
         EXPECT_EQ(WeekdayLabel(day + 7), labels[day]);
     }
     using Step = std::tuple<int, int, int>;
-    const Step steps[] = {{1, 1, 2}, {4, 1, 5}, {5, 1, 1}, {5, 3, 1}, {2, -1, 1}, {1, -1, 5}, {1, 0, 5}, {3, 0, 2}};
+    const Step steps[] = {{4, 1, 5}, {5, 3, 1}, {1, -1, 5}, {1, 0, 5}, {3, 0, 2}};
     for (const auto& [day, delta, next] : steps) {
         SCOPED_TRACE(testing::Message() << day << " by " << delta);
         EXPECT_EQ(SteppedDay(day, delta), next);

@@ -2,9 +2,10 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Writes the dialing-code snapshot the test suite checks the international table against.
 
-For every row of the international table it takes the country calling code from the npm package
-countries-list (pinned in package.json) and the standard offset from GMT of the country's capital
-from Debian's tzdata (read through Python's zoneinfo). Run `npm ci` in this folder first, or use
+For every row of the international table, mapped to an ISO country code by countries.tsv, it takes
+the country calling code from the npm package countries-list (pinned in package.json) and the
+standard offset from GMT of the country's capital from Debian's tzdata (read through Python's
+zoneinfo). Run `npm ci` in this folder first, or use
 update-snapshot.sh, which does both.
 
 Usage: /usr/bin/python3 extract-dialing-sources.py [OUTPUT]
@@ -21,73 +22,11 @@ HERE = Path(__file__).resolve().parent
 REPO = HERE.parent.parent
 DEFAULT_OUTPUT = REPO / "tests" / "reference" / "dialing-sources.tsv"
 PACKAGE = HERE / "node_modules" / "countries-list"
+ROWS_FILE = HERE / "countries.tsv"
+TABLE_FILE = REPO / "src" / "reference" / "international-codes.tsv"
 ZONEINFO = Path("/usr/share/zoneinfo")
 REFERENCE_YEAR = 2025
 NO_OFFSET = "+x"
-
-# The international rows in table order: country text (without trailing blanks), the ISO 3166-1
-# alpha-2 code whose calling code the source gives, and, for a row that is a place of its own
-# rather than the country's capital, that place and its tz zone.
-ROWS = [
-    ("Afghanistan", "AF"), ("Albania", "AL"), ("Algeria", "DZ"), ("American Samoa", "AS"),
-    ("Andorra", "AD"), ("Angola", "AO"), ("Anguilla", "AI"), ("Antarctica", "AQ"),
-    ("Antigua and Barbuda", "AG"), ("Argentina", "AR"), ("Armenia", "AM"), ("Aruba", "AW"),
-    ("Ascension", "AC", "Georgetown", "Atlantic/St_Helena"), ("Australia", "AU"), ("Austria", "AT"),
-    ("Azerbaijan", "AZ"), ("Bahamas", "BS"), ("Bahrain", "BH"), ("Bangladesh", "BD"), ("Barbados", "BB"),
-    ("Belarus", "BY"), ("Belgium", "BE"), ("Belize", "BZ"), ("Benin", "BJ"), ("Bermuda", "BM"),
-    ("Bhutan", "BT"), ("Bolivia", "BO"), ("Bosnia and Herzegovina", "BA"), ("Botswana", "BW"),
-    ("Brazil", "BR"), ("British Virgin Islands", "VG"), ("Brunei", "BN"), ("Bulgaria", "BG"),
-    ("Burkina Faso", "BF"), ("Burundi", "BI"), ("Cambodia", "KH"), ("Cameroon", "CM"), ("Canada", "CA"),
-    ("Cape Verde Islands", "CV"), ("Cayman Islands", "KY"), ("Central African Republic", "CF"),
-    ("Chad", "TD"), ("Chatham Island (New Zealand)", "NZ", "Waitangi", "Pacific/Chatham"), ("Chile", "CL"),
-    ("China", "CN"), ("Christmas Island", "CX"), ("Cocos Islands", "CC"), ("Colombia", "CO"),
-    ("Comoros", "KM"), ("Congo", "CG"), ("Cook Islands", "CK"), ("Costa Rica", "CR"), ("Croatia", "HR"),
-    ("Cuba", "CU"), ("Cyprus", "CY"), ("Czech Republic", "CZ"), ("Denmark", "DK"), ("Diego Garcia", "IO"),
-    ("Djibouti", "DJ"), ("Dominica", "DM"), ("Dominican Republic", "DO"),
-    ("Easter Island", "CL", "Hanga Roa", "Pacific/Easter"), ("Ecuador", "EC"), ("Egypt", "EG"),
-    ("ElSalvador", "SV"), ("Equatorial Guinea", "GQ"), ("Eritrea", "ER"), ("Estonia", "EE"),
-    ("Ethiopia", "ET"), ("Falkland Islands", "FK"), ("Faroe Islands", "FO"), ("Fiji", "FJ"),
-    ("Finland", "FI"), ("France", "FR"), ("French Antilles", "GP"), ("French Guyana", "GF"),
-    ("French Polynesia", "PF"), ("Fyrom (Macedonia)", "MK"), ("Gabon", "GA"), ("Gambia", "GM"),
-    ("Georgia", "GE"), ("Germany", "DE"), ("Ghana", "GH"), ("Gibraltar", "GI"), ("Greece", "GR"),
-    ("Greenland", "GL"), ("Grenada and Carriacuou", "GD"), ("Grenadin Islands", "VC"), ("Guadeloupe", "GP"),
-    ("Guam", "GU"), ("Guantanamo Bay", "CU", "Guantanamo Bay Naval Base", "America/Havana"),
-    ("Guatemala", "GT"), ("Guiana", "GF"), ("Guinea", "GN"), ("Guinea-Bissau", "GW"), ("Guyana", "GY"),
-    ("Haiti", "HT"), ("Honduras", "HN"), ("Hong Kong", "HK"), ("Hungary", "HU"), ("Iceland", "IS"),
-    ("India", "IN"), ("Indonesia C.", "ID"), ("Iran", "IR"), ("Iraq", "IQ"), ("Ireland", "IE"),
-    ("Israel", "IL"), ("Italy", "IT"), ("Ivory Coast", "CI"), ("Jamaica", "JM"), ("Japan", "JP"),
-    ("Jordan", "JO"), ("Kazakhstan", "KZ"), ("Kenya", "KE"), ("Kiribati", "KI"), ("South Korea", "KR"),
-    ("Kuwait", "KW"), ("Kygyzstan", "KG"), ("Laos", "LA"), ("Latvia", "LV"), ("Lebanon", "LB"),
-    ("Lesotho", "LS"), ("Liberia", "LR"), ("Libya", "LY"), ("Liechtenstein", "LI"), ("Lithuania", "LT"),
-    ("Luxembourg", "LU"), ("Macau", "MO"), ("Macedonia, Federal Republic of", "MK"), ("Madagascar", "MG"),
-    ("Malawi", "MW"), ("Malaysia", "MY"), ("Maldives", "MV"), ("Mali", "ML"), ("Malta", "MT"),
-    ("Mariana Islands", "MP"), ("Marshall Islands", "MH"), ("Martinique", "MQ"), ("Mauritania", "MR"),
-    ("Mauritius", "MU"), ("Mayotte", "YT"), ("Mexico C.", "MX"), ("Micronesia, Federated States", "FM"),
-    ("Midway Islands", "UM", "Midway Atoll", "Pacific/Midway"), ("Miquelon", "PM"), ("Moldova", "MD"),
-    ("Monaco", "MC"), ("Mongolia", "MN"), ("Montserrat", "MS"), ("Morocco", "MA"), ("Mozambique", "MZ"),
-    ("Myanmar", "MM"), ("Namibia", "NA"), ("Nauru", "NR"), ("Nepal", "NP"), ("Netherlands", "NL"),
-    ("Neth. Antilles", "CW"), ("Nevis", "KN"), ("New Caledonia", "NC"), ("New Zealand", "NZ"),
-    ("Nicaragua", "NI"), ("Niger", "NE"), ("Nigeria", "NG"), ("Niue", "NU"), ("Norfolk Island", "NF"),
-    ("North Korea", "KP"), ("Norway", "NO"), ("Oman", "OM"), ("Pakistan", "PK"), ("Palau", "PW"),
-    ("Palestinian Territories", "PS"), ("Panama", "PA"), ("Papua New Guinea", "PG"), ("Paraguay", "PY"),
-    ("Peru", "PE"), ("Philippines", "PH"), ("Poland", "PL"), ("Portugal", "PT"), ("Principe", "ST"),
-    ("Puerto Rico", "PR"), ("Qatar", "QA"), ("Reunion Island", "RE"), ("Romania", "RO"), ("St. Helena", "SH"),
-    ("St. Kitts", "KN"), ("St. Lucia", "LC"), ("St Pierre et Miquelon", "PM"), ("St. Vincent", "VC"),
-    ("Saipan", "MP"), ("San Marino", "SM"), ("Sao Tome", "ST"), ("Saudi Arabia", "SA"),
-    ("Senegal Republic", "SN"), ("Serbia, Republic of", "RS"), ("Seychelles", "SC"), ("Sierra Leone", "SL"),
-    ("Singapore", "SG"), ("Slovakia", "SK"), ("Slovenia", "SI"), ("Solomon Islands", "SB"), ("Somalia", "SO"),
-    ("South Africa", "ZA"), ("Spain", "ES"), ("Sri Lanka", "LK"), ("Sudan", "SD"), ("Suriname", "SR"),
-    ("Swaziland", "SZ"), ("Sweden", "SE"), ("Switzerland", "CH"), ("Syria", "SY"), ("Taiwan", "TW"),
-    ("Tajikistan", "TJ"), ("Tanzania", "TZ"), ("Thailand", "TH"), ("Togo", "TG"), ("Tokelau", "TK"),
-    ("Tonga", "TO"), ("Trinidad and Tobago", "TT"), ("Tunisia", "TN"), ("Turkey", "TR"),
-    ("Turkmenistan", "TM"), ("Turks and Caicos Islands", "TC"), ("Tuvalu", "TV"), ("Uganda", "UG"),
-    ("Ukraine", "UA"), ("United Arab Emirates", "AE"), ("United Kingdom", "GB"), ("United States", "US"),
-    ("Uruguay", "UY"), ("U.S. Virgin Islands", "VI"), ("Uzbekistan", "UZ"), ("Vanuatu", "VU"),
-    ("Vatican city", "VA"), ("Venezuela", "VE"), ("Vietnam, Socialist Republic of", "VN"),
-    ("Wake Island", "UM", "Wake Island", "Pacific/Wake"), ("Wallis & Futuna Islands", "WF"),
-    ("Western Samoa", "WS"), ("Yemen", "YE"), ("Yugoslavia", "RS"), ("Zaire", "CD"), ("Zambia", "ZM"),
-    ("Zanzibar", "TZ"), ("Zimbabwe", "ZW"),
-]
 
 # The capital's zone of every country that tzdata splits into several zones (a country tzdata keeps
 # in one zone needs no entry). Antarctica has no capital and no single time: its row gets NO_OFFSET.
@@ -112,6 +51,17 @@ def read_json(path):
         return json.loads(path.read_text(encoding="utf-8"))
     except (OSError, ValueError) as error:
         fail(f"cannot read {path} ({error}); run `npm ci` in {HERE}")
+
+
+def read_rows():
+    """The rows of countries.tsv (country, ISO code, and for a place of its own that place and its zone),
+    which must name the international table's countries in its order."""
+    lines = ROWS_FILE.read_text(encoding="utf-8").splitlines()
+    rows = [tuple(line.split("\t")) for line in lines if line and not line.startswith("#")]
+    table = [line.split("\t")[0].rstrip() for line in TABLE_FILE.read_text(encoding="utf-8").splitlines()]
+    if [row[0] for row in rows] != table:
+        fail(f"{ROWS_FILE.name} does not list the countries of {TABLE_FILE.name} in its order")
+    return rows
 
 
 def tzdata_version():
@@ -185,6 +135,7 @@ def main():
     countries = read_json(PACKAGE / "countries.min.json")
     version = read_json(PACKAGE / "package.json")["version"]
     zones = zones_by_country()
+    rows = read_rows()
     lines = [
         "# Sources of the international dialing table, written by tools/dialing/extract-dialing-sources.py.",
         f"# code: first calling code of the ISO entry in npm countries-list {version} (MIT).",
@@ -192,10 +143,10 @@ def main():
         " through Python zoneinfo.",
         "row\tcountry\tiso\tcode\tcapital\tzone\tgmt",
     ]
-    for number, row in enumerate(ROWS):
+    for number, row in enumerate(rows):
         lines.append("\t".join(snapshot_row(number, row, countries, zones)))
     output.write_text("\n".join(lines) + "\n", encoding="utf-8")
-    print(f"wrote {len(ROWS)} rows to {output}")
+    print(f"wrote {len(rows)} rows to {output}")
 
 
 if __name__ == "__main__":

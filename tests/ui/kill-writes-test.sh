@@ -1,0 +1,143 @@
+#!/usr/bin/env bash
+# Kills mid-write: SIGKILL at a random moment of each write path (a setting written, a favourite added, a
+# favourite removed, a forecast imported, rates imported, the first start's load). After every kill the
+# state must open (settings, favourites, rates and weather exit 0 and say nothing on standard error) and
+# show everything as it was before the write or everything as after it, never a mix.
+# Usage: kill-writes-test.sh PROGRAM DEVICE_ROOT [--long]. Kills per path: 50, 500 with --long, or
+# WANDERKIT_KILLS. The paths run side by side, each on its own state.
+set -u
+program=$1
+device_root=$2
+kills=50
+[ "${3:-}" = --long ] && kills=500
+kills=${WANDERKIT_KILLS:-$kills}
+# shellcheck source=../support/process-test.sh
+. "$(dirname "$0")/../support/process-test.sh"
+export QT_QPA_PLATFORM=offscreen TZ=UTC
+now="2026-06-15 09:00:00"
+
+wk() { # state folder, command...
+    "$program" --state-dir "$1" --device-root "$device_root" --now "$now" "${@:2}"
+}
+# The bytes in a state's write-ahead logs: a write's log header and pages, from a process that has not
+# closed the files (readers only open the logs). The last connection to close folds the logs into the
+# database, so a state at rest has none.
+wal_bytes() { cat "$1"/*-wal 2>/dev/null | wc -c; }
+ms_now() { echo $(($(date +%s%N) / 1000000)); }
+
+# What the readers show of a state, into $2, less the lines that match $ignored; fails when a reader
+# fails or prints a message. The first load is also read through the city and unit lists, which no other
+# path changes.
+readers=("settings" "favourites" "rates" "weather Paris")
+ignored=""
+snapshot() { # state folder, output file, extra readers...
+    local reader
+    : >"$2"
+    for reader in "${readers[@]}" "${@:3}"; do
+        echo "== $reader" >>"$2"
+        # shellcheck disable=SC2086 # a reader is a command and its words
+        wk "$1" $reader 2>"$2.err" | if [ -n "$ignored" ]; then grep -v -e "$ignored"; else cat; fi >>"$2"
+        [ "${PIPESTATUS[0]}" -eq 0 ] && [ ! -s "$2.err" ] || return 1
+    done
+    return 0
+}
+
+# The inputs: two settings texts, two forecasts, two rates files over every shipped currency.
+text_a=$(head -c 100000 /dev/zero | tr '\0' a)
+text_b=$(head -c 100000 /dev/zero | tr '\0' b)
+forecast_a=$(dirname "$0")/../../resources/tour/forecast.json
+sed 's/T05:47/T06:12/g' "$forecast_a" >"$work/forecast-b.json"
+ecb_file "$device_root/currs.lst" 2026-06-10 1.5 2 >"$work/rates-a.xml"
+ecb_file "$device_root/currs.lst" 2026-06-12 1.25 4 >"$work/rates-b.xml"
+
+# The state every write path but the first load starts from.
+seed="$work/seed"
+wk "$seed" settings set 'Wanderkit\kill' note "$text_a" --type string >/dev/null &&
+    wk "$seed" favourites add Leiria:Portugal >/dev/null &&
+    wk "$seed" forecast import "$forecast_a" --favourite Paris >/dev/null &&
+    wk "$seed" rates import "$work/rates-a.xml" >/dev/null 2>&1
+check "the seed state is written" 0 $?
+
+# Kills `kills` runs of one write path and writes its figures; its failed checks go to $dir/failures.
+kill_path() { # name, extra readers ("" for none), command...
+    local name=$1 extra=$2 dir="$work/$1" loads="" started durations duration window pid status moment logged
+    local running=0 inside=0 committed=0 before=0 after=0 mixed=0
+    shift 2
+    [ "$name" = "first load" ] && loads=yes
+    mkdir -p "$dir"
+    fresh() { rm -rf "$dir/state" && { [ -n "$loads" ] || cp -r "$seed" "$dir/state"; }; }
+    # shellcheck disable=SC2086 # the extra readers are words
+    fresh && snapshot "$dir/state" "$dir/old" $extra
+    echo $? >"$dir/failures"
+    # The window of the kills: the median of three whole writes.
+    durations=()
+    for _ in 1 2 3; do
+        fresh
+        started=$(ms_now)
+        wk "$dir/state" "$@" >/dev/null 2>&1
+        durations+=($(($(ms_now) - started)))
+    done
+    duration=$(printf '%s\n' "${durations[@]}" | sort -n | sed -n 2p)
+    # shellcheck disable=SC2086
+    snapshot "$dir/state" "$dir/new" $extra || echo 1 >>"$dir/failures"
+    # The write must show; the readers complete a first load themselves, so it reads the same either way.
+    [ -z "$loads" ] && cmp -s "$dir/old" "$dir/new" && echo 1 >>"$dir/failures"
+    window=$((duration * 5 / 4 + 1))
+    for _ in $(seq "$kills"); do
+        fresh
+        "$program" --state-dir "$dir/state" --device-root "$device_root" --now "$now" "$@" >/dev/null 2>&1 &
+        pid=$!
+        moment=$((RANDOM % window))
+        sleep "$((moment / 1000)).$(printf %03d $((moment % 1000)))"
+        kill -9 "$pid" 2>/dev/null
+        { wait "$pid"; } 2>/dev/null # no "Killed" notice
+        status=$?
+        logged=$(wal_bytes "$dir/state")
+        # shellcheck disable=SC2086
+        if ! snapshot "$dir/state" "$dir/read" $extra; then
+            mixed=$((mixed + 1))
+            [ -e "$dir/diagnosis" ] || cat "$dir/read" "$dir/read.err" >"$dir/diagnosis"
+        elif cmp -s "$dir/read" "$dir/old"; then
+            before=$((before + 1))
+            [ "$status" -eq 137 ] && [ "$logged" -gt 0 ] && inside=$((inside + 1))
+        elif cmp -s "$dir/read" "$dir/new"; then
+            after=$((after + 1))
+            [ "$status" -eq 137 ] && committed=$((committed + 1))
+        else
+            mixed=$((mixed + 1))
+            [ -e "$dir/diagnosis" ] || diff "$dir/new" "$dir/read" | head -20 >"$dir/diagnosis"
+        fi
+        [ "$status" -eq 137 ] && running=$((running + 1))
+    done
+    echo "$mixed" >>"$dir/failures"
+    # A load commits store by store, and each reads complete afterwards: a kill after its log was begun
+    # landed inside it. Any other write shows once committed.
+    local inside_text="inside the write (its log begun, no commit)"
+    [ -n "$loads" ] && inside_text="inside the load (its log begun)"
+    {
+        printf '%s: %d kills (window %d ms), %d while it ran, %d of them %s' \
+            "$name" "$kills" "$window" "$running" "$inside" "$inside_text"
+        [ -n "$loads" ] && printf '\n  the stores read complete %d times, otherwise %d\n' "$((before + after))" "$mixed"
+        [ -z "$loads" ] && printf ', %d after its commit\n  the state as before %d times, as after %d, neither %d\n' \
+            "$committed" "$before" "$after" "$mixed"
+    } >"$dir/figures"
+}
+
+started=$(ms_now)
+kill_path "setting" "" settings set 'Wanderkit\kill' note "$text_b" --type string &
+kill_path "favourite added" "" favourites add Coro:Venezuela &
+kill_path "favourite removed" "" favourites remove Leiria &
+kill_path "forecast import" "" forecast import "$work/forecast-b.json" --favourite Paris &
+kill_path "rates import" "" rates import "$work/rates-b.xml" &
+# The program's first start loads the stores. When it leaves, it empties the converters' amounts one
+# after the other, as the handheld did: each value is whole, and they are no part of the load.
+ignored='	\(curval\|convval\)	' kill_path "first load" "cities units" --exit-after-first-paint &
+wait
+for path in "setting" "favourite added" "favourite removed" "forecast import" "rates import" "first load"; do
+    cat "$work/$path/figures"
+    [ -e "$work/$path/diagnosis" ] && sed 's/^/  | /' "$work/$path/diagnosis"
+    check "$path: the state opens and shows the old or the new whole after every kill" 0 \
+        "$(awk '{ s += $1 } END { print s }' "$work/$path/failures")"
+done
+echo "$((6 * kills)) kills in $((($(ms_now) - started) / 1000)) s"
+finish
