@@ -4,6 +4,7 @@
 #include "app/PngFile.h"
 #include "astro/MapCities.h"
 #include "astro/TerminatorColumns.h"
+#include "cli/CommandWords.h"
 #include "cli/RunOnDevice.h"
 #include "device/DeviceClock.h"
 #include "screens/map/MapRenderer.h"
@@ -63,12 +64,7 @@ std::optional<MapRequest> parseMapRequest(const std::vector<std::string>& args, 
 {
     MapRequest request;
     for (std::size_t i = 0; i < args.size(); ++i) {
-        std::optional<std::string> size;
-        if (args[i] == "--size")
-            size = i + 1 < args.size() ? args[++i] : "";
-        else if (args[i].starts_with("--size="))
-            size = args[i].substr(7);
-        if (size) {
+        if (const auto size = CommandWords::optionValue(args, i, "--size")) {
             if (!parseSize(*size, request))
                 return err << "wanderkit: map: --size wants WIDTHxHEIGHT, each 1 to " << MaxSide << ", got \"" << *size
                            << "\"\n"

@@ -39,3 +39,14 @@ std::string CommandWords::joined(std::size_t first) const
         text += (text.empty() ? "" : " ") + words[i];
     return text;
 }
+
+std::optional<std::string> CommandWords::optionValue(
+    const std::vector<std::string>& args, std::size_t& i, std::string_view name)
+{
+    const std::string& word = args[i];
+    if (word == name)
+        return i + 1 < args.size() ? args[++i] : std::string();
+    if (word.size() > name.size() && word.starts_with(name) && word[name.size()] == '=')
+        return word.substr(name.size() + 1);
+    return std::nullopt;
+}

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <iosfwd>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -29,6 +30,10 @@ struct CommandWords
     // Prints that `option` is unknown to `command`, then `usage`; gives the usage-error exit code.
     static int refuseOption(
         const std::string& option, std::string_view command, std::string_view usage, std::ostream& err);
+    // The value of option `name` at args[i], given as "NAME VALUE" (i then steps over the value; "" when
+    // none follows) or as "NAME=VALUE"; nothing when args[i] is another word.
+    static std::optional<std::string> optionValue(
+        const std::vector<std::string>& args, std::size_t& i, std::string_view name);
     // The words from `first` on, joined by single blanks ("shirts and sweaters").
     std::string joined(std::size_t first = 0) const;
 };

@@ -3,6 +3,7 @@
 
 #include "astro/CitySunTimes.h"
 #include "cli/CityLookup.h"
+#include "cli/CommandWords.h"
 #include "cli/RunOnDevice.h"
 #include "device/SystemDeviceClock.h"
 #include "session/HomeCity.h"
@@ -33,12 +34,7 @@ std::optional<SunRequest> parseSunRequest(const std::vector<std::string>& args, 
 {
     SunRequest request;
     for (std::size_t i = 0; i < args.size(); ++i) {
-        std::optional<std::string> date;
-        if (args[i] == "--date" && i + 1 < args.size())
-            date = args[++i];
-        else if (args[i].starts_with("--date="))
-            date = args[i].substr(7);
-        if (date) {
+        if (const auto date = CommandWords::optionValue(args, i, "--date")) {
             request.date = parseDate(*date);
             if (!request.date)
                 return err << "wanderkit: sun: --date wants a calendar date YYYY-MM-DD, got \"" << *date << "\"\n"
