@@ -37,6 +37,8 @@ public:
     // defaults.
     std::vector<StoredRegistryValue> ListValues() { return m_hive.values(); }
     bool Clear() { return m_hive.clear(); }
+    // The values `writes` sets, stored all together or not at all.
+    bool writeTogether(const std::function<void()>& writes) { return m_hive.writeTogether(writes); }
     // The status of the last read: 0 read, -1 value missing, -2 key missing.
     std::int32_t Status() const { return m_status; }
 

@@ -94,6 +94,15 @@ bool SettingsHive::setValue(
     return stored && transaction.commit();
 }
 
+bool SettingsHive::writeTogether(const std::function<void()>& writes)
+{
+    SqliteTransaction transaction(*m_connection);
+    if (!transaction.active())
+        return false;
+    writes();
+    return transaction.commit();
+}
+
 std::vector<StoredRegistryValue> SettingsHive::values()
 {
     std::vector<StoredRegistryValue> values;

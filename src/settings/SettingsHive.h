@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <span>
@@ -48,6 +49,9 @@ public:
     // Creates the key and its parents when needed and stores the value; an unchanged value is not rewritten.
     bool setValue(
         std::wstring_view path, std::wstring_view name, RegistryType type, std::span<const std::uint8_t> data);
+    // Runs `writes` as one write: the values it sets are all stored or, when the process dies or a write
+    // fails on the way, none is. False when nothing was stored.
+    bool writeTogether(const std::function<void()>& writes);
     // Every value, ordered by key and name.
     std::vector<StoredRegistryValue> values();
     // Removes every key and value.
