@@ -96,7 +96,8 @@ void MapScreen::computeDeviceOffset()
     const DeviceClock& clock = environment().clock;
     const std::uint32_t home = HomeCity::position(settings());
     m_device = HomeCity::deviceOffset(m_cities, home, clock);
-    m_deviceDaylight = EvaluateHomeDaylight(zoneTexts(m_cities.Record(home)), clock.localTime()).inEffect;
+    m_homeZone = zoneTexts(m_cities.Record(home));
+    m_deviceDaylight = EvaluateHomeDaylight(m_homeZone, clock.localTime()).inEffect;
 }
 
 void MapScreen::computeCity()
@@ -151,10 +152,8 @@ void MapScreen::tick()
     formatTimes();
     if (m_cityTime != cityTimeBefore)
         update(m_layout.cityTime);
-    const DeviceClock& clock = environment().clock;
-    const SystemTime now = clock.localTime();
-    const std::uint32_t home = HomeCity::position(settings());
-    if (EvaluateHomeDaylight(zoneTexts(m_cities.Record(home)), now).inEffect != m_deviceDaylight)
+    const SystemTime now = environment().clock.localTime();
+    if (EvaluateHomeDaylight(m_homeZone, now).inEffect != m_deviceDaylight)
         computeDeviceOffset();
     if (ComputeCitySlot(zoneTexts(m_city), m_device, now).offset != m_citySlot.offset) {
         computeCity();

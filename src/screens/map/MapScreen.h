@@ -5,6 +5,7 @@
 #include "screens/city/CityScreen.h"
 #include "screens/map/MapLayout.h"
 #include "screens/map/MapRenderer.h"
+#include "time/CityDaylight.h"
 #include "time/ClockOffsets.h"
 
 #include <QFont>
@@ -75,6 +76,7 @@ private:
     bool m_leftPressed = false;
     bool m_rightPressed = false;
     DeviceOffset m_device;
+    CityZoneTexts m_homeZone; // the home city's zone, read when the device offset is computed
     bool m_deviceDaylight = false;
     ClockSlot m_citySlot;
     CityRecord m_city;
