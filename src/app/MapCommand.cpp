@@ -72,10 +72,8 @@ std::optional<MapRequest> parseMapRequest(const std::vector<std::string>& args, 
                        std::nullopt;
         } else if (args[i] == "--markers") {
             request.markers = true;
-        } else if (args[i].starts_with("-") || !request.file.empty()) {
-            return err << "wanderkit: map: unexpected \"" << args[i] << "\"\n" << Usage, std::nullopt;
-        } else {
-            request.file = args[i];
+        } else if (!CommandWords::takeOnlyWord(args[i], request.file, "map", Usage, err)) {
+            return std::nullopt;
         }
     }
     if (request.file.empty())

@@ -32,6 +32,17 @@ int CommandWords::refuseOption(
     return 2;
 }
 
+bool CommandWords::takeOnlyWord(
+    const std::string& word, std::string& slot, std::string_view command, std::string_view usage, std::ostream& err)
+{
+    if (word.starts_with("-") || !slot.empty()) {
+        err << "wanderkit: " << command << ": unexpected \"" << word << "\"\n" << usage;
+        return false;
+    }
+    slot = word;
+    return true;
+}
+
 std::string CommandWords::joined(std::size_t first) const
 {
     std::string text;

@@ -34,6 +34,10 @@ struct CommandWords
     // none follows) or as "NAME=VALUE"; nothing when args[i] is another word.
     static std::optional<std::string> optionValue(
         const std::vector<std::string>& args, std::size_t& i, std::string_view name);
+    // Takes `word` as the command's one positional word into `slot`. An option, or a second word, is printed
+    // as unexpected on `err` with `usage`, and gives false.
+    [[nodiscard]] static bool takeOnlyWord(const std::string& word, std::string& slot, std::string_view command,
+        std::string_view usage, std::ostream& err);
     // The words from `first` on, joined by single blanks ("shirts and sweaters").
     std::string joined(std::size_t first = 0) const;
 };

@@ -40,10 +40,8 @@ std::optional<SunRequest> parseSunRequest(const std::vector<std::string>& args, 
                 return err << "wanderkit: sun: --date wants a calendar date YYYY-MM-DD, got \"" << *date << "\"\n"
                            << Usage,
                        std::nullopt;
-        } else if (args[i].starts_with("-") || !request.city.empty()) {
-            return err << "wanderkit: sun: unexpected \"" << args[i] << "\"\n" << Usage, std::nullopt;
-        } else {
-            request.city = args[i];
+        } else if (!CommandWords::takeOnlyWord(args[i], request.city, "sun", Usage, err)) {
+            return std::nullopt;
         }
     }
     if (request.city.empty())
