@@ -5,11 +5,10 @@
 
 std::array<std::uint32_t, MapCities::MarkerCount> MapCities::markedPositions(RegistrySettings& settings, bool writeBack)
 {
-    const std::array<const DwordSetting*, MarkerCount> rows {
-        &Settings::HomeClock, &Settings::Clock1, &Settings::Clock2, &Settings::Clock3, &Settings::Clock4};
+    static_assert(Settings::ClockCities.size() == MarkerCount);
     std::array<std::uint32_t, MarkerCount> positions {};
     for (std::size_t i = 0; i < MarkerCount; ++i) {
-        DwordSetting row = *rows[i];
+        DwordSetting row = *Settings::ClockCities[i];
         row.writeBack = writeBack ? WriteBack::WhenMissing : WriteBack::Never;
         positions[i] = ReadSetting(settings, row);
     }

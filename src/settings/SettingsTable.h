@@ -3,6 +3,7 @@
 
 #include "settings/RegistrySettings.h"
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -50,6 +51,8 @@ inline constexpr DwordSetting Clock1 {WorldClockKey, L"clock1", 684, WriteBack::
 inline constexpr DwordSetting Clock2 {WorldClockKey, L"clock2", 756, WriteBack::WhenKeyMissing};
 inline constexpr DwordSetting Clock3 {WorldClockKey, L"clock3", 565, WriteBack::WhenKeyMissing};
 inline constexpr DwordSetting Clock4 {WorldClockKey, L"clock4", 988, WriteBack::WhenKeyMissing};
+// The five clocks' cities in slot order, the home city first.
+inline constexpr std::array<const DwordSetting*, 5> ClockCities {&HomeClock, &Clock1, &Clock2, &Clock3, &Clock4};
 inline constexpr DwordSetting SyncLocalZone {WorldClockKey, L"syncltz", 1, WriteBack::WhenMissing};
 // The World Clocks screen writes the home city here itself when the value is missing.
 inline constexpr DwordSetting WeatherPosition {WeatherKey, L"wetp", 0, WriteBack::Never};

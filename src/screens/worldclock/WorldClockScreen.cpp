@@ -29,8 +29,8 @@ constexpr int TickTimer = 1;
 constexpr int TitleHeight = TitleBand::Height;
 
 // The registry value of each slot: "clock", "clock1" ... "clock4".
-const std::array<const DwordSetting*, WorldClockScreen::SlotCount> SlotSettings {
-    &Settings::HomeClock, &Settings::Clock1, &Settings::Clock2, &Settings::Clock3, &Settings::Clock4};
+constexpr const auto& SlotSettings = Settings::ClockCities;
+static_assert(SlotSettings.size() == WorldClockScreen::SlotCount);
 
 CityZoneTexts zoneTexts(const CityRecord& city)
 {
