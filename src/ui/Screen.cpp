@@ -11,7 +11,6 @@
 
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 
@@ -238,24 +237,16 @@ void Screen::keyPressEvent(QKeyEvent* event)
     QWidget::keyPressEvent(event);
 }
 
-void Screen::mousePressEvent(QMouseEvent* event)
+bool Screen::event(QEvent* event)
 {
-    m_swipe.press(event->position());
-}
-
-void Screen::mouseMoveEvent(QMouseEvent* event)
-{
-    if (const int delta = m_swipe.move(event->position()); delta != 0 && m_running && !m_ended)
-        swipe(delta);
-}
-
-void Screen::mouseReleaseEvent(QMouseEvent* event)
-{
-    const int delta = m_swipe.release(event->position());
-    if (!m_running || m_ended)
-        return;
-    if (delta != 0)
-        swipe(delta);
-    else if (m_swipe.wasTap())
-        tap(event->position().toPoint());
+    const SwipeRecogniser::Reading reading = m_swipe.read(*this, *event);
+    if (!reading.mouse)
+        return QWidget::event(event);
+    if (m_running && !m_ended) {
+        if (reading.step != 0)
+            swipe(reading.step);
+        else if (reading.tap)
+            tap(reading.at.toPoint());
+    }
+    return true;
 }

@@ -122,29 +122,29 @@ void Spinner::keyPressEvent(QKeyEvent* event)
     }
 }
 
-void Spinner::mousePressEvent(QMouseEvent* event)
+bool Spinner::event(QEvent* event)
+{
+    const SwipeRecogniser::Reading reading = m_swipe.read(*this, *event);
+    if (!reading.mouse)
+        return QWidget::event(event);
+    if (reading.pressed)
+        pressAt(reading.at);
+    else if (reading.step != 0)
+        step(reading.step);
+    else if (reading.tap)
+        emit boxTapped();
+    return true;
+}
+
+void Spinner::pressAt(QPointF at)
 {
     setFocus(Qt::MouseFocusReason);
     const int buttonsLeft = width() - ButtonWidth;
-    const int x = qRound(event->position().x());
-    if (x >= buttonsLeft)
+    const int x = qRound(at.x());
+    if (x >= buttonsLeft) {
+        m_swipe.cancel();
         step(x < buttonsLeft + ButtonWidth / 2 ? -1 : 1);
-    else
-        m_swipe.press(event->position());
-}
-
-void Spinner::mouseMoveEvent(QMouseEvent* event)
-{
-    if (const int delta = m_swipe.move(event->position()))
-        step(delta);
-}
-
-void Spinner::mouseReleaseEvent(QMouseEvent* event)
-{
-    if (const int delta = m_swipe.release(event->position()))
-        step(delta);
-    else if (m_swipe.wasTap())
-        emit boxTapped();
+    }
 }
 
 void Spinner::wheelEvent(QWheelEvent* event)

@@ -50,9 +50,8 @@ signals:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
-    void mouseMoveEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
+    // Mouse and touch: arrows pressed, swipes and taps on the box.
+    bool event(QEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
@@ -61,6 +60,8 @@ private:
     // as after a step, without arrow feedback.
     void jumpToLetter(QChar letter);
     void select(int index);
+    // A press takes the focus; on an arrow it steps as the arrow's key does, and starts no swipe.
+    void pressAt(QPointF at);
 
     QStringList m_items;
     int m_current = -1;

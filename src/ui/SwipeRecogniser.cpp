@@ -1,7 +1,38 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/SwipeRecogniser.h"
 
+#include <QMouseEvent>
+#include <QWidget>
 #include <QtMath>
+
+SwipeRecogniser::Reading SwipeRecogniser::read(const QWidget& widget, const QEvent& event)
+{
+    Reading reading;
+    // A disabled widget takes no mouse events, as QWidget::event drops them.
+    if (!widget.isEnabled())
+        return reading;
+    switch (event.type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+        reading.at = static_cast<const QMouseEvent&>(event).position();
+        press(reading.at);
+        reading.pressed = true;
+        break;
+    case QEvent::MouseMove:
+        reading.at = static_cast<const QMouseEvent&>(event).position();
+        reading.step = move(reading.at);
+        break;
+    case QEvent::MouseButtonRelease:
+        reading.at = static_cast<const QMouseEvent&>(event).position();
+        reading.step = release(reading.at);
+        reading.tap = m_tap;
+        break;
+    default:
+        return reading;
+    }
+    reading.mouse = true;
+    return reading;
+}
 
 void SwipeRecogniser::press(QPointF at)
 {
