@@ -8,15 +8,11 @@
 
 TEST(SunTimes, FormatterTruncatesHoursAndMinutes)
 {
-    const std::pair<double, const wchar_t*> cases[] = {
-        {0.12, L"00:07"}, // 0.12 x 60 = 7.2 minutes
-        {13.05, L"13:03"}, // 0.05 x 60 = 3.0000000000004
-        {23.999999998433125, L"23:59"}, // never rounded up to 24:00
-        // Negative hours keep "0" before each negative part: -1 and -30 are both below 10.
-        {-1.5, L"0-1:0-30"},
-        // Not a number converts as the processor does, to -2147483648.
-        {std::nan(""), L"0-2147483648:0-2147483648"},
-    };
+    // 0.12 x 60 = 7.2 minutes; 0.05 x 60 = 3.0000000000004; never rounded up to 24:00. Negative hours keep
+    // "0" before each negative part, -1 and -30 both being below 10; not a number converts as the processor
+    // does, to -2147483648.
+    const std::pair<double, const wchar_t*> cases[] = {{0.12, L"00:07"}, {13.05, L"13:03"},
+        {23.999999998433125, L"23:59"}, {-1.5, L"0-1:0-30"}, {std::nan(""), L"0-2147483648:0-2147483648"}};
     for (const auto& [hours, text] : cases)
         EXPECT_EQ(FormatHoursMinutes(hours), text) << hours;
 
@@ -50,12 +46,9 @@ TEST(SunTimes, SunriseSunsetAndDayLength)
             << latitude << ' ' << month;
     }
     // 69 N on 21 December: tan(69) x tan(0.8316 - 23.4353) = 2.6051 x -0.4163 = -1.0845, below -1 and not
-    // clamped, so asin gives not-a-number and every text shows the conversion's -2147483648.
+    // clamped, so asin gives not-a-number, which the formatter shows as in its last row above.
     const SunTimes times = computeSunTimes(21, 12, 2026, 69, 18, 1);
-    EXPECT_TRUE(std::isnan(times.sunrise));
-    EXPECT_TRUE(std::isnan(times.dayLength));
-    const std::wstring none = L"0-2147483648:0-2147483648";
-    EXPECT_EQ(std::tie(times.sunriseText, times.sunsetText, times.dayLengthText), std::tie(none, none, none));
+    EXPECT_TRUE(std::isnan(times.sunrise) && std::isnan(times.dayLength));
     // Just south of the polar circle the product stays above -1 and the night is long but finite.
     EXPECT_EQ(computeSunTimes(21, 12, 2026, 65, 18, 1).dayLengthText, L"03:34");
 }
