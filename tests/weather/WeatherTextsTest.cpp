@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "weather/WeatherTexts.h"
 
+#include "device/DevicePaths.h"
+#include "support/TempDir.h"
+#include "weather/WeatherCountries.h"
+
 #include <gtest/gtest.h>
 
 #include <tuple>
@@ -26,56 +30,56 @@ TEST(WeatherTexts, TemperaturesInFahrenheit)
         EXPECT_EQ(convert(celsius), fahrenheit) << testing::PrintToString(celsius);
 }
 
-TEST(WeatherTexts, IconNamesFromTheMapping)
+TEST(WeatherTexts, IconNamesFromTheMappingAndTheirPaths)
 {
     const std::wstring mapping = L"sun@00;cloud@03,13;rain@61,63;storm@95,96;";
-    using Case = std::tuple<const char*, std::wstring, std::wstring, std::wstring>;
-    const Case cases[] = {{"a code of an entry", mapping, L"61", L"rain"},
-        {"the first entry containing the code wins", mapping, L"3", L"cloud"},
-        {"the code may stand in the name", mapping, L"ai", L"rain"},
-        {"a code missing from the mapping", mapping, L"45", L"na"},
-        {"an entry without @ is its own name", L"fog;", L"fog", L"fog"},
-        {"empty pieces are no entries", L";;sun@00;", L"", L"sun"}};
-    for (const auto& [what, text, code, name] : cases) {
-        SCOPED_TRACE(what);
-        EXPECT_EQ(MappingIconName(text, code), name);
-    }
-}
+    // The first entry containing the code wins, and the code may stand in the name ("ai" of "rain"); an
+    // entry without "@" is its own name, and empty pieces are no entries.
+    const std::tuple<std::wstring, std::wstring, std::wstring> cases[]
+        = {{mapping, L"61", L"rain"}, {mapping, L"3", L"cloud"}, {mapping, L"ai", L"rain"}, {mapping, L"45", L"na"},
+            {L"fog;", L"fog", L"fog"}, {L";;sun@00;", L"", L"sun"}};
+    for (const auto& [text, code, name] : cases)
+        EXPECT_EQ(MappingIconName(text, code), name) << testing::PrintToString(code);
 
-TEST(WeatherTexts, IconPathsCutTheProgramPathAtItsFirstBackslash)
-{
-    using Case = std::tuple<std::wstring, std::wstring, std::wstring>;
-    const Case cases[] = {{L"\\Wanderkit.exe", L"\\wiconset\\", L"\\wiconset\\rain.bmp"},
-        {L"C:\\Wanderkit\\Wanderkit.exe", L"\\icons\\", L"C:\\icons\\rain.bmp"},
-        {L"Wanderkit.exe", L"\\wiconset\\", L"Wanderkit.exe\\wiconset\\rain.bmp"}};
-    for (const auto& [program, folder, path] : cases) {
-        SCOPED_TRACE(testing::PrintToString(program));
-        EXPECT_EQ(WeatherIconPath(program, folder, L"rain"), path);
-    }
+    // The path keeps the program path up to its first backslash.
+    const std::tuple<std::wstring, std::wstring, std::wstring> paths[]
+        = {{L"\\Wanderkit.exe", L"\\wiconset\\", L"\\wiconset\\rain.bmp"},
+            {L"C:\\Wanderkit\\Wanderkit.exe", L"\\icons\\", L"C:\\icons\\rain.bmp"},
+            {L"Wanderkit.exe", L"\\wiconset\\", L"Wanderkit.exe\\wiconset\\rain.bmp"}};
+    for (const auto& [program, folder, path] : paths)
+        EXPECT_EQ(WeatherIconPath(program, folder, L"rain"), path) << testing::PrintToString(program);
 }
 
 TEST(WeatherTexts, CityLinesWeekdaysAndDaySteps)
 {
-    using Case = std::tuple<std::optional<ZoneOffset>, std::wstring>;
-    const Case cases[] = {
-        {1, L"Paris GMT+1"},
-        {530, L"Paris GMT+5:30"}, // hours x 100 + minutes
-        {-330, L"Paris GMT-3:30"}, // the minutes carry the sign
-        {std::nullopt, L"Paris"},
-    };
+    // An hhmm offset is hours x 100 + minutes, and its minutes carry the sign.
+    const std::pair<std::optional<ZoneOffset>, std::wstring> cases[]
+        = {{1, L"Paris GMT+1"}, {530, L"Paris GMT+5:30"}, {-330, L"Paris GMT-3:30"}, {std::nullopt, L"Paris"}};
     for (const auto& [offset, line] : cases)
         EXPECT_EQ(WeatherCityLine(L"Paris", offset), line);
 
     // Sunday to Saturday; the Monday label reads "Done".
     const std::wstring_view labels[] = {L"Sun", L"Done", L"Tue", L"Wed", L"Thu", L"Fri", L"Sat"};
-    for (int day = 0; day < 7; ++day) {
-        EXPECT_EQ(WeekdayLabel(day), labels[day]);
-        EXPECT_EQ(WeekdayLabel(day + 7), labels[day]);
-    }
-    using Step = std::tuple<int, int, int>;
-    const Step steps[] = {{4, 1, 5}, {5, 3, 1}, {1, -1, 5}, {1, 0, 5}, {3, 0, 2}};
-    for (const auto& [day, delta, next] : steps) {
-        SCOPED_TRACE(testing::Message() << day << " by " << delta);
-        EXPECT_EQ(SteppedDay(day, delta), next);
-    }
+    for (int day = 0; day < 7; ++day)
+        EXPECT_TRUE(WeekdayLabel(day) == labels[day] && WeekdayLabel(day + 7) == labels[day]) << day;
+    // Day, step, next day: days 1 to 5 wrap around, and a step of 0 goes back.
+    const std::tuple<int, int, int> steps[] = {{4, 1, 5}, {5, 3, 1}, {1, -1, 5}, {1, 0, 5}, {3, 0, 2}};
+    for (const auto& [day, delta, next] : steps)
+        EXPECT_EQ(SteppedDay(day, delta), next) << day << " by " << delta;
+}
+
+TEST(WeatherCountries, TheFilesOfTheCountryFolder)
+{
+    TempDir root;
+    const DevicePaths paths(root.path());
+    EXPECT_TRUE(ListWeatherCountries(paths).empty()); // no folder at all
+    root.write("weatcs/Spain", "Madrid;3117735\n>\n");
+    root.write("weatcs/Cura\xC3\xA7"
+               "ao",
+        ">\n");
+    root.write("weatcs/Austria", "");
+    root.write("weatcs/old/Italy", "Rome;3169070\n");
+    root.write("cities.wet", "0\n");
+    const std::vector<std::wstring> countries {L"Austria", L"Cura\u00E7ao", L"Spain"};
+    EXPECT_EQ(ListWeatherCountries(paths), countries);
 }
