@@ -33,8 +33,7 @@ TEST(MapPoint, LabelSideByQuarter)
     for (const auto& [x, left] : cases)
         EXPECT_EQ(LabelOnLeft(x, 240), left) << x;
     // 241 / 4 = 60 and 241 x 3 / 4 = 180 in integers.
-    EXPECT_TRUE(LabelOnLeft(60, 241));
-    EXPECT_FALSE(LabelOnLeft(179, 241));
+    EXPECT_TRUE(LabelOnLeft(60, 241) && !LabelOnLeft(179, 241));
 }
 
 TEST(MapCities, SteppingWrapsAndStoredSelectionsOutsideShowTheFirstCity)

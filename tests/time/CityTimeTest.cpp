@@ -34,7 +34,6 @@ TEST(CityTime, FormatsTimeAndDateFromDeviceTime)
         EXPECT_EQ(FormatCityTime(city, device, false, now), time.substr(0, time.size() - 3));
         EXPECT_EQ(FormatCityDate(city, device, true, now).text, date);
     }
-    EXPECT_EQ(FormatCityDate(0, {0, 0}, false, C::at(2026, 3, 14, 9, 5, 7)).text, L"14/3 Sat");
 }
 
 TEST(ClockSlotText, HomeShowsTheDevicesTimeAndCitiesDropSecondsAndYear)
