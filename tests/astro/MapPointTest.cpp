@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "astro/MapPoint.h"
 
+#include "astro/MapCities.h"
+#include "settings/SettingsTable.h"
+
 #include <gtest/gtest.h>
 
 #include <tuple>
@@ -12,16 +15,12 @@ TEST(MapPoint, MapHeightAndPointsOfWholeDegrees)
     for (const auto& [workArea, map] : cases)
         EXPECT_EQ(MapHeightFor(workArea), map) << workArea;
 
-    // Longitude, latitude, map width and height, the point.
-    const std::tuple<int, int, int, int, MapPoint> points[] = {
-        {0, 0, 240, 138, {120, 69}}, // the middle column and row
-        {0, 90, 240, 138, {120, 0}}, // 69 - 90 x 138 / 180 = 69 - 69.000000000000014, truncated to 0
-        {0, -90, 240, 138, {120, 138}}, // one row below the map
-        {-180, 0, 240, 138, {0, 69}}, {180, 0, 240, 138, {240, 69}}, // one column past the right edge
-        {-1, 1, 240, 138, {119, 68}}, // 120 - 0.67 and 69 - 0.77, truncated
-        {0, 0, 241, 139, {120, 69}}, // odd sizes halve as integers
-        {2, 48, 1920, 1080, {970, 252}}, // Paris: 960 + 10.67, 540 - 288
-    };
+    // Longitude, latitude, map width and height, the point. The middle column and row; at 90 N,
+    // 69 - 90 x 138 / 180 = 69 - 69.000000000000014, truncated to 0; at 90 S one row below the map and at
+    // 180 E one column past its right edge; odd sizes halve as integers; Paris, 960 + 10.67 and 540 - 288.
+    const std::tuple<int, int, int, int, MapPoint> points[] = {{0, 0, 240, 138, {120, 69}}, {0, 90, 240, 138, {120, 0}},
+        {0, -90, 240, 138, {120, 138}}, {-180, 0, 240, 138, {0, 69}}, {180, 0, 240, 138, {240, 69}},
+        {0, 0, 241, 139, {120, 69}}, {2, 48, 1920, 1080, {970, 252}}};
     for (const auto& [longitude, latitude, width, height, point] : points)
         EXPECT_EQ(MapPointOf(longitude, latitude, width, height), point) << longitude << ',' << latitude;
 }
@@ -34,6 +33,45 @@ TEST(MapPoint, LabelSideByQuarter)
     for (const auto& [x, left] : cases)
         EXPECT_EQ(LabelOnLeft(x, 240), left) << x;
     // 241 / 4 = 60 and 241 x 3 / 4 = 180 in integers.
-    EXPECT_TRUE(LabelOnLeft(60, 241));
-    EXPECT_FALSE(LabelOnLeft(179, 241));
+    EXPECT_TRUE(LabelOnLeft(60, 241) && !LabelOnLeft(179, 241));
+}
+
+TEST(MapCities, SteppingWrapsAndStoredSelectionsOutsideShowTheFirstCity)
+{
+    // Left from the first city selects the last, right from the last the first.
+    const std::tuple<std::int32_t, int, std::int32_t> steps[]
+        = {{0, -1, 1089}, {1089, 1, 0}, {5, -1, 4}, {5, 1, 6}, {7, 0, 7}};
+    for (const auto& [selected, delta, next] : steps)
+        EXPECT_EQ(MapCities::steppedSelection(selected, delta, 1090), next) << selected << ' ' << delta;
+    const std::pair<std::int32_t, std::int32_t> stored[] = {{0, 0}, {1089, 1089}, {1090, 0}, {-1, 0}, {INT32_MIN, 0}};
+    for (const auto& [position, shown] : stored)
+        EXPECT_EQ(MapCities::validSelection(position, 1090), shown) << position;
+
+    // "mapclock" is a DWORD: 0xFFFFFFFF reads back as -1.
+    auto hive = SettingsHive::openInMemory();
+    RegistrySettings settings(*hive);
+    EXPECT_EQ(MapCities::storedSelection(settings), 0); // missing
+    WriteSetting(settings, Settings::MapClock, 0xFFFFFFFFu);
+    EXPECT_EQ(MapCities::storedSelection(settings), -1);
+}
+
+TEST(MapCities, MarkedCitiesAndTheirDefaults)
+{
+    // The key exists (with another value) and "clock2" is stored as 17: the rest are missing values, read as
+    // their defaults 0, 684, 565 and 988.
+    const std::array<std::uint32_t, 5> expected {0, 684, 17, 565, 988};
+    for (const bool writeBack : {true, false}) {
+        auto hive = SettingsHive::openInMemory();
+        RegistrySettings settings(*hive);
+        settings.SetDWORD(Settings::WorldClockKey, L"syncltz", 0);
+        WriteSetting(settings, Settings::Clock2, 17);
+        EXPECT_EQ(MapCities::markedPositions(settings, writeBack), expected);
+        for (std::size_t i = 0; i < expected.size(); ++i) {
+            const DwordSetting& row = *Settings::ClockCities[i];
+            const std::uint32_t stored = settings.GetDWORD(row.subkey, row.name);
+            const bool present = settings.Status() == RegistrySettings::Read;
+            EXPECT_EQ(present, writeBack || i == 2) << i;
+            EXPECT_EQ(stored, present ? expected[i] : 0) << i;
+        }
+    }
 }

@@ -37,29 +37,25 @@ TEST(CalendarDays, AddDaysWalksTheCalendarAcrossCenturies)
 
 TEST(CalendarDays, DaysThatCannotMoveOverlongTimesAndLaterDays)
 {
+    const auto withHour = [](SystemTime date, int hour) {
+        date.hour = std::uint16_t(hour);
+        return date;
+    };
     const SystemTime firstDay = C::at(1601, 1, 1, 0, 0, 0);
-    const SystemTime lastDay = C::at(30827, 12, 31, 12, 0, 0);
+    const SystemTime lastDay = C::at(30827, 12, 31, 0, 0, 0);
     SystemTime notADate = C::at(2100, 2, 28, 0, 0, 0);
     notADate.day = 29; // 2100 is not a leap year
-    EXPECT_EQ(AddDays(firstDay, -1), firstDay);
-    EXPECT_EQ(AddDays(lastDay, 1), lastDay);
-    EXPECT_EQ(AddDays(notADate, 1), notADate);
-    EXPECT_EQ(AddDays(firstDay, std::int64_t {1} << 40), firstDay);
-
-    // An overlong time of day carries into the days, up to the last supported day.
-    // 65,535 hours are 2,730 days and 15 hours: 2026 to 2032 hold 2,557 days (two leap years), and the
-    // remaining 173 days from 1 January 2033 end on 23 June.
-    SystemTime hour65535 = C::at(2026, 1, 1, 0, 0, 0);
-    hour65535.hour = 65535;
-    SystemTime lastDayHour24 = C::at(30827, 12, 31, 0, 0, 0);
-    lastDayHour24.hour = 24;
-    SystemTime lastDayHour23 = lastDayHour24;
-    lastDayHour23.hour = 23;
-    EXPECT_EQ(MoveByDays(hour65535, 0), C::at(2033, 6, 23, 15, 0, 0));
-    EXPECT_EQ(MoveByDays(lastDayHour23, 0), C::at(30827, 12, 31, 23, 0, 0));
-    EXPECT_EQ(MoveByDays(lastDayHour24, 0), std::nullopt);
-    EXPECT_EQ(MoveByDays(lastDayHour24, -1), C::at(30827, 12, 31, 0, 0, 0));
-    EXPECT_EQ(AddDays(lastDayHour24, 1), lastDayHour24);
+    // Date, days; the result, none when it cannot move. An overlong time of day carries into the days, up to
+    // the last supported day: 65,535 hours are 2,730 days and 15 hours, 2026 to 2032 hold 2,557 days (two leap
+    // years), and the remaining 173 days from 1 January 2033 end on 23 June.
+    const std::tuple<SystemTime, std::int64_t, std::optional<SystemTime>> moves[] = {{firstDay, -1, std::nullopt},
+        {lastDay, 1, std::nullopt}, {notADate, 1, std::nullopt}, {firstDay, std::int64_t {1} << 40, std::nullopt},
+        {withHour(C::at(2026, 1, 1, 0, 0, 0), 65535), 0, C::at(2033, 6, 23, 15, 0, 0)},
+        {withHour(lastDay, 23), 0, withHour(lastDay, 23)}, {withHour(lastDay, 24), 0, std::nullopt},
+        {withHour(lastDay, 24), -1, lastDay}};
+    for (const auto& [date, days, moved] : moves)
+        EXPECT_EQ(MoveByDays(date, days), moved) << date.year << '-' << date.month << '-' << date.day << ' ' << days;
+    EXPECT_EQ(AddDays(withHour(lastDay, 24), 1), withHour(lastDay, 24)); // what cannot move stays
 
     // A later day is told by the days with their milliseconds.
     const std::tuple<SystemTime, SystemTime, bool> cases[]

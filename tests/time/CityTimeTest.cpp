@@ -2,6 +2,10 @@
 #include "time/CityTime.h"
 
 #include "support/FakeDeviceClock.h"
+#include "time/ClockSlotText.h"
+#include "time/HandGeometry.h"
+#include "time/MapTwelveHour.h"
+#include "time/TwelveHourTime.h"
 
 #include <gtest/gtest.h>
 
@@ -20,8 +24,6 @@ TEST(CityTime, FormatsTimeAndDateFromDeviceTime)
         {545, {0, 0}, C::at(2026, 12, 31, 23, 20, 0), L"05:05:00", L"1/1/2027 Fri"},
         // A device in India, a city at GMT: minutes borrow from the hour, the date steps back.
         {0, {5, 30}, C::at(2026, 1, 1, 4, 10, 0), L"22:40:00", L"31/12/2025 Wed"},
-        {-5, {1, 0}, C::at(2026, 3, 1, 5, 59, 10), L"23:59:10", L"28/2/2026 Sat"},
-        {9, {-5, 0}, C::at(2024, 2, 28, 10, 0, 0), L"00:00:00", L"29/2/2024 Thu"},
         // The hour wraps once only, and the date moves by one day at most.
         {50, {0, 0}, C::at(2026, 3, 10, 10, 0, 0), L"36:00:00", L"11/3/2026 Wed"},
         {-50, {0, 0}, C::at(2026, 3, 10, 10, 0, 0), L"0-16:00:00", L"9/3/2026 Done"},
@@ -32,6 +34,50 @@ TEST(CityTime, FormatsTimeAndDateFromDeviceTime)
         EXPECT_EQ(FormatCityTime(city, device, false, now), time.substr(0, time.size() - 3));
         EXPECT_EQ(FormatCityDate(city, device, true, now).text, date);
     }
-    EXPECT_EQ(FormatCityDate(0, {0, 0}, false, C::at(2026, 3, 14, 9, 5, 7)).text, L"14/3 Sat");
-    EXPECT_EQ(FormatCityDate(0, {0, 0}, false, C::at(2026, 3, 8, 9, 5, 7)).text, L"8/3 Sun");
+}
+
+TEST(ClockSlotText, HomeShowsTheDevicesTimeAndCitiesDropSecondsAndYear)
+{
+    // The home slot's own offset plays no part: it shows the device's time.
+    const ClockSlotText home = FormatHomeSlot(ClockSlot {470}, C::at(2026, 3, 9, 3, 4, 5, 600));
+    EXPECT_EQ(home.time + L" " + home.date, L"03:04:05 9/3/2026 Done");
+    const ClockSlotText city = FormatCitySlot(ClockSlot {0}, {5, 30}, C::at(2026, 1, 1, 4, 10, 59));
+    EXPECT_EQ(city.time + L" " + city.date, L"22:40 31/12 Wed");
+
+    EXPECT_TRUE(IsDeviceMidnight(FormatHomeSlot(ClockSlot {470}, C::at(2026, 3, 9, 0, 0, 0, 999))));
+    EXPECT_FALSE(IsDeviceMidnight(FormatHomeSlot(ClockSlot {470}, C::at(2026, 3, 9, 0, 0, 1))));
+}
+
+TEST(TwelveHourTime, ClocksRewriteTheHourAndTheMapAddsItsMark)
+{
+    // The clocks' rewrite: the 24-hour text, the twelve-hour text and its mark.
+    const std::tuple<std::wstring, std::wstring, std::wstring> cases[]
+        = {{L"00:00:00", L"12:00:00", L"AM"}, {L"11:59", L"11:59", L"AM"}, {L"12:00", L"12:00", L"PM"},
+            {L"23:59:59", L"11:59:59", L"PM"}, {L"36:00", L"36:00", L"PM"}};
+    for (const auto& [time24, time12, suffix] : cases) {
+        const TwelveHourTime t = ToTwelveHour(time24);
+        EXPECT_EQ(t.time + L"|" + t.suffix, time12 + L"|" + suffix) << time24;
+    }
+    EXPECT_EQ(ToTwelveHour(L"00:05").withSuffix(), L"12:05 AM");
+
+    // The map's rewrite: midnight and noon take their mark with no blank before it.
+    const std::pair<const wchar_t*, const wchar_t*> map[]
+        = {{L"00:00:00", L"12:00:00AM"}, {L"01:05:09", L"01:05:09 AM"}, {L"12:00:00", L"12:00:00PM"},
+            {L"13:00:00", L"01:00:00 PM"}, {L"23:59:59", L"11:59:59 PM"}};
+    for (const auto& [time24, twelve] : map)
+        EXPECT_EQ(MapTwelveHour(time24), twelve) << time24;
+}
+
+TEST(HandGeometry, ShortPiIntegerHalvingAndTruncationTowardZero)
+{
+    EXPECT_EQ(HandAngle(15), 0.0);
+    EXPECT_DOUBLE_EQ(HandAngle(45), 3.14159); // the dials' short pi, not a full-precision one
+    EXPECT_DOUBLE_EQ(HandAngle(0), -1.570795);
+
+    // A box 101 wide and high around (50, 50): the half-size is 50, not 50.5. Left and up land one pixel
+    // short of the mirror images of right and down.
+    const std::tuple<double, double, DialPoint> cases[] = {{15, 1.0, {100, 50}}, {30, 1.0, {50, 100}},
+        {45, 1.0, {1, 50}}, {0, 1.0, {50, 1}}, {7.5, 1.0, {85, 16}}, {52.5, 0.6, {30, 30}}, {37.5, 0.6, {30, 71}}};
+    for (const auto& [position, length, point] : cases)
+        EXPECT_EQ(HandPoint(position, length, 50, 50, 0, 0, 101, 101), point) << position;
 }

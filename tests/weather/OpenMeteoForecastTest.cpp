@@ -9,19 +9,6 @@
 
 namespace {
 
-std::optional<OpenMeteoForecast> read(const std::string& bytes, std::string& error)
-{
-    return OpenMeteoForecast::read(bytes, error);
-}
-
-std::vector<std::wstring> fieldsOf(const OpenMeteoForecast& forecast, int block)
-{
-    std::vector<std::wstring> fields;
-    for (int field = 0; field < ForecastTable::Fields; ++field)
-        fields.push_back(forecast.table().field(block, field));
-    return fields;
-}
-
 // The fixture's five days with the value at the JSON pointer `pointer` set to `value`.
 std::string with(const char* pointer, const nlohmann::json& value)
 {
@@ -30,55 +17,27 @@ std::string with(const char* pointer, const nlohmann::json& value)
     return response.dump();
 }
 
-// The fixture's five days without the member or element at `pointer`.
-std::string without(const char* pointer)
-{
-    const nlohmann::json::json_pointer path(pointer);
-    nlohmann::json response = OpenMeteoFixture::response(5);
-    nlohmann::json& parent = response[path.parent_pointer()];
-    if (parent.is_array())
-        parent.erase(std::stoul(path.back()));
-    else
-        parent.erase(path.back());
-    return response.dump();
-}
-
 } // namespace
-
-TEST(OpenMeteoForecast, FiveDaysFillTheFiveBlocks)
-{
-    std::string error;
-    const auto forecast = read(OpenMeteoFixture::response(5).dump(), error);
-    ASSERT_TRUE(forecast) << error;
-    EXPECT_EQ(forecast->days(), 5);
-    EXPECT_EQ(forecast->firstDate(), L"24/11/2026");
-    EXPECT_EQ(forecast->lastDate(), L"28/11/2026");
-    EXPECT_EQ(forecast->latitude(), 48.86);
-    EXPECT_EQ(forecast->longitude(), 2.34);
-    // 20.6 rounds to 21 and 12.5 away from zero to 13; 225 degrees is south-west; 17.5 km/h rounds to 18.
-    const std::vector<std::wstring> first {L"61", L"Light rain", L"18 km/h", L"SW", L"13", L"21", L"40%", L"07:42",
-        L"19/11", L"16:58", L"24/11", L"24/11"};
-    EXPECT_EQ(fieldsOf(*forecast, 0), first);
-    const std::vector<std::wstring> last {L"61", L"Light rain", L"18 km/h", L"SW", L"13", L"25", L"40%", L"07:42",
-        L"19/11", L"16:58", L"28/11", L"24/11"};
-    EXPECT_EQ(fieldsOf(*forecast, 4), last);
-}
 
 TEST(OpenMeteoForecast, DaysAreTakenUpToFiveAndTheLastGoesIntoBlockFour)
 {
-    using Case = std::tuple<int, int, std::wstring, std::wstring>; // days given, taken, last date, block 4 date
-    const Case cases[] = {{3, 3, L"26/11/2026", L"26/11"}, {7, 5, L"28/11/2026", L"28/11"}};
-    for (const auto& [given, taken, lastDate, lastDay] : cases) {
+    // The first day: 20.6 rounds to 21 and 12.5 away from zero to 13; 225 degrees is south-west; 17.5 km/h
+    // rounds to 18. The blocks before it are empty.
+    const std::wstring first = L"61^Light rain^18 km/h^SW^13^21^40%^07:42^19/11^16:58^24/11^24/11^";
+    // Days given, taken, the last date, and block 4's highest temperature (20.6 + taken - 1) and date.
+    const std::tuple<int, int, std::wstring, std::wstring, std::wstring> cases[]
+        = {{3, 3, L"26/11/2026", L"23", L"26/11"}, {5, 5, L"28/11/2026", L"25", L"28/11"},
+            {7, 5, L"28/11/2026", L"25", L"28/11"}};
+    for (const auto& [given, taken, lastDate, high, date] : cases) {
         SCOPED_TRACE(given);
         std::string error;
-        const auto forecast = read(OpenMeteoFixture::response(given, "2026-11-24").dump(), error);
+        const auto forecast = OpenMeteoForecast::read(OpenMeteoFixture::response(given).dump(), error);
         ASSERT_TRUE(forecast) << error;
-        EXPECT_EQ(forecast->days(), taken);
-        EXPECT_EQ(forecast->lastDate(), lastDate);
-        EXPECT_EQ(forecast->table().field(4, 10), lastDay);
-        EXPECT_EQ(forecast->table().field(5 - taken, 10), L"24/11");
-        for (int block = 0; block < 5 - taken; ++block)
-            EXPECT_EQ(fieldsOf(*forecast, block), std::vector<std::wstring>(12));
+        EXPECT_EQ(std::tuple(forecast->days(), forecast->firstDate(), forecast->lastDate()),
+            std::tuple(taken, std::wstring(L"24/11/2026"), lastDate));
+        EXPECT_EQ(std::tuple(forecast->latitude(), forecast->longitude()), std::tuple(48.86, 2.34));
+        EXPECT_TRUE(forecast->table().joined().starts_with(std::wstring(12 * (5 - taken), L'^') + first));
+        EXPECT_EQ(forecast->table().field(4, 5) + L" " + forecast->table().field(4, 10), high + L" " + date);
     }
 }
 
@@ -96,7 +55,7 @@ TEST(OpenMeteoForecast, CodesNullsAndUnits)
     };
     for (const auto& [response, field, text] : cases) {
         std::string error;
-        const auto forecast = read(response, error);
+        const auto forecast = OpenMeteoForecast::read(response, error);
         ASSERT_TRUE(forecast) << error;
         EXPECT_EQ(forecast->table().field(0, field), text) << response;
     }
@@ -112,10 +71,12 @@ TEST(OpenMeteoForecast, RefusesWhatIsNotADailyForecast)
         {"{\"pad\":\"" + std::string(OpenMeteoForecast::MaxBytes, ' ') + "\"}", "is larger than"},
         {R"({"error":true,"reason":"Latitude must be in range of -90 to 90\u00B0."})",
             "is an error report of the forecast service: \"Latitude must be in range of -90 to 90??...\""},
-        {without("/daily"), "has no \"daily\" object"}, {with("/daily/time", nlohmann::json::array()), "holds no days"},
+        {with("/daily", nullptr), "has no \"daily\" object"},
+        {with("/daily/time", nlohmann::json::array()), "holds no days"},
         {with("/daily/time/2", "26.11.2026"), "daily.time[2] is not a date written YYYY-MM-DD"},
         {with("/daily/time/3", "2026-11-28"), "daily.time[3] is not the day after daily.time[2]"},
-        {without("/daily/temperature_2m_max/4"), "daily.temperature_2m_max has 4 values for 5 days"},
+        {with("/daily/temperature_2m_max", {20.6, 21.6, 22.6, 23.6}),
+            "daily.temperature_2m_max has 4 values for 5 days"},
         {with("/daily/temperature_2m_max/1", "21"), "daily.temperature_2m_max[1] is not a number"},
         {with("/daily/temperature_2m_min/4", 1e300), "daily.temperature_2m_min[4] = 1e+300 lies outside -100 to 100"},
         {with("/daily/weather_code/0", 2.5), "daily.weather_code[0] is not a whole number"},
@@ -125,7 +86,7 @@ TEST(OpenMeteoForecast, RefusesWhatIsNotADailyForecast)
             "gives daily_units.wind_speed_10m_max as \"furlongs\", not km/h"}};
     for (const auto& [bytes, problem] : cases) {
         std::string error;
-        EXPECT_FALSE(read(bytes, error)) << problem;
+        EXPECT_FALSE(OpenMeteoForecast::read(bytes, error)) << problem;
         EXPECT_EQ(error.substr(0, problem.size()), problem);
     }
 }
