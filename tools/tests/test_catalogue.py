@@ -39,7 +39,3 @@ class CatalogueFileTest(unittest.TestCase):
     def test_order_keeps_the_first_of_equal_keys(self):
         first, second = entry("Paris", zone="Europe/Paris"), entry("Paris", zone="America/Chicago")
         self.assertEqual(catalogue_order([first, entry("Oslo"), second]), ["Oslo:Testland", "Paris:Testland"])
-
-
-if __name__ == "__main__":
-    unittest.main()
