@@ -8,8 +8,8 @@ def entry(city, country="Testland", zone="Etc/UTC"):
     return CatalogueEntry(zone, city, country, "1.00", "-2.00", "0", ("0",) * 5)
 
 
-class FieldReaderTest(unittest.TestCase):
-    def test_reads_like_the_device(self):
+class CatalogueFileTest(unittest.TestCase):
+    def test_field_reader_reads_like_the_device(self):
         # A delimiter at the start of a field is skipped, so an empty field merges with the next.
         cases = [(b"a;b;c", ["a", "b", "c"]), (b"a;;c;d", ["a", "c", "d", ""]), (b";x;y", ["x", "y", ""]),
                  (b"end", ["end", "", ""])]
@@ -18,8 +18,6 @@ class FieldReaderTest(unittest.TestCase):
                 reader = FieldReader(data)
                 self.assertEqual([reader.field(b";") for _ in fields], fields)
 
-
-class CatalogueFileTest(unittest.TestCase):
     def test_written_file_reads_back_in_byte_order(self):
         entries = [entry("Zurich"), entry("aachen"), entry("Abu Dhabi", "United Arab Emirates"), entry("Abu")]
         data = catalogue_bytes(entries, "header text")

