@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "currency/CurrencyConversion.h"
 
+#include "currency/CurrencyList.h"
 #include "store/CurrencyStore.h"
 
 #include <gtest/gtest.h>
@@ -47,18 +48,34 @@ TEST(CurrencyConversion, RateLinesShareTheEqualsSign)
     EXPECT_EQ(LastUpdateText(May17th2024, 2024), L"Last update: 17/5/2024 ");
 }
 
-TEST(CurrencyConversion, ChosenCurrenciesComeFromTheStore)
+TEST(CurrencyConversion, ChosenCurrenciesAndTheSelectListComeFromTheStore)
 {
     auto objects = ObjectStore::openInMemory();
     CurrencyStore store(*objects);
-    // A file promising three currencies but holding two: the third is stored empty, with no rate.
+    // A file promising three currencies but holding two: the third is stored empty, with no rate, and its
+    // name being empty it comes first. Positions: 0 the empty one, 1 Euro, 2 US Dollar.
     store.SetInitialList(ParseInitialCurrencies("3\nUSD_US Dollar_1#EUR_Euro_1.25 per#"));
     store.Load();
-    // Name order: the empty one, Euro, US Dollar; a position past the end reads as empty texts too.
+    ASSERT_EQ(store.RecordCount(), 3);
+    // A position past the end reads as empty texts too.
     const std::tuple<std::uint32_t, std::wstring, std::wstring, double> cases[] = {{0, L"", L" - ", 0.0},
         {1, L"EUR", L"EUR - Euro", 1.25}, {2, L"USD", L"USD - US Dollar", 1.0}, {3, L"", L" - ", 0.0}};
     for (const auto& [position, code, label, rate] : cases) {
         const ConverterCurrency currency = ReadConverterCurrency(store, position);
         EXPECT_EQ(std::tie(currency.code, currency.label, currency.rate), std::tie(code, label, rate));
     }
+
+    // The Select list leaves out the empty one: Euro, US Dollar. Position, its list index, and the position
+    // that index maps back to: the empty currency maps to the entry after it, and past the end index and
+    // position stay one apart as the positions are.
+    const std::tuple<std::uint32_t, int, std::uint32_t> indices[] = {{1, 0, 1}, {2, 1, 2}, {0, 0, 1}, {5, 4, 5}};
+    for (const auto& [position, index, back] : indices) {
+        EXPECT_EQ(CurrencyListIndex(store, position), index) << position;
+        EXPECT_EQ(CurrencyPosition(store, index), back) << index;
+    }
+    // Nothing selected reads as no currency.
+    EXPECT_EQ(store.Code(CurrencyPosition(store, -1)), L"");
+    EXPECT_TRUE(IsListedCurrency(L"", L"Name"));
+    EXPECT_TRUE(IsListedCurrency(L"ABC", L""));
+    EXPECT_FALSE(IsListedCurrency(L"", L""));
 }
