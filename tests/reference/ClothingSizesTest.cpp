@@ -55,11 +55,10 @@ TEST(ClothingSizes, EveryTableNamesItsRegionsInOrderUnderItsOwnTitle)
 // column, size in row `to` = size in row `from` x factor + offset.
 TEST(ClothingSizes, RowsFollowTheRulesBetweenSizeSystems)
 {
-    // Wearer, garment, from row, to row, factor, offset, in this order: men's shirts: UK and US collar sizes
-    // agree, and Japan uses the European centimetres; men's shoes: UK = US - 1; men's suits: Europe = US
-    // chest + 10; men's trousers: Europe = US waist + 16, Japan = Europe; bras: Europe = France - 15,
-    // international = France - 20; women's blouses: Europe = US + 28, Japan = US - 1; women's shoes: UK = US
-    // - 1.5, Europe = US + 31; women's trousers: UK = US + 2; children's clothing: Japan = Europe + 50;
+    // Wearer, garment, from row, to row, factor, offset. Men's shirts: UK = US collar, Japan = Europe (cm);
+    // shoes: UK = US - 1; suits: Europe = US chest + 10; trousers: Europe = US waist + 16, Japan = Europe.
+    // Bras: Europe = France - 15, INTL = France - 20; women's blouses: Europe = US + 28, Japan = US - 1; shoes:
+    // UK = US - 1.5, Europe = US + 31; trousers: UK = US + 2. Children's clothing: Japan = Europe + 50;
     // children's trousers: Japan = 5 x US + 80.
     const std::tuple<int, int, int, int, double, double> rules[]
         = {{0, 0, 0, 2, 1, 0}, {0, 0, 1, 3, 1, 0}, {0, 1, 0, 2, 1, -1}, {0, 2, 0, 1, 1, 10}, {0, 3, 0, 1, 1, 16},

@@ -19,11 +19,6 @@ namespace {
 using DialingCodes::AreaCode;
 using DialingCodes::Country;
 
-std::string Trimmed(std::wstring_view text)
-{
-    return WideToUtf8(text.substr(0, text.find_last_not_of(L' ') + 1));
-}
-
 // The rows of the snapshot written by tools/dialing: row, country, iso, code, capital, zone, gmt.
 std::vector<std::vector<std::string>> SnapshotRows()
 {
@@ -57,7 +52,7 @@ TEST(DialingCodes, InternationalRowsMatchTheirSources)
     for (std::size_t i = 0; i < rows.size(); ++i) {
         const auto& source = sources[i];
         ASSERT_EQ(source.size(), 7u) << "snapshot row " << i;
-        const std::string country = Trimmed(rows[i].country);
+        const std::string country = WideToUtf8(rows[i].country.substr(0, rows[i].country.find_last_not_of(L' ') + 1));
         SCOPED_TRACE(country);
         EXPECT_EQ(source[0], std::to_string(i));
         EXPECT_EQ(source[1], country);

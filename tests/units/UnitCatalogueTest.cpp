@@ -24,23 +24,18 @@ struct BuiltCatalogue
 
 TEST(UnitCatalogue, AStoreWithAnyUnitIsNotRefilled)
 {
-    const auto store = ObjectStore::openInMemory();
-    PropertyDatabase database(*store);
-    const PropertyId ids[] = {301, 302, 303};
-    database.Create(L"wdkConverters", 56789, 3, ids, 0);
-    ASSERT_TRUE(database.Open(L"wdkConverters"));
-    const Property unit[] = {{301, L"3"}, {302, L"furlong/fortnight"}, {303, L"0.000166"}};
-    ASSERT_TRUE(database.Add(unit, PropertyDatabase::NoKey));
+    BuiltCatalogue built;
+    UnitCatalogue& catalogue = built.catalogue;
+    while (catalogue.RecordCount() > 1)
+        ASSERT_TRUE(catalogue.DeleteUnitAt(1));
+    EXPECT_TRUE(catalogue.UpdateUnitAt(0, L"3", L"furlong/fortnight", L"0.000166"));
+    EXPECT_FALSE(catalogue.UpdateUnitAt(1, L"1", L"Rod", L"5.0292"));
+    EXPECT_EQ(catalogue.Category(0) + catalogue.Name(0) + catalogue.Factor(0), L"3furlong/fortnight0.000166");
 
-    UnitCatalogue catalogue(*store);
     catalogue.Build();
-    UnitCatalogue(*store).Build(); // by another accessor too
+    UnitCatalogue(*built.store).Build(); // by another accessor too
     EXPECT_EQ(catalogue.RecordCount(), 1);
     EXPECT_EQ(UnitLists::Read(catalogue).Names(3), std::vector<std::wstring> {L"furlong/fortnight"});
-
-    EXPECT_TRUE(catalogue.UpdateUnitAt(0, L"1", L"Rod", L"5.0292"));
-    EXPECT_EQ(catalogue.Category(0) + catalogue.Name(0) + catalogue.Factor(0), L"1Rod5.0292");
-    EXPECT_FALSE(catalogue.UpdateUnitAt(1, L"1", L"Rod", L"5.0292"));
 }
 
 TEST(UnitCatalogue, BuildWritesEveryUnitAndTheListsReadItByCategoryRuns)

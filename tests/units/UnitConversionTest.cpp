@@ -39,7 +39,7 @@ constexpr int Temperatures = 4;
 
 } // namespace
 
-TEST(UnitConversion, ConvertsByFactorTexts)
+TEST(UnitConversion, ConvertsByFactorTextsEvenWhenMissing)
 {
     const UnitLists lists = builtLists();
     // Category, amount, from, to, and the result worked out by hand.
@@ -66,6 +66,14 @@ TEST(UnitConversion, ConvertsByFactorTexts)
     for (const auto& [amount, expected] : amounts)
         EXPECT_EQ(convert(lists, 1, L"m - Meter", L"m - Meter", amount).text, expected) << WideToUtf8(amount);
     EXPECT_EQ(UnitConversion::AmountText(std::wstring(60, L'9')).size(), 49u);
+
+    // Missing units: a known "from" over a missing "to" divides by zero, and a temperature unit outside the
+    // five applies no formula. With no lists at all both factors are 0: 1 × 0 ÷ 0 is printed as it comes.
+    EXPECT_EQ(Convert(lists, 1, 0, 99, L"1").text, L"inf");
+    EXPECT_EQ(Convert(lists, Temperatures, -1, 0, L"300").text, L"26.850000");
+    const Result nan = Convert(UnitLists {}, 2, -1, -1, L"1");
+    EXPECT_FALSE(nan.belowAbsoluteZero);
+    EXPECT_NE(nan.text.find(L"nan"), std::wstring::npos) << WideToUtf8(nan.text);
 }
 
 TEST(UnitConversion, ConvertsEveryPairOfTemperaturesAndStopsBelowAbsoluteZero)
@@ -91,18 +99,4 @@ TEST(UnitConversion, ConvertsEveryPairOfTemperaturesAndStopsBelowAbsoluteZero)
     // Absolute zero itself converts; 0 K is -273.15 °C.
     EXPECT_EQ(Convert(lists, Temperatures, 0, 4, L"-273.15").text, L"0.000000");
     EXPECT_EQ(Convert(lists, Temperatures, 4, 0, L"0").text, L"-273.150000");
-}
-
-TEST(UnitConversion, MissingUnitsConvertWithEmptyFactors)
-{
-    const UnitLists empty;
-    // Empty factors are 0: 1 × 0 ÷ 0 is not a number, printed as it comes.
-    const Result result = Convert(empty, 2, -1, -1, L"1");
-    EXPECT_FALSE(result.belowAbsoluteZero);
-    EXPECT_NE(result.text.find(L"nan"), std::wstring::npos) << WideToUtf8(result.text);
-    // A known "from" over a missing "to" divides by zero.
-    const UnitLists lists = builtLists();
-    EXPECT_EQ(Convert(lists, 1, 0, 99, L"1").text, L"inf");
-    // A temperature unit outside the five applies no formula.
-    EXPECT_EQ(Convert(lists, Temperatures, -1, 0, L"300").text, L"26.850000");
 }

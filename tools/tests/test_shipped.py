@@ -39,7 +39,6 @@ class TextFilesTest(unittest.TestCase):
             self.assertEqual(len(fields), 11, line)
             self.assertTrue(all(fields), f"empty field in {line}")
             self.assertFalse(any(":" in f for f in fields[1:3]), line)
-        self.assertEqual(len({e.key for e in self.entries}), len(self.entries))
 
     # Every kind of zone that a city of 100,000 people or more used in 2026 (GeoNames populations,
     # tzdata 2026f), as standard offset text, "+" when it observes daylight saving. Read off by hand:
