@@ -28,9 +28,8 @@ TEST(CurrencyConversion, FieldTextsShowEightDecimalsAsPrintfPrints)
 
 TEST(CurrencyConversion, RateLinesShareTheEqualsSign)
 {
-    const ConverterCurrency euro {L"EUR", L"EUR - Euro", 1.1};
-    const ConverterCurrency dollar {L"USD", L"USD - US Dollar", 1.0};
-    const ConverterCurrency pound {L"GBP", L"GBP - British Pound", 1.25};
+    const ConverterCurrency euro {L"EUR", L"EUR - Euro", 1.1}, dollar {L"USD", L"USD - US Dollar", 1.0},
+        pound {L"GBP", L"GBP - British Pound", 1.25};
     // 1.1 / 1 and 1.1 / 1.25 = 0.88, with printf's six decimals of "%f".
     EXPECT_EQ(FirstRateLine(euro, dollar), L"1 EUR = 1.100000 USD");
     EXPECT_EQ(SecondRateLine(euro, pound), L"= 0.880000 GBP");
@@ -75,7 +74,6 @@ TEST(CurrencyConversion, ChosenCurrenciesAndTheSelectListComeFromTheStore)
     }
     // Nothing selected reads as no currency.
     EXPECT_EQ(store.Code(CurrencyPosition(store, -1)), L"");
-    EXPECT_TRUE(IsListedCurrency(L"", L"Name"));
-    EXPECT_TRUE(IsListedCurrency(L"ABC", L""));
-    EXPECT_FALSE(IsListedCurrency(L"", L""));
+    EXPECT_EQ(std::tuple(IsListedCurrency(L"", L"Name"), IsListedCurrency(L"ABC", L""), IsListedCurrency(L"", L"")),
+        std::tuple(true, true, false));
 }

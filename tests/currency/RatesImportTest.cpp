@@ -32,8 +32,7 @@ TEST(RatesImport, DollarRatesAreTheQuotientOfThePublishedRates)
 TEST(RatesImport, StampsAndAFailedWrite)
 {
     EXPECT_EQ(RatesImport::fileTimeOf(1601y / 1 / 1), 0u);
-    // The Unix epoch as a FILETIME.
-    EXPECT_EQ(RatesImport::fileTimeOf(1970y / 1 / 1), 116444736000000000ULL);
+    EXPECT_EQ(RatesImport::fileTimeOf(1970y / 1 / 1), 116444736000000000ULL); // the Unix epoch as a FILETIME
     // Every day the ECB may date reads back as itself, at midnight.
     for (std::chrono::sys_days day = std::chrono::sys_days {1999y / 1 / 1};
          day <= std::chrono::sys_days {2030y / 12 / 31}; day += std::chrono::days {1}) {

@@ -24,14 +24,9 @@ class CurrencyFileTest(unittest.TestCase):
         self.assertEqual([r[0] for r in currency_order(rows)], ["aaa", "ZZZ"])
 
     def test_problems_are_reported(self):
-        cases = [
-            ([("EUR", "Euro", "1"), ("EUX", "EURO", "1")], "names repeat"),
-            ([("EUR", "Eu_ro", "1")], "separator"),
-            ([("EUR", "Euro", "1e-05")], "plain positive rate"),
-            ([("EUR", "Euro", "0")], "plain positive rate"),
-            ([("EUR", "Euro", "1")], "instead of 189"),
-            ([("EUR", "Euro", "1")], "USD is at position None"),
-        ]
+        cases = [([("EUR", "Euro", "1"), ("EUX", "EURO", "1")], "names repeat"), ([("EUR", "Eu_ro", "1")], "separator"),
+                 ([("EUR", "Euro", "1e-05")], "plain positive rate"), ([("EUR", "Euro", "0")], "plain positive rate"),
+                 ([("EUR", "Euro", "1")], "instead of 189"), ([("EUR", "Euro", "1")], "USD is at position None")]
         for rows, message in cases:
             with self.subTest(message=message):
                 self.assertTrue(any(message in p for p in check_currencies(rows)), check_currencies(rows))

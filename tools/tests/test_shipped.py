@@ -35,10 +35,8 @@ class TextFilesTest(unittest.TestCase):
         lines = self.data.decode("ascii").split("\n")
         self.assertEqual(int(lines[1]), len(lines) - 3)
         for line in lines[2:-1]:
-            fields = line.split(";")
-            self.assertEqual(len(fields), 11, line)
-            self.assertTrue(all(fields), f"empty field in {line}")
-            self.assertFalse(any(":" in f for f in fields[1:3]), line)
+            fields = line.split(";")  # eleven, none empty, no ":" in the city or the country
+            self.assertTrue(len(fields) == 11 and all(fields) and ":" not in fields[1] + fields[2], line)
 
     # Every kind of zone that a city of 100,000 people or more used in 2026 (GeoNames populations,
     # tzdata 2026f), as standard offset text, "+" when it observes daylight saving. Read off by hand:
@@ -106,4 +104,3 @@ def jpeg_size(data):
             height, width = struct.unpack(">HH", data[pos + 5:pos + 9])
             return width, height
         pos += 2 + length
-    return None

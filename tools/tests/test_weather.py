@@ -17,11 +17,9 @@ class WeatherFilesTest(unittest.TestCase):
 
     def test_a_name_inside_another_comes_first(self):
         # The dialog finds a city by searching the list's text for its name: each must be found on its own line.
-        cases = [
-            (["New York", "York", "Yorkton"], ["York", "New York", "Yorkton"]),
-            (["San Jose", "Jose", "Alajuela"], ["Alajuela", "Jose", "San Jose"]),
-            (["Lima", "Lim", "Limassol"], ["Lim", "Lima", "Limassol"]),
-        ]
+        cases = [(["New York", "York", "Yorkton"], ["York", "New York", "Yorkton"]),
+                 (["San Jose", "Jose", "Alajuela"], ["Alajuela", "Jose", "San Jose"]),
+                 (["Lima", "Lim", "Limassol"], ["Lim", "Lima", "Limassol"])]
         for names, expected in cases:
             with self.subTest(names=names):
                 self.assertEqual(order_for_lookup(names), expected)
