@@ -6,42 +6,15 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
 #include <tuple>
 
-namespace {
-
 using namespace std::chrono_literals;
-
-// A store of five currencies in US dollars per unit, as the shipped list keeps them.
-std::unique_ptr<CurrencyStore> storeOf(ObjectStore& objects)
-{
-    InitialCurrencyList list;
-    list.fromFile = true;
-    list.entries = {{L"USD", L"US Dollar", L"1"}, {L"EUR", L"Euro", L"1.08"}, {L"JPY", L"Japanese Yen", L"0.0064"},
-        {L"GBP", L"British Pound", L"1.27"}, {L"CHF", L"Swiss Franc", L"1.1"}};
-    list.count = 5;
-    auto store = std::make_unique<CurrencyStore>(objects);
-    store->SetInitialList(list);
-    store->Load();
-    return store;
-}
-
-std::map<std::wstring, std::wstring> ratesOf(CurrencyStore& store)
-{
-    std::map<std::wstring, std::wstring> rates;
-    for (std::uint32_t i = 0; i < store.RecordCount(); ++i)
-        rates[store.Code(i) + L" " + store.Name(i)] = store.RateText(i);
-    return rates;
-}
-
-} // namespace
 
 TEST(RatesImport, DollarRatesAreTheQuotientOfThePublishedRates)
 {
     // Dollars per euro, units per euro, dollars per unit; the quotients are exact in binary.
-    const std::tuple<double, double, std::wstring> cases[] = {{1.0859, 1.0859, L"1"}, {1.0859, 1, L"1.0859"},
-        {1.1, 2.2, L"0.5"}, {1.25, 160, L"0.0078125"}, {1.25, 0.8, L"1.5625"}};
+    const std::tuple<double, double, std::wstring> cases[]
+        = {{1.0859, 1.0859, L"1"}, {1.0859, 1, L"1.0859"}, {1.25, 160, L"0.0078125"}, {1.25, 0.8, L"1.5625"}};
     for (const auto& [dollars, units, expected] : cases)
         EXPECT_EQ(RatesImport::dollarRateText(dollars, units), expected);
 
@@ -59,8 +32,7 @@ TEST(RatesImport, DollarRatesAreTheQuotientOfThePublishedRates)
 TEST(RatesImport, StampsAndAFailedWrite)
 {
     EXPECT_EQ(RatesImport::fileTimeOf(1601y / 1 / 1), 0u);
-    // The Unix epoch as a FILETIME.
-    EXPECT_EQ(RatesImport::fileTimeOf(1970y / 1 / 1), 116444736000000000ULL);
+    EXPECT_EQ(RatesImport::fileTimeOf(1970y / 1 / 1), 116444736000000000ULL); // the Unix epoch as a FILETIME
     // Every day the ECB may date reads back as itself, at midnight.
     for (std::chrono::sys_days day = std::chrono::sys_days {1999y / 1 / 1};
          day <= std::chrono::sys_days {2030y / 12 / 31}; day += std::chrono::days {1}) {
@@ -73,14 +45,15 @@ TEST(RatesImport, StampsAndAFailedWrite)
         ASSERT_EQ(read->hour + read->minute + read->second + read->milliseconds, 0);
     }
 
-    // A failed write leaves the store as it was.
+    // A failed write leaves the store as it was: the dollar's update, written first, is rolled back.
     auto objects = ObjectStore::openInMemory();
-    auto store = storeOf(*objects);
-    const auto before = ratesOf(*store);
+    CurrencyStore store(*objects);
+    store.SetInitialList(ParseInitialCurrencies("1\nUSD_US Dollar_1#"));
+    store.Load();
     RatesImport::Plan plan;
     plan.updates = {{L"USD", L"US Dollar", L"2"}, {L"XXX", L"Nowhere Dollar", L"3"}};
     plan.stamp = RatesImport::fileTimeOf(2024y / 5 / 17);
-    EXPECT_FALSE(RatesImport::apply(*objects, *store, plan));
-    EXPECT_EQ(ratesOf(*store), before);
-    EXPECT_EQ(store->LastUpdate(), 0u);
+    EXPECT_FALSE(RatesImport::apply(*objects, store, plan));
+    EXPECT_EQ(store.RateText(0), L"1");
+    EXPECT_EQ(store.LastUpdate(), 0u);
 }

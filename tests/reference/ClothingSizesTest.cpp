@@ -24,15 +24,6 @@ std::vector<double> Sizes(std::wstring_view row)
 
 } // namespace
 
-// The wearers' and garments' names are listed by the sizes command's refusals.
-TEST(ClothingSizes, NoTableOutsideTheLists)
-{
-    EXPECT_TRUE(ClothingSizes::Garments(-1).empty() && ClothingSizes::Garments(3).empty());
-    const std::pair<int, int> outside[] = {{-1, 0}, {3, 0}, {0, -1}, {0, 4}, {1, 5}, {2, 3}};
-    for (const auto& [wearer, garment] : outside)
-        EXPECT_EQ(ClothingSizes::Find(wearer, garment), nullptr) << wearer << ", " << garment;
-}
-
 TEST(ClothingSizes, EveryTableNamesItsRegionsInOrderUnderItsOwnTitle)
 {
     // Rows compare USA, Europe, the UK (France for bras) and Japan (international sizes for bras).
@@ -52,30 +43,27 @@ TEST(ClothingSizes, EveryTableNamesItsRegionsInOrderUnderItsOwnTitle)
     EXPECT_EQ(titles.size(), 12u);
     // Women's blouses reuse the UK line of men's suits, as the printed chart does.
     EXPECT_EQ(ClothingSizes::Find(1, 2)->rows[2], ClothingSizes::Find(0, 2)->rows[2]);
+
+    // No table outside the lists (the sizes command lists the wearers' and garments' names when refusing).
+    EXPECT_TRUE(ClothingSizes::Garments(-1).empty() && ClothingSizes::Garments(3).empty());
+    const std::pair<int, int> outside[] = {{-1, 0}, {3, 0}, {0, -1}, {0, 4}, {1, 5}, {2, 3}};
+    for (const auto& [wearer, garment] : outside)
+        EXPECT_EQ(ClothingSizes::Find(wearer, garment), nullptr) << wearer << ", " << garment;
 }
 
 // Size systems that follow each other by a rule, so a slipped or mistyped size breaks the rule: in every
 // column, size in row `to` = size in row `from` x factor + offset.
 TEST(ClothingSizes, RowsFollowTheRulesBetweenSizeSystems)
 {
-    // Wearer, garment, from row, to row, factor, offset.
-    const std::tuple<int, int, int, int, double, double> rules[] = {
-        {0, 0, 0, 2, 1, 0}, // men's shirts: UK and US collar sizes agree,
-        {0, 0, 1, 3, 1, 0}, // and Japan uses the European centimetres
-        {0, 1, 0, 2, 1, -1}, // men's shoes: UK = US - 1
-        {0, 2, 0, 1, 1, 10}, // men's suits: Europe = US chest + 10
-        {0, 3, 0, 1, 1, 16}, // men's trousers: Europe = US waist + 16,
-        {0, 3, 1, 3, 1, 0}, // Japan = Europe
-        {1, 0, 2, 1, 1, -15}, // bras: Europe = France - 15,
-        {1, 0, 2, 3, 1, -20}, // international = France - 20
-        {1, 2, 0, 1, 1, 28}, // women's blouses: Europe = US + 28,
-        {1, 2, 0, 3, 1, -1}, // Japan = US - 1
-        {1, 3, 0, 2, 1, -1.5}, // women's shoes: UK = US - 1.5,
-        {1, 3, 0, 1, 1, 31}, // Europe = US + 31
-        {1, 4, 0, 2, 1, 2}, // women's trousers: UK = US + 2
-        {2, 0, 1, 3, 1, 50}, // children's clothing: Japan = Europe + 50
-        {2, 2, 0, 3, 5, 80}, // children's trousers: Japan = 5 x US + 80
-    };
+    // Wearer, garment, from row, to row, factor, offset. Men's shirts: UK = US collar, Japan = Europe (cm);
+    // shoes: UK = US - 1; suits: Europe = US chest + 10; trousers: Europe = US waist + 16, Japan = Europe.
+    // Bras: Europe = France - 15, INTL = France - 20; women's blouses: Europe = US + 28, Japan = US - 1; shoes:
+    // UK = US - 1.5, Europe = US + 31; trousers: UK = US + 2. Children's clothing: Japan = Europe + 50;
+    // children's trousers: Japan = 5 x US + 80.
+    const std::tuple<int, int, int, int, double, double> rules[]
+        = {{0, 0, 0, 2, 1, 0}, {0, 0, 1, 3, 1, 0}, {0, 1, 0, 2, 1, -1}, {0, 2, 0, 1, 1, 10}, {0, 3, 0, 1, 1, 16},
+            {0, 3, 1, 3, 1, 0}, {1, 0, 2, 1, 1, -15}, {1, 0, 2, 3, 1, -20}, {1, 2, 0, 1, 1, 28}, {1, 2, 0, 3, 1, -1},
+            {1, 3, 0, 2, 1, -1.5}, {1, 3, 0, 1, 1, 31}, {1, 4, 0, 2, 1, 2}, {2, 0, 1, 3, 1, 50}, {2, 2, 0, 3, 5, 80}};
     for (const auto& [wearer, garment, from, to, factor, offset] : rules) {
         const ClothingSizes::Table* table = ClothingSizes::Find(wearer, garment);
         const std::vector<double> given = Sizes(table->rows[static_cast<std::size_t>(from)]);
@@ -89,17 +77,12 @@ TEST(ClothingSizes, RowsFollowTheRulesBetweenSizeSystems)
 
 TEST(ClothingSizes, ShiftHidesTenMoreLeadingCharactersEachStep)
 {
+    // Steps outside 0..2 are held at the nearest end; a row shorter than the hidden part shows nothing.
     const std::wstring_view shirts = ClothingSizes::Find(0, 0)->rows[0];
     const std::wstring_view japan = ClothingSizes::Find(0, 2)->rows[3];
-    const std::tuple<std::wstring_view, int, std::wstring_view> cases[] = {
-        {shirts, 0, shirts},
-        {shirts, 1, L"14  14.5   15   15.5   16  16.5  17  17.5"},
-        // Steps outside 0..2 are held at the nearest end.
-        {japan, -1, japan},
-        {japan, 3, L" 34/S   38/M  40/L  44/LL"},
-        // A row shorter than the hidden part shows nothing.
-        {L"UK  12", 1, L""},
-    };
+    const std::tuple<std::wstring_view, int, std::wstring_view> cases[]
+        = {{shirts, 0, shirts}, {shirts, 1, L"14  14.5   15   15.5   16  16.5  17  17.5"}, {japan, -1, japan},
+            {japan, 3, L" 34/S   38/M  40/L  44/LL"}, {L"UK  12", 1, L""}};
     for (const auto& [row, shift, shown] : cases)
         EXPECT_EQ(ClothingSizes::Shifted(row, shift), shown) << "shift " << shift;
 }
