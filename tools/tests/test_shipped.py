@@ -5,7 +5,7 @@ import unittest
 
 from wkdata import paths
 from wkdata.catalogue import read_catalogue
-from wkdata.checks import country_list_problems, read_currencies, rule_matches_tzdata
+from wkdata.checks import country_list_problems, mapping_problems, read_currencies, rule_matches_tzdata
 from wkdata.countries import SOVEREIGN, load_country_names
 from wkdata.currencies import check_currencies
 from wkdata.zonerule import tzdata_version
@@ -70,6 +70,9 @@ class TextFilesTest(unittest.TestCase):
             country, city, code = line.split(";")
             self.assertIn(f"{city};{code}\n", read(f"weatcs/{country}").decode("ascii"))
         self.assertLessEqual({"London", "New York", "Paris", "Tokyo"}, {line.split(";")[1] for line in lines[1:-1]})
+
+    def test_every_icon_code_resolves_to_its_own_icon(self):
+        self.assertEqual(mapping_problems(read("mapping.cfg"), DEVICE / "wiconset"), [])
 
     def test_189_priced_currencies_with_distinct_names(self):
         rows = read_currencies(read("currs.lst"))
