@@ -32,41 +32,6 @@ CommandResult citiesIn(const fs::path& state)
     return CommandResult::of("cities", {}, options);
 }
 
-// A child process holding a write lock on the whole of `file` until it is ended.
-class LockHolder
-{
-public:
-    explicit LockHolder(const fs::path& file)
-    {
-        int ready[2];
-        EXPECT_EQ(::pipe(ready), 0);
-        m_pid = ::fork();
-        if (m_pid == 0) {
-            const int fd = ::open(file.c_str(), O_RDWR);
-            struct flock lock = {};
-            lock.l_type = F_WRLCK;
-            lock.l_whence = SEEK_SET;
-            ::fcntl(fd, F_SETLK, &lock);
-            (void)!::write(ready[1], "l", 1);
-            ::pause();
-            ::_exit(0);
-        }
-        char byte = 0;
-        EXPECT_EQ(::read(ready[0], &byte, 1), 1);
-        ::close(ready[0]);
-        ::close(ready[1]);
-    }
-    ~LockHolder()
-    {
-        ::kill(m_pid, SIGKILL);
-        ::waitpid(m_pid, nullptr, 0);
-    }
-    pid_t pid() const { return m_pid; }
-
-private:
-    pid_t m_pid = -1;
-};
-
 } // namespace
 
 // A new folder and every file in it are private; the files of an existing folder are made so.
@@ -109,10 +74,26 @@ TEST(StateFolder, RefusesStateFilesThatAreNotRegularFilesOfTheUsers)
     // The program that holds a lock on a state file is named.
     TempDir state;
     const fs::path file = state.write("registry.db", "");
-    LockHolder holder(file);
-    EXPECT_EQ(StateFolder::openFailure(file),
+    int ready[2];
+    ASSERT_EQ(::pipe(ready), 0);
+    const pid_t holder = ::fork();
+    if (holder == 0) {
+        struct flock lock = {};
+        lock.l_type = F_WRLCK;
+        ::fcntl(::open(file.c_str(), O_RDWR), F_SETLK, &lock);
+        (void)!::write(ready[1], "l", 1);
+        ::pause();
+    }
+    char byte = 0;
+    EXPECT_EQ(::read(ready[0], &byte, 1), 1);
+    const std::string failure = StateFolder::openFailure(file);
+    ::kill(holder, SIGKILL);
+    ::waitpid(holder, nullptr, 0);
+    EXPECT_EQ(failure,
         "Cannot use the state file " + file.string() + ": it is locked by another program (process "
-            + std::to_string(holder.pid()) + ")");
+            + std::to_string(holder) + ")");
+    for (const int fd : ready)
+        ::close(fd);
 }
 
 TEST(StateFolder, RefusesAFolderOfAnotherUserEvenThroughALink)

@@ -31,8 +31,7 @@ TEST(SettingsTable, DefaultsAndWriteBack)
             {"clock2, value deleted: default, not written", Settings::Clock2, Before::KeyOnly, 756, std::nullopt},
             {"clock3 present", Settings::Clock3, Before::Stored, 5, 5},
             {"curp2, value missing: written", Settings::Currency2, Before::KeyOnly, 180, 180},
-            {"showcs: default, never written", Settings::ShowCities, Before::FreshDevice, 1, std::nullopt},
-            {"wetp", Settings::WeatherPosition, Before::KeyOnly, 0, std::nullopt}};
+            {"showcs: default, never written", Settings::ShowCities, Before::FreshDevice, 1, std::nullopt}};
     for (const auto& [what, setting, before, read, storedAfter] : cases) {
         SCOPED_TRACE(what);
         auto hive = hiveWith(before, setting.subkey, setting.name);
@@ -48,7 +47,6 @@ TEST(SettingsTable, DefaultsAndWriteBack)
     auto hive = SettingsHive::openInMemory();
     RegistrySettings settings(*hive);
     EXPECT_EQ(ReadSetting(settings, Settings::IconFolder), L"\\wiconset\\");
-    EXPECT_EQ(ReadSetting(settings, Settings::CurrencyAmount), L"");
     EXPECT_FALSE(hive->value(Settings::IconFolder.subkey, Settings::IconFolder.name));
 
     WriteSetting(settings, Settings::MeasureValue, L"3.5");

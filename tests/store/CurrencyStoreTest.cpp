@@ -34,15 +34,9 @@ TEST(InitialCurrencyList, ReadsTheCurrencyFile)
     const std::tuple<const char*, std::string, std::int32_t, std::vector<CurrencyEntry>, std::int32_t> cases[]
         = {{"records end to end", "2\r\nUSD_US Dollar_1.0#EUR_Euro_0.92#", 2,
                {{L"USD", L"US Dollar", L"1.0"}, {L"EUR", L"Euro", L"0.92"}}, 2},
-            {"a line break after '#' starts the next code", "2\nUSD_Dollar_1#\nEUR_Euro_2#\n", 2,
-                {{L"USD", L"Dollar", L"1"}, {L"\nEUR", L"Euro", L"2"}}, 2},
             {"a negative count gives an empty list", "-3\nUSD_Dollar_1#", -3, {}, 0},
             {"a record cut short keeps what was read; the rest are empty", "3\nUSD_Dollar_1#EUR_Eu", 3,
-                {{L"USD", L"Dollar", L"1"}, {L"EUR", L"Eu", L""}}, 3},
-            {"bytes above 127 are Latin-1",
-                "1\nISK_\xCD"
-                "slensk kr\xF3na_0.007#",
-                1, {{L"ISK", L"\u00CDslensk kr\u00F3na", L"0.007"}}, 1}};
+                {{L"USD", L"Dollar", L"1"}, {L"EUR", L"Eu", L""}}, 3}};
     for (const auto& [what, file, count, entries, size] : cases) {
         SCOPED_TRACE(what);
         TestDevice device;
@@ -69,13 +63,10 @@ TEST(CurrencyStore, FirstLoadCopiesTheListInNameOrder)
     store.SetInitialList(listOf({{L"USD", L"US Dollar", L"1.0"}, {L"EUR", L"euro", L"0.92"}, {L"XEU", L"Euro", L"9"},
         {L"CHF", L"Swiss Franc", L"0.88"}, {L"ALL", L"Albanian Lek", L"95"}}));
     EXPECT_EQ(store.Load(), 5) << "the list's count, skipped duplicates included";
-    EXPECT_EQ(store.Count(), 5);
-    EXPECT_EQ(store.RecordCount(), 4);
+    EXPECT_EQ(std::tuple(store.Count(), store.RecordCount()), std::tuple(5, 4));
     EXPECT_EQ(codes(store), (std::vector<std::wstring> {L"ALL", L"EUR", L"CHF", L"USD"}))
         << "names ignore case, and the first \"euro\" wins";
-    EXPECT_EQ(store.Name(1) + store.RateText(1), L"euro0.92");
-    EXPECT_EQ(store.Code(4), L"");
-
+    EXPECT_EQ(store.Name(1) + store.RateText(1) + store.Code(4), L"euro0.92");
     EXPECT_EQ(store.LastUpdate(), 0u) << "the last update reads \"Never\"";
 
     // Later loads only count the records; the list is a seed.
@@ -100,8 +91,7 @@ TEST(CurrencyStore, EmptyAndShortLists)
     auto emptyObjects = ObjectStore::openInMemory();
     CurrencyStore empty(*emptyObjects);
     empty.SetInitialList(InitialCurrencyList {});
-    EXPECT_EQ(empty.Load(), 189);
-    EXPECT_EQ(empty.RecordCount(), 0);
+    EXPECT_EQ(std::tuple(empty.Load(), empty.RecordCount()), std::tuple(189, 0));
     empty.SetInitialList(listOf({{L"USD", L"Dollar", L"1"}}));
     EXPECT_EQ(empty.Load(), 1);
     EXPECT_EQ(empty.Code(0), L"USD");
@@ -126,16 +116,13 @@ TEST(CurrencyStore, UpdatesAndDeletes)
 
 TEST(CurrencyStore, LastUpdateDate)
 {
+    const SystemTime leapDay {2024, 2, 4, 29, 13, 45, 30, 250}; // a Thursday
     const std::tuple<const char*, std::uint64_t, int, std::optional<SystemTime>> cases[]
-        = {{"zero is never", 0, 2026, std::nullopt},
-            {"2024-02-29 13:45:30.250, a Thursday", 133536879302500000ULL, 2026,
-                SystemTime {2024, 2, 4, 29, 13, 45, 30, 250}},
+        = {{"zero is never", 0, 2026, std::nullopt}, {"2024-02-29 13:45:30.250", 133536879302500000ULL, 2026, leapDay},
             {"1900-01-01, a Monday", 94354848000000000ULL, 2026, SystemTime {1900, 1, 1, 1, 0, 0, 0, 0}},
             {"1899-12-31 23:59:59", 94354847990000000ULL, 2026, std::nullopt},
             {"a year after the current one", 133536879302500000ULL, 2023, std::nullopt},
-            {"the current year counts", 133536879302500000ULL, 2024, SystemTime {2024, 2, 4, 29, 13, 45, 30, 250}}};
-    for (const auto& [what, fileTime, currentYear, date] : cases) {
-        SCOPED_TRACE(what);
-        EXPECT_EQ(CurrencyStore::LastUpdateDate(fileTime, currentYear), date);
-    }
+            {"the current year counts", 133536879302500000ULL, 2024, leapDay}};
+    for (const auto& [what, fileTime, currentYear, date] : cases)
+        EXPECT_EQ(CurrencyStore::LastUpdateDate(fileTime, currentYear), date) << what;
 }
