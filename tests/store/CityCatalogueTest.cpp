@@ -2,6 +2,7 @@
 #include "store/CityCatalogue.h"
 
 #include "support/TestDevice.h"
+#include "text/WideText.h"
 
 #include <gtest/gtest.h>
 
@@ -80,4 +81,23 @@ TEST(CityCatalogue, IsFilledOncePerDevice)
     EXPECT_EQ(first.Count(), 1) << "another catalogue object sees the filled database";
     EXPECT_EQ(device.messages.messages,
         (std::vector<RecordingMessageSink::Message> {{L"Initial Cities File not found!", L"Wanderkit"}}));
+}
+
+// The shipped file, read as the program reads it: every city is there and the default clocks land on real
+// cities. The file's own consistency is checked by tools/check-data.sh, the default currencies by the
+// currency command on the shipped root.
+TEST(CityCatalogue, TheShippedFileHoldsEveryCityAndTheDefaultClocksLandOnRealCities)
+{
+    const DevicePaths paths {WANDERKIT_SHIPPED_DEVICE_ROOT};
+    TestDevice device;
+    CityCatalogue cities(*device.store, paths, device.messages);
+    cities.Load();
+    EXPECT_TRUE(device.messages.messages.empty());
+    // As many as the count on the line below the header.
+    const std::string file = TempDir::read(std::filesystem::path(WANDERKIT_SHIPPED_DEVICE_ROOT) / "cities.lst");
+    EXPECT_EQ(cities.Count(), Wtol(Latin1ToWide(file.substr(file.find('\n') + 1))));
+    const std::pair<std::uint32_t, const wchar_t*> clocks[] = {{565, L"London:United Kingdom"},
+        {684, L"New York:United States"}, {756, L"Paris:France"}, {988, L"Tokyo:Japan"}};
+    for (const auto& [position, name] : clocks)
+        EXPECT_EQ(cities.CityName(position) + L":" + cities.Country(position), name) << position;
 }
