@@ -106,10 +106,9 @@ TEST(StateFile, UnreadableFilesAreSetAsideAndReplaced)
 
     // Nothing, and no message, when no file can be created.
     TempDir dir;
-    dir.write("plain", "a file where a folder should be");
     RecordingMessageSink messages;
-    EXPECT_EQ(SettingsHive::open(dir.path() / "plain" / "registry.db", messages), nullptr);
-    EXPECT_EQ(ObjectStore::open(dir.path() / "plain" / "objectstore.db", messages), nullptr);
+    for (const auto& [name, openAndCheck] : Kinds)
+        EXPECT_FALSE(openAndCheck(dir.write("plain", "") / name, messages, true)) << name;
     EXPECT_TRUE(messages.messages.empty());
 }
 

@@ -19,7 +19,7 @@ std::array<Property, 2> record(std::wstring key, std::wstring other)
     return {{{Key, std::move(key)}, {Other, std::move(other)}}};
 }
 
-// An open database "test" in a fresh store, holding a record (`key`, `other`) for each of `records`.
+// An open database "test" in a fresh store, each of `records` (key, other) added with `keyIndex`.
 struct TestDatabase
 {
     explicit TestDatabase(int sortMode, const Records& records = {}, int keyIndex = 0)
@@ -27,11 +27,12 @@ struct TestDatabase
         database.Create(L"test", 1, 3, SortIds, sortMode);
         EXPECT_TRUE(database.Open(L"test"));
         for (const auto& [key, other] : records)
-            database.Add(record(key, other), keyIndex);
+            written += database.Add(record(key, other), keyIndex) ? 1 : 0;
     }
 
     std::unique_ptr<ObjectStore> store = ObjectStore::openInMemory();
     PropertyDatabase database {*store};
+    std::size_t written = 0; // the adds that returned true
 };
 
 std::vector<std::wstring> column(PropertyDatabase& database, PropertyId id)
@@ -44,17 +45,22 @@ std::vector<std::wstring> column(PropertyDatabase& database, PropertyId id)
 
 } // namespace
 
-TEST(PropertyDatabase, TraversesInItsSortOrders)
+TEST(PropertyDatabase, TraversesInItsSortOrdersAndTheFirstRecordWithAKeyWins)
 {
     // Mode 1 compares character codes, capitals first; mode 2 folds case and Latin-1 letters, equal keys
-    // keeping their order of addition. Records (key, other) added without a key; "other" in traversal order.
-    const Records added
-        = {{L"b", L"1"}, {L"\u00E9b", L"2"}, {L"B", L"3"}, {L"a", L"4"}, {L"\u00C9c", L"5"}, {L"A", L"6"}};
-    const std::pair<int, std::vector<std::wstring>> cases[]
-        = {{1, {L"6", L"3", L"4", L"1", L"5", L"2"}}, {2, {L"4", L"6", L"1", L"3", L"2", L"5"}}};
-    for (const auto& [sortMode, expectedOthers] : cases) {
-        TestDatabase test(sortMode, added, PropertyDatabase::NoKey);
-        EXPECT_EQ(column(test.database, Other), expectedOthers) << "sort mode " << sortMode;
+    // keeping their order of addition. With a key index, a record whose key property equals an earlier
+    // one's (as its order compares) is not written. "other" in traversal order:
+    const Records added = {
+        {L"b", L"1"}, {L"\u00E9b", L"2"}, {L"B", L"3"}, {L"a", L"4"}, {L"\u00C9c", L"5"}, {L"A", L"6"}, {L"c", L"2"}};
+    const std::tuple<const char*, int, int, std::vector<std::wstring>> cases[]
+        = {{"mode 1, no key", 1, PropertyDatabase::NoKey, {L"6", L"3", L"4", L"1", L"2", L"5", L"2"}},
+            {"mode 2, no key", 2, PropertyDatabase::NoKey, {L"4", L"6", L"1", L"3", L"2", L"2", L"5"}},
+            {"mode 2, key on the first property", 2, 0, {L"4", L"1", L"2", L"2", L"5"}},
+            {"mode 1, key on the second property", 1, 1, {L"6", L"3", L"4", L"1", L"5", L"2"}}};
+    for (const auto& [what, sortMode, keyIndex, expectedOthers] : cases) {
+        TestDatabase test(sortMode, added, keyIndex);
+        EXPECT_EQ(column(test.database, Other), expectedOthers) << what;
+        EXPECT_EQ(test.written, expectedOthers.size()) << what;
     }
 
     // Opening in another sort order.
@@ -68,22 +74,6 @@ TEST(PropertyDatabase, TraversesInItsSortOrders)
     EXPECT_FALSE(byOther.OpenSorted(L"test", 14)) << "the fourth identifier was not made a sort order";
     EXPECT_FALSE(byOther.Open(L"missing"));
     EXPECT_EQ(byOther.ReadAt(0, Key), L"");
-}
-
-TEST(PropertyDatabase, FirstRecordWithAKeyWins)
-{
-    const std::tuple<const char*, int, int, std::array<std::wstring, 2>, bool> cases[]
-        = {{"same key", 1, 0, {L"Euro", L"other"}, false},
-            {"key differing in case, case-insensitive order", 2, 0, {L"euro", L"x"}, false},
-            {"key on the second property", 1, 1, {L"Dollar", L"1.5"}, false},
-            {"no key: duplicates are written", 1, PropertyDatabase::NoKey, {L"Euro", L"1.5"}, true}};
-    for (const auto& [what, sortMode, keyIndex, second, written] : cases) {
-        SCOPED_TRACE(what);
-        TestDatabase test(sortMode, {{L"Euro", L"1.5"}});
-        EXPECT_EQ(test.database.Add(record(second[0], second[1]), keyIndex), written);
-        EXPECT_EQ(test.database.RecordCount(), written ? 2 : 1);
-        EXPECT_EQ(test.database.ReadAt(0, Other), L"1.5") << "the first record is left as it was";
-    }
 }
 
 TEST(PropertyDatabase, CursorAndFlags)
