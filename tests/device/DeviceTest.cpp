@@ -36,11 +36,10 @@ TEST(SystemDeviceClock, ParsesValidLocalTimesAndStartsAtThem)
     for (const auto& [tz, bias] : zones) {
         setenv("TZ", tz, 1);
         const SystemDeviceClock clock(*SystemDeviceClock::parseLocalTime("2026-07-14 10:20:30"));
-        SystemTime t = clock.localTime(); // the seconds and milliseconds run on with the machine
+        const SystemTime t = clock.localTime(); // its seconds run on with the machine's
         EXPECT_EQ(clock.standardBias(), bias) << tz;
-        t.second = 30;
-        t.milliseconds = 0;
-        EXPECT_EQ(t, (SystemTime {2026, 7, 2, 14, 10, 20, 30, 0})) << tz; // a Tuesday
+        EXPECT_EQ(std::tuple(t.year, t.month, t.dayOfWeek, t.day, t.hour, t.minute), std::tuple(2026, 7, 2, 14, 10, 20))
+            << tz; // a Tuesday
     }
     old ? setenv("TZ", saved.c_str(), 1) : unsetenv("TZ");
     tzset();

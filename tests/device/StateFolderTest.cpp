@@ -14,34 +14,15 @@
 
 namespace fs = std::filesystem;
 
-namespace {
-
-constexpr uid_t Nobody = 65534;
-
-mode_t modeOf(const fs::path& path)
-{
-    struct stat info = {};
-    return ::stat(path.c_str(), &info) == 0 ? info.st_mode & 0777 : 0;
-}
-
-// What `wanderkit cities` says with `state` as its state folder.
-CommandResult citiesIn(const fs::path& state)
-{
-    DeviceOptions options;
-    options.stateDir = state;
-    return CommandResult::of("cities", {}, options);
-}
-
-} // namespace
-
 // A new folder and every file in it are private; the files of an existing folder are made so.
 TEST(StateFolder, IsCreatedPrivateAndItsFilesToo)
 {
+    const auto modeOf = [](const fs::path& path) { return static_cast<unsigned>(fs::status(path).permissions()); };
     TempDir dir;
     const fs::path state = dir.path() / "a" / "state";
     ::chmod(dir.write("old/registry.db", "").c_str(), 0644);
     for (const fs::path& folder : {state, dir.path() / "old"}) {
-        const CommandResult result = citiesIn(folder);
+        const CommandResult result = CommandResult::of("cities", {}, {folder, {}, {}});
         EXPECT_EQ(result.code, 0) << result.err;
         for (const auto& entry : fs::directory_iterator(folder))
             EXPECT_EQ(modeOf(entry.path()), 0600u) << entry.path();
@@ -63,9 +44,9 @@ TEST(StateFolder, RefusesStateFilesThatAreNotRegularFilesOfTheUsers)
         SCOPED_TRACE(name + std::string(problem));
         TempDir state;
         make(state.path() / name);
-        const CommandResult result = citiesIn(state.path());
-        EXPECT_EQ(result.code, 1);
-        EXPECT_NE(result.err.find((state.path() / name).string() + problem), std::string::npos) << result.err;
+        EXPECT_TRUE(CommandResult::of("cities", {},
+            {state.path(), {},
+                {}}).refused(1, (state.path() / name).string() + problem));
         EXPECT_EQ(fs::symlink_status(state.path() / name).type() == fs::file_type::symlink,
             std::string(problem) == " is a symbolic link")
             << "left as it was";
@@ -105,7 +86,7 @@ TEST(StateFolder, RefusesAFolderOfAnotherUserEvenThroughALink)
     const fs::path mine = dir.path() / "mine";
     fs::create_directory(theirs);
     fs::create_directory(mine);
-    ASSERT_EQ(::chown(theirs.c_str(), Nobody, Nobody), 0);
+    ASSERT_EQ(::chown(theirs.c_str(), 65534, 65534), 0); // nobody's
     fs::create_directory_symlink(theirs, dir.path() / "to-theirs");
     fs::create_directory_symlink(mine, dir.path() / "to-mine");
     const std::pair<fs::path, std::string> cases[] = {

@@ -93,8 +93,6 @@ TEST(SettingsTable, DefaultsAndWriteBack)
     RegistrySettings settings(*hive);
     EXPECT_EQ(ReadSetting(settings, Settings::IconFolder), L"\\wiconset\\");
     EXPECT_FALSE(hive->value(Settings::IconFolder.subkey, Settings::IconFolder.name));
-    WriteSetting(settings, Settings::MeasureValue, L"3.5");
-    EXPECT_EQ(ReadSetting(settings, Settings::MeasureValue), L"3.5");
     WriteSetting(settings, Settings::MeasureValue, L"");
     EXPECT_EQ(ReadSetting(settings, Settings::MeasureValue), L"");
     EXPECT_EQ(settings.Status(), RegistrySettings::Read) << "an empty string is a stored value";

@@ -29,16 +29,16 @@ TEST(CityCatalogue, LoadsTheCitiesFile)
     const std::string rome = "1;Rome;Italy;12.5;41.9;1;a;b;c;d;e\n";
     const std::string paris = "2;Paris;France;2.3;48.8;1;a;b;c;d;e\n";
     // The cities as "city|country|coordinate 1" in catalogue order.
-    const std::tuple<const char*, std::string, std::vector<std::wstring>> cases[]
-        = {{"sorted by city and country; the first line of a city and country wins",
-               "4\n" + rome + paris + "3;Paris;Texas;-95.5;33.6;-6;a;b;c;d;e\n4;Rome;Italy;0;0;0;a;b;c;d;e\n",
-               {L"Paris|France|2.3", L"Paris|Texas|-95.5", L"Rome|Italy|12.5"}},
-            {"'>' as country ends the load", "3\n" + rome + "2;End;>;2;2;2;a;b;c;d;e\n" + paris, {L"Rome|Italy|12.5"}},
-            {"'>' as rule field 4 ends the load", "2\n" + rome + "2;End;X;2;2;2;a;b;c;>;e\n", {L"Rome|Italy|12.5"}},
-            {"'>' in other fields is text", "1\n1;>;X;>;2;>;>;>;>;d;>\n", {L">|X|>"}},
-            {"a count larger than the lines adds one empty city", "5\n" + rome, {L"||", L"Rome|Italy|12.5"}},
-            {"a count smaller than the lines reads that many", "1\n" + rome + paris, {L"Rome|Italy|12.5"}},
-            {"a negative count", "-4\n" + rome, {}}};
+    const std::tuple<const char*, std::string, std::vector<std::wstring>> cases[] = {
+        {"sorted by city and country; the first line of a city and country wins; the count bounds the read",
+            "4\n" + rome + paris
+                + "3;Paris;Texas;-95.5;33.6;-6;a;b;c;d;e\n4;Rome;Italy;0;0;0;a;b;c;d;e\n5;Lima;Peru;1;1;1;a;b;c;d;e\n",
+            {L"Paris|France|2.3", L"Paris|Texas|-95.5", L"Rome|Italy|12.5"}},
+        {"'>' as country ends the load", "3\n" + rome + "2;End;>;2;2;2;a;b;c;d;e\n" + paris, {L"Rome|Italy|12.5"}},
+        {"'>' as rule field 4 ends the load", "2\n" + rome + "2;End;X;2;2;2;a;b;c;>;e\n", {L"Rome|Italy|12.5"}},
+        {"'>' in other fields is text", "1\n1;>;X;>;2;>;>;>;>;d;>\n", {L">|X|>"}},
+        {"a count larger than the lines adds one empty city", "5\n" + rome, {L"||", L"Rome|Italy|12.5"}},
+        {"a negative count", "-4\n" + rome, {}}};
     for (const auto& [what, afterHeader, cities] : cases) {
         SCOPED_TRACE(what);
         TestDevice device;
@@ -83,9 +83,8 @@ TEST(CityCatalogue, IsFilledOncePerDevice)
         (std::vector<RecordingMessageSink::Message> {{L"Initial Cities File not found!", L"Wanderkit"}}));
 }
 
-// The shipped file, read as the program reads it: every city is there and the default clocks land on real
-// cities. The file's own consistency is checked by tools/check-data.sh, the default currencies by the
-// currency command on the shipped root.
+// The shipped file as the program reads it. Its own consistency is checked by tools/check-data.sh, and the
+// default currencies by the currency command on the shipped root.
 TEST(CityCatalogue, TheShippedFileHoldsEveryCityAndTheDefaultClocksLandOnRealCities)
 {
     const DevicePaths paths {WANDERKIT_SHIPPED_DEVICE_ROOT};
