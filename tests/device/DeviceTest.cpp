@@ -38,7 +38,6 @@ TEST(SystemDeviceClock, ParsesValidLocalTimesAndStartsAtThem)
         {"2026-01-01 24:00:00", false}, {"2026-01-01 12:00:00x", false}};
     for (const auto& [text, valid] : cases)
         EXPECT_EQ(SystemDeviceClock::parseLocalTime(text).has_value(), valid) << text;
-
     // It starts at the given time and knows the standard bias, the same in summer.
     const std::tuple<const char*, std::int32_t> zones[] = {{"America/New_York", 300}, {"Asia/Kolkata", -330}};
     const char* old = std::getenv("TZ");

@@ -28,8 +28,7 @@ const std::pair<const char*, OpenAndCheck> Kinds[] = {
         [](const fs::path& file, MessageSink& messages, bool write) {
             const auto hive = SettingsHive::open(file, messages);
             if (hive && write) {
-                const std::vector<std::uint8_t> padding(40000, 0xA5);
-                RegistrySettings(*hive).SetBinary(L"Wanderkit", L"padding", padding.data(), padding.size());
+                RegistrySettings(*hive).SetString(L"Wanderkit", L"padding", std::wstring(20000, L'p'));
                 RegistrySettings(*hive).SetDWORD(L"Wanderkit", L"marker", 7);
             }
             return hive && RegistrySettings(*hive).GetDWORD(L"Wanderkit", L"marker") == 7;

@@ -61,10 +61,8 @@ TEST(CityCatalogue, BuildsEachPropertyFromItsFields)
     ASSERT_EQ(catalogue.Count(), 2);
     EXPECT_EQ(catalogue.Record(0),
         (CityRecord {L"Adelaide", L"Australia", L"138.6", L"-34.9", L"930", L"1:0:10:2:4:0:4:3:60:x:rest;of;line\r"}));
-
     // Empty fields are skipped by the reader: Lima's rule fields run on into the end of the file.
-    EXPECT_EQ(catalogue.TimeZoneText(1), L"-5");
-    EXPECT_EQ(catalogue.DaylightRuleText(1), L"\n::::");
+    EXPECT_EQ(catalogue.TimeZoneText(1) + L"|" + catalogue.DaylightRuleText(1), L"-5|\n::::");
     EXPECT_EQ(catalogue.Record(2), CityRecord {});
 }
 

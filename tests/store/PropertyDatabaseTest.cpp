@@ -80,7 +80,6 @@ TEST(PropertyDatabase, CursorAndFlags)
 {
     TestDatabase test(1, {{L"a", L""}, {L"b", L""}, {L"c", L""}});
     PropertyDatabase& database = test.database;
-
     // Auto-advance: reading the last record sets the at-end flag, a seek clears it.
     EXPECT_EQ(database.ReadAt(2, Key), L"c");
     EXPECT_TRUE(database.AtEnd());
@@ -110,7 +109,6 @@ TEST(PropertyDatabase, UpdatesDeletesAndWhatARecordCanHold)
 {
     TestDatabase test(1, {{L"b", L"old"}, {L"d", L"old"}, {L"f", L"old"}});
     PropertyDatabase& database = test.database;
-
     // An update that changes the key moves the record in the order.
     EXPECT_TRUE(database.UpdateAt(0, record(L"z", L"new")));
     EXPECT_EQ(column(database, Key), (std::vector<std::wstring> {L"d", L"f", L"z"}));
@@ -132,9 +130,8 @@ TEST(PropertyDatabase, UpdatesDeletesAndWhatARecordCanHold)
     EXPECT_EQ(narrow.ReadAt(0, Third), L"") << "only the property count's properties are written";
     EXPECT_EQ(narrow.ReadAt(0, Other), L"a") << "a stored string ends at a null character";
 
-    const std::wstring longText(1200, L'x');
-    narrow.UpdateAt(0, std::array<Property, 1> {{{Other, longText}}});
-    EXPECT_EQ(narrow.ReadAt(0, Other), longText.substr(0, 999)) << "reads go through a 1000-character buffer";
+    narrow.UpdateAt(0, std::array<Property, 1> {{{Other, std::wstring(1200, L'x')}}});
+    EXPECT_EQ(narrow.ReadAt(0, Other), std::wstring(999, L'x')) << "reads go through a 1000-character buffer";
     const auto all = narrow.ReadRecordAt(0);
     EXPECT_EQ(std::tuple(all.size(), all.at(1).text.size()), std::tuple(2u, 999u));
 }

@@ -79,7 +79,6 @@ TEST(WeatherFavourites, FindAddUpdateRemove)
     WeatherFavourites& favourites = device.favourites;
     EXPECT_NE(favourites.findByLocationCode(L"FRXX0076"), 0);
     EXPECT_EQ(favourites.findByName(L"rome"), 0) << "names compare exactly";
-
     // A new favourite has no forecast, whatever was passed; the same city can be added twice.
     const std::wstring oslo = L"Oslo|NOXX0029||01/01/2000|Norway";
     EXPECT_TRUE(favourites.addFavourite(L"Oslo", L"NOXX0029", L"sunny^", L"01/01/2000:Norway"));
