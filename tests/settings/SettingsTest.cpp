@@ -59,7 +59,6 @@ TEST(RegistrySettings, StoredForms)
     EXPECT_EQ(settings.GetString(L"Wanderkit", L"blob"), L"\uFEFFA") << "a string read stops at a null character";
     settings.SetBinary(L"Wanderkit", L"short", binary, 1);
     EXPECT_EQ(settings.GetDWORD(L"Wanderkit", L"short"), 0xFFu);
-
     // A value keeps its latest type, whatever case its key path is written in.
     settings.SetString(L"WANDERKIT", L"twelvehour", L"1");
     EXPECT_EQ(hive->value(L"Wanderkit", L"twelvehour")->type, RegistryType::String);

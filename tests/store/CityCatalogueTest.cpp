@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "store/CityCatalogue.h"
 
+#include "store/CurrencyStore.h"
 #include "support/TestDevice.h"
 #include "text/WideText.h"
 
@@ -81,20 +82,29 @@ TEST(CityCatalogue, IsFilledOncePerDevice)
         (std::vector<RecordingMessageSink::Message> {{L"Initial Cities File not found!", L"Wanderkit"}}));
 }
 
-// The shipped file as the program reads it. Its own consistency is checked by tools/check-data.sh, and the
-// default currencies by the currency command on the shipped root.
-TEST(CityCatalogue, TheShippedFileHoldsEveryCityAndTheDefaultClocksLandOnRealCities)
+// The shipped files as the program reads them; their own consistency is checked by tools/check-data.sh.
+TEST(ShippedData, TheDefaultClocksAndCurrenciesLandOnRealOnes)
 {
     const DevicePaths paths {WANDERKIT_SHIPPED_DEVICE_ROOT};
     TestDevice device;
     CityCatalogue cities(*device.store, paths, device.messages);
     cities.Load();
-    EXPECT_TRUE(device.messages.messages.empty());
-    // As many as the count on the line below the header.
+    // As many as the count on the line below the header: none refused as a repeated city.
     const std::string file = TempDir::read(std::filesystem::path(WANDERKIT_SHIPPED_DEVICE_ROOT) / "cities.lst");
     EXPECT_EQ(cities.Count(), Wtol(Latin1ToWide(file.substr(file.find('\n') + 1))));
+    EXPECT_TRUE(cities.Count() >= 1050 && cities.Count() <= 1150) << cities.Count();
     const std::pair<std::uint32_t, const wchar_t*> clocks[] = {{565, L"London:United Kingdom"},
         {684, L"New York:United States"}, {756, L"Paris:France"}, {988, L"Tokyo:Japan"}};
     for (const auto& [position, name] : clocks)
         EXPECT_EQ(cities.CityName(position) + L":" + cities.Country(position), name) << position;
+
+    CurrencyStore currencies(*device.store);
+    currencies.SetInitialList(ReadInitialCurrencies(paths, device.messages));
+    EXPECT_EQ(currencies.Load(), 189);
+    const std::pair<std::uint32_t, const wchar_t*> defaults[]
+        = {{61, L"EUR Euro"}, {180, L"USD US Dollar"}, {27, L"GBP British Pound"}};
+    for (const auto& [position, codeAndName] : defaults)
+        EXPECT_EQ(currencies.Code(position) + L" " + currencies.Name(position), codeAndName);
+    EXPECT_DOUBLE_EQ(Wcstod(currencies.RateText(180)), 1.0);
+    EXPECT_TRUE(device.messages.messages.empty());
 }

@@ -88,13 +88,11 @@ TEST(CurrencyStore, FirstLoadCopiesTheListInNameOrder)
         << "names ignore case, and the first \"euro\" wins";
     EXPECT_EQ(store.Name(1) + store.RateText(1) + store.Code(4), L"euro0.92");
     EXPECT_EQ(store.LastUpdate(), 0u) << "the last update reads \"Never\"";
-
     // Later loads only count the records; the list is a seed.
     CurrencyStore again(*objects);
     again.SetInitialList(listOf({{L"JPY", L"Yen", L"150"}}));
     EXPECT_EQ(again.Load(), 4);
     EXPECT_EQ(codes(again), codes(store));
-
     // Updates find the name whatever its case; a write stamps the database.
     EXPECT_TRUE(store.UpdateByName(L"EUX", L"EURO", L"0.95"));
     EXPECT_EQ(store.Code(1) + L"|" + store.Name(1) + L"|" + store.RateText(1), L"EUX|EURO|0.95");
@@ -113,7 +111,6 @@ TEST(CurrencyStore, EmptyAndShortLists)
     store.SetInitialList(listOf({{L"USD", L"Dollar", L"1"}}, 2147483647));
     EXPECT_EQ(store.Load(), 2147483647);
     EXPECT_EQ(codes(store), (std::vector<std::wstring> {L"", L"USD"}));
-
     // An empty store (a missing file: no currencies, count 189) is filled at the next load that has currencies.
     auto emptyObjects = ObjectStore::openInMemory();
     CurrencyStore empty(*emptyObjects);

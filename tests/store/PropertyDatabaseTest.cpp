@@ -87,7 +87,6 @@ TEST(PropertyDatabase, CursorAndFlags)
     EXPECT_TRUE(database.SeekFirst() && !database.AtEnd());
     // Reads past the end are empty, whatever the flags.
     EXPECT_EQ(database.ReadAt(3, Key) + database.ReadAt(0xFFFFFFFF, Key) + database.ReadAt(0, 99), L"");
-
     // Seeks return the record identifier, 0 on failure; from the end, position 0 is the last record.
     const auto last = database.SeekTo(2);
     EXPECT_NE(last, 0);
@@ -95,7 +94,6 @@ TEST(PropertyDatabase, CursorAndFlags)
     EXPECT_EQ(database.SeekTo(3, true), 0);
     EXPECT_EQ(database.SeekEqual({Key, L"c"}), last);
     EXPECT_EQ(database.SeekEqual({Key, L"C"}), 0);
-
     // Opening puts the cursor on the first record: two steps reach the last, a third fails.
     ASSERT_TRUE(database.Open(L"test"));
     EXPECT_TRUE(database.Next() && database.Next());
@@ -121,7 +119,6 @@ TEST(PropertyDatabase, UpdatesDeletesAndWhatARecordCanHold)
     EXPECT_TRUE(database.DeleteAt(1));
     EXPECT_EQ(column(database, Key), (std::vector<std::wstring> {L"d", L"z"}));
     EXPECT_FALSE(database.DeleteAt(2));
-
     // With two sort orders a record has two properties.
     PropertyDatabase narrow(*test.store);
     narrow.Create(L"narrow", 1, 2, SortIds, 1);
@@ -139,12 +136,11 @@ TEST(PropertyDatabase, UpdatesDeletesAndWhatARecordCanHold)
 TEST(PropertyDatabase, AFailedPartOfATransactionRollsBackTheWhole)
 {
     TestDatabase test(1);
-    ObjectStore& store = *test.store;
     {
-        ObjectStore::Transaction load(store.connection());
+        ObjectStore::Transaction load(test.store->connection());
         test.database.Add(record(L"a", L""), 0);
         {
-            ObjectStore::Transaction part(store.connection()); // joins the load, ends without commit
+            ObjectStore::Transaction part(test.store->connection()); // joins the load, ends without commit
         }
         test.database.Add(record(L"b", L""), 0);
         EXPECT_FALSE(load.commit());
@@ -152,7 +148,7 @@ TEST(PropertyDatabase, AFailedPartOfATransactionRollsBackTheWhole)
     EXPECT_EQ(test.database.RecordCount(), 0) << "the in-memory order forgets the rolled-back records too";
     EXPECT_EQ(test.database.ReadAt(0, Key), L"");
 
-    ObjectStore::Transaction next(store.connection());
+    ObjectStore::Transaction next(test.store->connection());
     test.database.Add(record(L"c", L""), 0);
     EXPECT_TRUE(next.commit()) << "the failure belonged to the earlier transaction";
     EXPECT_EQ(test.database.RecordCount(), 1);
