@@ -72,8 +72,7 @@ TEST(SettingsTable, DefaultsAndWriteBack)
         = {{"clock1, fresh device: default, written", Settings::Clock1, Before::FreshDevice, 684, true},
             {"clock2, value deleted: default, not written", Settings::Clock2, Before::KeyOnly, 756, false},
             {"clock3 present", Settings::Clock3, Before::Stored, 5, true},
-            {"curp2, value missing: written", Settings::Currency2, Before::KeyOnly, 180, true},
-            {"showcs: default, never written", Settings::ShowCities, Before::FreshDevice, 1, false}};
+            {"curp2, value missing: written", Settings::Currency2, Before::KeyOnly, 180, true}};
     for (const auto& [what, setting, before, read, storedAfter] : cases) {
         SCOPED_TRACE(what);
         auto hive = SettingsHive::openInMemory();

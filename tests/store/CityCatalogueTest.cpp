@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "store/CityCatalogue.h"
 
+#include "settings/SettingsTable.h"
 #include "store/CurrencyStore.h"
 #include "support/TestDevice.h"
 #include "text/WideText.h"
@@ -82,29 +83,32 @@ TEST(CityCatalogue, IsFilledOncePerDevice)
         (std::vector<RecordingMessageSink::Message> {{L"Initial Cities File not found!", L"Wanderkit"}}));
 }
 
-// The shipped files as the program reads them; their own consistency is checked by tools/check-data.sh.
+// The shipped files at a fresh device's default positions; tools/check-data.sh checks the files themselves.
 TEST(ShippedData, TheDefaultClocksAndCurrenciesLandOnRealOnes)
 {
     const DevicePaths paths {WANDERKIT_SHIPPED_DEVICE_ROOT};
     TestDevice device;
+    auto hive = SettingsHive::openInMemory();
+    RegistrySettings settings(*hive);
+    const auto at = [&settings](const DwordSetting& setting) { return ReadSetting(settings, setting); };
     CityCatalogue cities(*device.store, paths, device.messages);
     cities.Load();
     // As many as the count on the line below the header: none refused as a repeated city.
     const std::string file = TempDir::read(std::filesystem::path(WANDERKIT_SHIPPED_DEVICE_ROOT) / "cities.lst");
     EXPECT_EQ(cities.Count(), Wtol(Latin1ToWide(file.substr(file.find('\n') + 1))));
     EXPECT_TRUE(cities.Count() >= 1050 && cities.Count() <= 1150) << cities.Count();
-    const std::pair<std::uint32_t, const wchar_t*> clocks[] = {{565, L"London:United Kingdom"},
-        {684, L"New York:United States"}, {756, L"Paris:France"}, {988, L"Tokyo:Japan"}};
-    for (const auto& [position, name] : clocks)
-        EXPECT_EQ(cities.CityName(position) + L":" + cities.Country(position), name) << position;
-
+    const std::pair<const DwordSetting&, const wchar_t*> clocks[]
+        = {{Settings::Clock1, L"New York:United States"}, {Settings::Clock2, L"Paris:France"},
+            {Settings::Clock3, L"London:United Kingdom"}, {Settings::Clock4, L"Tokyo:Japan"}};
+    for (const auto& [clock, name] : clocks)
+        EXPECT_EQ(cities.CityName(at(clock)) + L":" + cities.Country(at(clock)), name);
     CurrencyStore currencies(*device.store);
     currencies.SetInitialList(ReadInitialCurrencies(paths, device.messages));
     EXPECT_EQ(currencies.Load(), 189);
-    const std::pair<std::uint32_t, const wchar_t*> defaults[]
-        = {{61, L"EUR Euro"}, {180, L"USD US Dollar"}, {27, L"GBP British Pound"}};
-    for (const auto& [position, codeAndName] : defaults)
-        EXPECT_EQ(currencies.Code(position) + L" " + currencies.Name(position), codeAndName);
-    EXPECT_DOUBLE_EQ(Wcstod(currencies.RateText(180)), 1.0);
+    const std::pair<const DwordSetting&, const wchar_t*> defaults[] = {{Settings::Currency1, L"EUR Euro"},
+        {Settings::Currency2, L"USD US Dollar"}, {Settings::Currency3, L"GBP British Pound"}};
+    for (const auto& [currency, codeAndName] : defaults)
+        EXPECT_EQ(currencies.Code(at(currency)) + L" " + currencies.Name(at(currency)), codeAndName);
+    EXPECT_DOUBLE_EQ(Wcstod(currencies.RateText(at(Settings::Currency2))), 1.0);
     EXPECT_TRUE(device.messages.messages.empty());
 }

@@ -14,7 +14,7 @@ TEST(StringTable, HoldsTheProgramTexts)
         EXPECT_EQ(StringTable::Load(id), text) << id;
 }
 
-TEST(WideText, NumbersConvertAndFormatAsTheCLibraryDoes)
+TEST(WideText, ConvertsNumbersAndEncodingsFormatsFoldsCaseAndSplits)
 {
     // wcstol's own parsing is the C library's; the clamp to 32 bits is ours.
     const std::pair<std::wstring, std::int32_t> wtol[]
@@ -28,10 +28,7 @@ TEST(WideText, NumbersConvertAndFormatAsTheCLibraryDoes)
     EXPECT_EQ(FormatText(L"%d/%d %ls", 5, 3, L"Done"), L"5/3 Done");
     const std::wstring longText(5000, L'x');
     EXPECT_EQ(FormatText(L"%ls!", longText.c_str()), longText + L"!");
-}
 
-TEST(WideText, ConvertsEncodingsFoldsCaseAndSplits)
-{
     EXPECT_EQ(Latin1ToWide("Z\xFCrich\xB0"), L"Z\u00FCrich\u00B0");
     const std::wstring text = L"\u00B5m\u00B2 \u00B0C \u20AC \U0001F30D";
     EXPECT_EQ(Utf8ToWide(WideToUtf8(text)), text);
