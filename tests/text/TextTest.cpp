@@ -1,9 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "text/StringTable.h"
 #include "text/WideText.h"
 
 #include <gtest/gtest.h>
 
-TEST(WideText, NumbersConvertAndFormatAsTheCLibraryDoes)
+#include <tuple>
+
+TEST(StringTable, HoldsTheProgramTexts)
+{
+    const std::pair<int, std::wstring_view> cases[]
+        = {{40003, L"Menu"}, {40083, L"Region(State)"}, {40007, L""}, {39999, L""}, {40084, L""}};
+    for (const auto& [id, text] : cases)
+        EXPECT_EQ(StringTable::Load(id), text) << id;
+}
+
+TEST(WideText, ConvertsNumbersAndEncodingsFormatsFoldsCaseAndSplits)
 {
     // wcstol's own parsing is the C library's; the clamp to 32 bits is ours.
     const std::pair<std::wstring, std::int32_t> wtol[]
@@ -15,23 +26,16 @@ TEST(WideText, NumbersConvertAndFormatAsTheCLibraryDoes)
         EXPECT_DOUBLE_EQ(Wcstod(text), value) << WideToUtf8(text);
 
     EXPECT_EQ(FormatText(L"%d/%d %ls", 5, 3, L"Done"), L"5/3 Done");
-    EXPECT_EQ(FormatText(L"%.8f", 1.0), L"1.00000000");
     const std::wstring longText(5000, L'x');
     EXPECT_EQ(FormatText(L"%ls!", longText.c_str()), longText + L"!");
-}
 
-TEST(WideText, ConvertsEncodingsFoldsCaseAndSplits)
-{
     EXPECT_EQ(Latin1ToWide("Z\xFCrich\xB0"), L"Z\u00FCrich\u00B0");
     const std::wstring text = L"\u00B5m\u00B2 \u00B0C \u20AC \U0001F30D";
     EXPECT_EQ(Utf8ToWide(WideToUtf8(text)), text);
     EXPECT_EQ(WideToUtf8(L"\u00B0"), "\xC2\xB0");
-    EXPECT_EQ(Utf8ToWide("a\xFF"
-                         "b"),
-        L"a\uFFFDb");
+    EXPECT_EQ(Utf8ToWide(std::string("a\xFF") + "b"), L"a\uFFFDb");
     EXPECT_EQ(FoldLatin1(L"Euro \u00C9T\u00C9 \u00D7 \u00DF"), L"euro \u00E9t\u00E9 \u00D7 \u00DF");
     EXPECT_EQ(BeforeFirst(L"Paris:France", L':'), L"Paris");
     EXPECT_EQ(AfterFirst(L"01/01/2000:Le:Pays", L':'), L"Le:Pays");
-    EXPECT_EQ(BeforeFirst(L"NoColon", L':'), L"NoColon");
-    EXPECT_EQ(AfterFirst(L"NoColon", L':'), L"");
+    EXPECT_EQ(std::tuple(BeforeFirst(L"NoColon", L':'), AfterFirst(L"NoColon", L':')), std::tuple(L"NoColon", L""));
 }
