@@ -13,7 +13,6 @@
 
 #include <QMenu>
 #include <QScreen>
-#include <QTimer>
 
 #include <algorithm>
 #include <tuple>
@@ -80,8 +79,8 @@ struct Outcome
 };
 
 // Plays `drive` on a fresh device showing the launcher, World Clocks on the fixture catalogue or the
-// Select dialog, in an active window (touch makes it active). Every screen shown over it is recorded and
-// ended at once, so that a gesture that opens one returns.
+// Select dialog, in an active window (touch makes it active). A screen shown over it is recorded and ended
+// at once, so that a gesture that opens one returns.
 Outcome play(Kind kind, const std::function<void(ScreenTestBench&)>& drive)
 {
     ScreenTestBench bench;
@@ -97,11 +96,9 @@ Outcome play(Kind kind, const std::function<void(ScreenTestBench&)>& drive)
     Screen* const screens[] = {&launcher, &clocks, &select};
     Screen& screen = *screens[static_cast<int>(kind)];
     Outcome outcome;
-    QObject::connect(&bench.window, &DeviceWindow::screenShown, &screen, [&](Screen& shown) {
-        if (&shown != &screen) {
-            outcome.opened << shown.screenName();
-            QTimer::singleShot(0, &shown, [&shown] { shown.endScreen(); });
-        }
+    bench.whenNextShown(screen, [&outcome](Screen& shown) {
+        outcome.opened << shown.screenName();
+        shown.endScreen();
     });
     bench.run(screen, [&] {
         bench.window.activateWindow();
