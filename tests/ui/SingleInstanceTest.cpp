@@ -2,7 +2,6 @@
 #include "app/SingleInstance.h"
 
 #include <QSignalSpy>
-#include <QSocketNotifier>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -17,8 +16,8 @@
 namespace {
 
 // A child process of this test program, started with ClaimChild: waits until its standard input ends,
-// claims, writes "1" (it runs) or "0" (it left) to standard output, and keeps its claim, answering
-// later starts, until its descriptor 3 ends.
+// claims, writes "1" (it runs) or "0" (it left) to standard output, and keeps its claim until its
+// descriptor 3 ends.
 constexpr const char* ClaimChild = "--claim-child";
 constexpr int HoldFd = 3;
 
@@ -30,13 +29,8 @@ int claimChild(int argc, char** argv)
     SingleInstance instance;
     if (::write(STDOUT_FILENO, instance.claim() ? "1" : "0", 1) != 1)
         return 1;
-    QSocketNotifier hold(HoldFd, QSocketNotifier::Read);
-    QObject::connect(&hold, &QSocketNotifier::activated, &app, [&app] {
-        char ignored = 0;
-        if (::read(HoldFd, &ignored, 1) <= 0)
-            app.quit();
-    });
-    return app.exec();
+    while (::read(HoldFd, &byte, 1) > 0) { }
+    return 0;
 }
 
 // Starts `count` children, releases them at the same instant by closing their shared standard input and
