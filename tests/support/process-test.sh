@@ -16,6 +16,11 @@ check() { # description, expected, actual
     fi
 }
 
+# Runs a command with its output in $work/out and $work/err, and prints its exit status.
+status() { "$@" >"$work/out" 2>"$work/err"; echo $?; }
+# "yes" when $work/err holds every one of the texts.
+says() { for text; do grep -qF -- "$text" "$work/err" || { echo no && return; }; done && echo yes; }
+
 # Ends the script: 0 when every check passed.
 finish() {
     echo "$failures failed"
