@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# The program as a process: usage errors, an unusable state folder, the single instance and the tour.
+# The program as a process: its options, usage errors, an unusable state folder and the single instance.
 set -u
 program=$1
 # shellcheck source=../support/process-test.sh
@@ -11,8 +11,9 @@ check "a malformed size exits 2" 2 "$(status "$program" --size 240)"
 check "--help exits 0 and lists the options" "0 1" "$(status "$program" --help) $(grep -c -- "--state-dir" "$work/out")"
 check "--version names the program" "0 1" "$(status "$program" --version) $(grep -c "^Wanderkit " "$work/out")"
 touch "$work/not-a-folder"
+bad="$work/not-a-folder/state"
 check "an unusable state folder exits 1 and is named" "1 yes" \
-    "$(status "$program" --state-dir "$work/not-a-folder/state" --exit-after-first-paint) $(says "$work/not-a-folder/state")"
+    "$(status "$program" --state-dir "$bad" --exit-after-first-paint) $(says "$bad")"
 
 # The first instance runs; a second start raises it and leaves at once with 0, opening no state.
 "$program" --state-dir "$work/state" >"$work/first.log" 2>&1 &
@@ -23,24 +24,6 @@ check "a second instance exits 0 and opens no state" "0 no" \
 kill -0 $first 2>/dev/null
 check "the first instance keeps running" 0 $?
 kill $first && wait $first 2>/dev/null
-
-# Ten starts at the same moment on one state: exactly one keeps running and the others leave with 0. The
-# survivor is then killed, leaving its socket for the next round to take over. Rounds: WANDERKIT_RACE_ROUNDS.
-for round in $(seq "${WANDERKIT_RACE_ROUNDS:-3}"); do
-    pids=()
-    for _ in $(seq 10); do "$program" --state-dir "$work/race" >/dev/null 2>&1 & pids+=($!); done
-    for _ in $(seq 150); do
-        running=0
-        for pid in "${pids[@]}"; do kill -0 "$pid" 2>/dev/null && running=$((running + 1)); done
-        [ "$running" -le 1 ] && break
-        sleep 0.2
-    done
-    left=0
-    for pid in "${pids[@]}"; do
-        if kill -0 "$pid" 2>/dev/null; then kill -9 "$pid"; wait "$pid" 2>/dev/null; else wait "$pid" && left=$((left + 1)); fi
-    done
-    check "round $round: one of ten simultaneous starts keeps running, the other nine leave with 0" "1 9" "$running $left"
-done
 
 check "--exit-after-first-paint ends with 0 and a private state folder" "0 700" \
     "$(status timeout 60 "$program" --state-dir "$work/state3" --exit-after-first-paint) $(stat -c %a "$work/state3")"
