@@ -29,7 +29,8 @@ check "a bad size writes nothing" no "$([ -e "$work/bad.png" ] && echo yes || ec
 
 check "no file, two files and an unknown option are usage errors" "2 2 2" \
     "$(status run) $(status run "$work/a.png" "$work/b.png") $(status run "$work/a.png" --frobnicate)"
-check "an unwritable file exits 1 and is named" "1 yes" "$(status run "$work/no/such/folder/map.png") $(says "cannot write")"
+check "an unwritable file exits 1 and is named" "1 yes" \
+    "$(status run "$work/no/such/folder/map.png") $(says "cannot write")"
 mkdir "$work/empty-root"
 check "a device root without day.jpg exits 1 and names it" "1 yes" \
     "$(status "$program" --state-dir "$work/state2" --device-root "$work/empty-root" map "$work/x.png") $(says day.jpg)"
