@@ -151,16 +151,6 @@ private slots:
         t.bench.visit(t.screen, [&] { QCOMPARE(t.texts() + u' ' + t.screen.lastUpdateText(), saved); });
     }
 
-    void unreadablePositionsTakeTheirDefaultsAtOnce()
-    {
-        // Nothing stored: the three defaults are written while the screen opens, not on leaving.
-        ConverterBench t(std::nullopt);
-        t.bench.visit(t.screen, [&] {
-            QCOMPARE(t.stored(), (Positions {61, 180, 27}));
-            QCOMPARE(t.shown(), t.stored());
-        });
-    }
-
     void changingACurrencyTakesTheDialogsIndexUnlessNoFieldHasTheFocus()
     {
         ConverterBench t;
