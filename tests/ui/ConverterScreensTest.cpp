@@ -27,15 +27,15 @@ const wchar_t* const PositionNames[] = {L"curp", L"curp2", L"curp3"};
 // A converter over the four fixture currencies, the launcher's list read from the device root.
 struct ConverterBench
 {
-    explicit ConverterBench(std::optional<Positions> positions = Positions {Euro, Dollar, Pound})
+    explicit ConverterBench(const Positions& positions = {Euro, Dollar, Pound})
     {
         // Focus events reach the fields only in the active window.
         bench.window.activateWindow();
         active = QTest::qWaitForWindowActive(&bench.window);
         bench.root.write("currs.lst", Currencies);
         initial = ReadInitialCurrencies(bench.paths, bench.messages);
-        for (std::size_t k = 0; positions && k < 3; ++k)
-            registry.SetDWORD(Key, PositionNames[k], (*positions)[k]);
+        for (std::size_t k = 0; k < 3; ++k)
+            registry.SetDWORD(Key, PositionNames[k], positions[k]);
     }
 
     QLineEdit* field(int k)
@@ -86,8 +86,8 @@ struct MeasureBench
     {
         return child<Spinner>(screen, std::array {"categorySpinner", "fromSpinner", "toSpinner"}[i]);
     }
-    std::array<int, 3> indices() { return {list(0)->currentIndex(), list(1)->currentIndex(), list(2)->currentIndex()}; }
     QString choices() { return list(0)->currentText() + u'|' + list(1)->currentText() + u'|' + list(2)->currentText(); }
+    std::array<int, 3> indices() { return {list(0)->currentIndex(), list(1)->currentIndex(), list(2)->currentIndex()}; }
     std::array<std::uint32_t, 3> stored()
     {
         return {bench.stored(*MeasureChoices[0]), bench.stored(*MeasureChoices[1]), bench.stored(*MeasureChoices[2])};

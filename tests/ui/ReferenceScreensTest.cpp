@@ -34,6 +34,20 @@ std::pair<QString, QStringList> table(int wearer, int garment)
     return {ToQString(StringTable::Load(found->titleId)), rows};
 }
 
+// A title band as the handheld writes it: the text's cell's top-left corner at (5, 0), baseline at the ascent.
+QImage titleBand(const QString& title)
+{
+    const QFont font = Painting::makeFont(24, Painting::Bold);
+    QImage band(240, 25, QImage::Format_RGB32);
+    band.fill(QColor(0, 178, 235));
+    QPainter painter(&band);
+    painter.setFont(font);
+    painter.setPen(Qt::white);
+    painter.drawText(5, QFontMetrics(font).ascent(), title);
+    painter.end();
+    return band;
+}
+
 // The screen, its chooser and its two lists.
 struct DialingBench
 {
@@ -128,7 +142,7 @@ private slots:
     }
 
     // ---- Dialing codes.
-    void theChooserShowsOneListAndTheArrowsReachIt()
+    void underTheTitleTheFramedChooserShowsOneListAndTheArrowsReachIt()
     {
         DialingBench t;
         const auto international = std::pair(true, false);
@@ -144,6 +158,12 @@ private slots:
             QCOMPARE(t.bench.window.focusWidget(), t.chooser);
             QCOMPARE(t.shown(), international);
             const QImage internationalShown = t.bench.render();
+            QCOMPARE(internationalShown.copy(0, 0, 240, 25).convertToFormat(QImage::Format_RGB32),
+                titleBand(QStringLiteral("Dialing codes")));
+            // The frame runs one pixel outside the chooser at (6, 31), 223 x 24.
+            for (const QPoint point : {QPoint(5, 40), QPoint(229, 40), QPoint(100, 30), QPoint(100, 55)})
+                QCOMPARE(internationalShown.pixelColor(point), QColor(Qt::black));
+            QVERIFY(internationalShown.pixelColor(4, 40) != QColor(Qt::black));
             for (const auto& [key, shown] : steps) {
                 t.bench.press(key);
                 QCOMPARE(t.shown(), shown);
@@ -165,28 +185,6 @@ private slots:
         // Left on the area codes, the next visit starts on the international codes again.
         t.bench.visit(
             t.screen, [&] { QCOMPARE(std::pair(t.shown(), t.chooser->currentIndex()), std::pair(international, 0)); });
-    }
-
-    void theTitleStartsAtTheBandsTopLeftAndTheChooserIsFramed()
-    {
-        // The text as the handheld writes it: its cell's top-left corner at (5, 0), baseline at the ascent.
-        const QFont font = Painting::makeFont(24, Painting::Bold);
-        QImage expected(240, 25, QImage::Format_RGB32);
-        expected.fill(QColor(0, 178, 235));
-        QPainter painter(&expected);
-        painter.setFont(font);
-        painter.setPen(Qt::white);
-        painter.drawText(5, QFontMetrics(font).ascent(), QStringLiteral("Dialing codes"));
-        painter.end();
-        DialingBench t;
-        t.bench.visit(t.screen, [&] {
-            const QImage image = t.bench.render();
-            QCOMPARE(image.copy(0, 0, 240, 25).convertToFormat(QImage::Format_RGB32), expected);
-            // The frame runs one pixel outside the chooser at (6, 31), 223 x 24.
-            for (const QPoint point : {QPoint(5, 40), QPoint(229, 40), QPoint(100, 30), QPoint(100, 55)})
-                QCOMPARE(image.pixelColor(point), QColor(Qt::black));
-            QVERIFY(image.pixelColor(4, 40) != QColor(Qt::black));
-        });
     }
 
     void theListsHoldEveryRowOnceInColumnsThatFollowTheWorkArea()
