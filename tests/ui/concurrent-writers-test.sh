@@ -1,11 +1,9 @@
 #!/usr/bin/env bash
 # shellcheck disable=SC2317 # the round functions are called through run_writer
-# Writers at once: while the program has the state open and a reader reads it, processes write it all at
-# the same time: `settings set`, `favourites add` and `remove`, `forecast import` and `rates import`. No
-# command may fail (a write that waited too long for the lock exits 1) or mention a lock, and a later
-# read sees each writer's last value.
-# Usage: concurrent-writers-test.sh PROGRAM DEVICE_ROOT. WANDERKIT_WRITES sets the rounds of each writer
-# (default 20).
+# Writers at once: while the program has the state open and a reader reads it, processes write it all at the
+# same time: `settings set`, `favourites add` and `remove`, `forecast import` and `rates import`. No command may
+# fail (a write that waited too long for the lock exits 1) or mention a lock, and a later read sees each writer's
+# last value. Usage: concurrent-writers-test.sh PROGRAM DEVICE_ROOT; WANDERKIT_WRITES rounds a writer (20).
 set -u
 program=$1
 device_root=$2
@@ -82,9 +80,9 @@ shared=$(settings get Wanderkit\\hostile shared)
 check "the shared setting ($shared) is a writer's last write" yes \
     "$([ "$shared" = $((1000 + writes)) ] || [ "$shared" = $((2000 + writes)) ] && echo yes)"
 favourites=$(wk favourites)
-check "each favourites writer's city is there once" "1 1" \
-    "$(grep -c "^Coro	" <<<"$favourites") $(grep -c "^Leiria	" <<<"$favourites")"
-check "Paris holds the last forecast" "Paris	2988507	19/06/$((2000 + writes))	France" "$(grep "^Paris	" <<<"$favourites")"
+check "each favourites writer's city is there once; Paris holds the last forecast" \
+    "1 1 Paris	2988507	19/06/$((2000 + writes))	France" \
+    "$(grep -c "^Coro	" <<<"$favourites") $(grep -c "^Leiria	" <<<"$favourites") $(grep "^Paris	" <<<"$favourites")"
 # The last file alone, imported into a copy of the state, gives the same rates.
 cp -r "$state" "$work/reference"
 state="$work/reference" wk rates import "$work/rates$writes.xml" >/dev/null
