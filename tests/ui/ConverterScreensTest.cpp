@@ -278,19 +278,6 @@ private slots:
         }
     }
 
-    void belowAbsoluteZeroSaysSoAndShowsZero()
-    {
-        MeasureBench t({Temperatures, 0, 4}, L"-27"); // °C to K
-        t.bench.visit(t.screen, [&] {
-            QCOMPARE(t.result(), QStringLiteral("246.150000"));
-            t.type(QStringLiteral("5"));
-            QCOMPARE(t.bench.boxes.shown.size(), std::size_t {1});
-            const auto& box = t.bench.boxes.shown.front();
-            QCOMPARE(std::pair(box.text, box.caption), std::pair(QStringLiteral("Below Absolute Zero"), QString()));
-            QCOMPARE(t.shown(), QStringLiteral("-275|0"));
-        });
-    }
-
     void unreadableSettingsReadAsZeroAndOnlySelectionsAreSaved()
     {
         // Stored type and units, then what the lists show and what leaving writes back.
