@@ -9,7 +9,6 @@
 #include <QSignalSpy>
 
 #include <optional>
-#include <tuple>
 
 namespace {
 
@@ -64,7 +63,6 @@ struct ConverterBench
 };
 
 constexpr std::uint32_t Weights = 6;
-constexpr std::uint32_t Temperatures = 4;
 
 using Stored = std::array<std::optional<std::uint32_t>, 3>;
 const DwordSetting* const MeasureChoices[] = {&Settings::MeasureType, &Settings::MeasureUnit1, &Settings::MeasureUnit2};
@@ -88,10 +86,6 @@ struct MeasureBench
     }
     QString choices() { return list(0)->currentText() + u'|' + list(1)->currentText() + u'|' + list(2)->currentText(); }
     std::array<int, 3> indices() { return {list(0)->currentIndex(), list(1)->currentIndex(), list(2)->currentIndex()}; }
-    std::array<std::uint32_t, 3> stored()
-    {
-        return {bench.stored(*MeasureChoices[0]), bench.stored(*MeasureChoices[1]), bench.stored(*MeasureChoices[2])};
-    }
     QLineEdit* amountField() { return child<QLineEdit>(screen, "amountLineEdit"); }
     QString result() { return child<QLineEdit>(screen, "resultLineEdit")->text(); }
     // The amount and the result, joined by "|".
@@ -275,29 +269,6 @@ private slots:
                 if (category == 0)
                     QCOMPARE(t.result(), QStringLiteral("-40.50e0"));
             });
-        }
-    }
-
-    void unreadableSettingsReadAsZeroAndOnlySelectionsAreSaved()
-    {
-        // Stored type and units, then what the lists show and what leaving writes back.
-        using Case = std::tuple<Stored, std::array<int, 3>, std::array<std::uint32_t, 3>>;
-        const Case cases[] = {
-            {{}, {0, 0, 0}, {0, 0, 0}}, // a fresh device: the first of everything
-            {{3, 12, 7}, {3, 12, 7}, {3, 12, 7}},
-            // No selection: the lists stay empty or unselected and nothing is written for them.
-            {{9, 1, 1}, {-1, -1, -1}, {9, 1, 1}},
-            {{Temperatures, 5, 4}, {4, -1, 4}, {4, 5, 4}},
-        };
-        for (const auto& [given, shown, written] : cases) {
-            MeasureBench t(given, given[0] ? L"1" : nullptr);
-            t.bench.visit(t.screen, [&] {
-                QCOMPARE(t.indices(), shown);
-                // Reading writes nothing.
-                for (std::size_t i = 0; i < 3; ++i)
-                    QCOMPARE(t.stored()[i], given[i].value_or(ScreenTestBench::NotStored));
-            });
-            QCOMPARE(t.stored(), written);
         }
     }
 };
