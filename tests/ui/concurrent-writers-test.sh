@@ -91,5 +91,4 @@ check "no command met a locked database" 0 "$(cat "$work"/*.err | grep -ci "lock
 kill "$program_pid"
 check "the program keeps running throughout" 0 $?
 wait "$program_pid" 2>/dev/null
-
 finish

@@ -1,9 +1,8 @@
 #!/usr/bin/env bash
-# Kills mid-write: SIGKILL at a random moment of each write path (a setting written, a favourite added, a
-# favourite removed, a forecast imported, rates imported, the first start's load). After every kill the
-# state must open (settings, favourites, rates and weather exit 0 and say nothing on standard error) and
-# show everything as it was before the write or everything as after it, never a mix.
-# Usage: kill-writes-test.sh PROGRAM DEVICE_ROOT [--long]. Kills per path: 50, 500 with --long, or
+# Kills mid-write: SIGKILL at a random moment of each write path (a setting written, a favourite added or
+# removed, a forecast or rates imported, the first start's load). After every kill the state must open (its
+# readers exit 0 and say nothing on standard error) and show all as before the write or all as after, never a
+# mix. Usage: kill-writes-test.sh PROGRAM DEVICE_ROOT [--long]; kills per path: 50, 500 with --long, or
 # WANDERKIT_KILLS. The paths run side by side, each on its own state.
 set -u
 program=$1

@@ -38,7 +38,6 @@ png_signature() { od -An -tx1 -N8 "$1" | tr -d ' \n'; }
 # shellcheck disable=SC2317 # called through status
 run() { env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM \
     "$program" --state-dir "$work/map" --now "2026-03-20 13:00:00" map "$@"; }
-
 check "the default map exits 0, a PNG of 1024x512" "0 89504e470d0a1a0a 1024x512" \
     "$(status run "$work/default.png") $(png_signature "$work/default.png") $(png_size "$work/default.png")"
 # The handheld's picture up to 240x138, the large one above; --markers needs no display either.
