@@ -8,19 +8,16 @@ mkdir -m 700 "$XDG_RUNTIME_DIR"
 failures=0
 
 check() { # description, expected, actual
-    if [ "$2" != "$3" ]; then
-        echo "FAIL: $1: expected $2, got $3"
-        failures=$((failures + 1))
-    else
-        echo "ok: $1"
-    fi
+    if [ "$2" = "$3" ]; then echo "ok: $1"; else echo "FAIL: $1: expected $2, got $3" && failures=$((failures + 1)); fi
 }
 
+# Runs a command with its output in $work/out and $work/err, and prints its exit status.
+status() { "$@" >"$work/out" 2>"$work/err"; echo $?; }
+# "yes" when $work/err holds every one of the texts.
+says() { for text; do grep -qF -- "$text" "$work/err" || { echo no && return; }; done && echo yes; }
+
 # Ends the script: 0 when every check passed.
-finish() {
-    echo "$failures failed"
-    exit $((failures > 0))
-}
+finish() { echo "$failures failed" && exit $((failures > 0)); }
 
 # A rates file as the European Central Bank publishes it: the dollar's rate and one rate for every other
 # currency of a currency list ("N\nCODE_Name_rate#..."), all per euro.

@@ -34,6 +34,20 @@ std::pair<QString, QStringList> table(int wearer, int garment)
     return {ToQString(StringTable::Load(found->titleId)), rows};
 }
 
+// A title band as the handheld writes it: the text's cell's top-left corner at (5, 0), baseline at the ascent.
+QImage titleBand(const QString& title)
+{
+    const QFont font = Painting::makeFont(24, Painting::Bold);
+    QImage band(240, 25, QImage::Format_RGB32);
+    band.fill(QColor(0, 178, 235));
+    QPainter painter(&band);
+    painter.setFont(font);
+    painter.setPen(Qt::white);
+    painter.drawText(5, QFontMetrics(font).ascent(), title);
+    painter.end();
+    return band;
+}
+
 // The screen, its chooser and its two lists.
 struct DialingBench
 {
@@ -56,49 +70,7 @@ class ReferenceScreensTest : public QObject
 
 private slots:
     // ---- Clothing sizes.
-    void eachWearerShowsItsGarmentsAndTheChosenTable()
-    {
-        ScreenTestBench bench;
-        ClothingScreen screen(bench.environment, bench.window);
-        bench.store(Settings::ClothesKind, 3);
-        bench.visit(screen, [&] {
-            auto* wearer = child<Spinner>(screen, "wearerSpinner");
-            auto* garment = child<Spinner>(screen, "garmentSpinner");
-            QCOMPARE(wearer->items(), texts(ClothingSizes::Wearers()));
-            wearer->setFocus();
-            for (int i = 0; i < 3; ++i, bench.press(Qt::Key_Right)) {
-                const int shown = i == 0 ? 3 : 0; // another wearer starts on the first garment
-                QCOMPARE(wearer->currentIndex(), i);
-                QCOMPARE(garment->items(), texts(ClothingSizes::Garments(i)));
-                QCOMPARE(garment->currentIndex(), shown);
-                QCOMPARE(std::pair(screen.tableTitle(), screen.shownRows()), table(i, shown));
-            }
-            QCOMPARE(wearer->currentIndex(), 2); // the wearer list does not wrap
-        });
-    }
-
-    void shiftStepsHideTenCharactersEachUpToTwenty()
-    {
-        const std::pair<Qt::Key, int> steps[] = {{Qt::Key_Right, 1}, {Qt::Key_Right, 2}, {Qt::Key_Right, 2},
-            {Qt::Key_Left, 1}, {Qt::Key_Left, 0}, {Qt::Key_Left, 0}, {Qt::Key_Right, 1}};
-        ScreenTestBench bench;
-        ClothingScreen screen(bench.environment, bench.window);
-        bench.visit(screen, [&] {
-            const QStringList unshifted = table(0, 0).second;
-            QCOMPARE(screen.shownRows(), unshifted);
-            QCOMPARE(bench.window.focusWidget(), child<Spinner>(screen, "shiftSpinner"));
-            for (const auto& [key, shift] : steps) {
-                bench.press(key);
-                QCOMPARE(screen.shift(), shift);
-                for (int row = 0; row < 4; ++row)
-                    QCOMPARE(screen.shownRows().at(row), unshifted.at(row).mid(10 * shift));
-            }
-        });
-        // A new visit starts unscrolled.
-        bench.visit(screen, [&] { QCOMPARE(screen.shift(), 0); });
-    }
-
-    void storedChoicesAreReadWithTheirDefaultsAndWrittenOnLeaving()
+    void storedChoicesPickTheGarmentsAndTheTableAndAreWrittenOnLeaving()
     {
         using Case = std::tuple<std::optional<std::uint32_t>, std::optional<std::uint32_t>, int, int>;
         const Case cases[] = {
@@ -109,26 +81,58 @@ private slots:
         for (const auto& [who, cloth, wearer, garment] : cases) {
             ScreenTestBench bench;
             ClothingScreen screen(bench.environment, bench.window);
-            if (who)
-                bench.store(Settings::ClothesWho, *who);
-            if (cloth)
-                bench.store(Settings::ClothesKind, *cloth);
+            for (const auto& [setting, value] :
+                {std::pair(&Settings::ClothesWho, who), {&Settings::ClothesKind, cloth}})
+                if (value)
+                    bench.store(*setting, *value);
+            const auto stored
+                = [&] { return std::pair(bench.stored(Settings::ClothesWho), bench.stored(Settings::ClothesKind)); };
             bench.visit(screen, [&] {
-                QCOMPARE(child<Spinner>(screen, "wearerSpinner")->currentIndex(), wearer);
-                QCOMPARE(child<Spinner>(screen, "garmentSpinner")->currentIndex(), garment);
-                QCOMPARE(screen.tableTitle(), table(wearer, garment).first);
-                // Reading writes no default back.
-                QCOMPARE(bench.stored(Settings::ClothesWho), who.value_or(ScreenTestBench::NotStored));
-                QCOMPARE(bench.stored(Settings::ClothesKind), cloth.value_or(ScreenTestBench::NotStored));
+                auto* garments = child<Spinner>(screen, "garmentSpinner");
+                QCOMPARE(std::pair(child<Spinner>(screen, "wearerSpinner")->currentIndex(), garments->currentIndex()),
+                    std::pair(wearer, garment));
+                QCOMPARE(garments->items(), texts(ClothingSizes::Garments(wearer)));
+                QCOMPARE(std::pair(screen.tableTitle(), screen.shownRows()), table(wearer, garment));
             });
             // Leaving writes what was shown.
-            QCOMPARE(bench.stored(Settings::ClothesWho), static_cast<std::uint32_t>(wearer));
-            QCOMPARE(bench.stored(Settings::ClothesKind), static_cast<std::uint32_t>(garment));
+            QCOMPARE(stored(), std::pair(std::uint32_t(wearer), std::uint32_t(garment)));
         }
     }
 
+    void anotherWearerStartsOnItsFirstGarmentAndShiftStepsHideTenCharactersEachUpToTwenty()
+    {
+        const std::pair<Qt::Key, int> steps[] = {{Qt::Key_Right, 1}, {Qt::Key_Right, 2}, {Qt::Key_Right, 2},
+            {Qt::Key_Left, 1}, {Qt::Key_Left, 0}, {Qt::Key_Left, 0}, {Qt::Key_Right, 1}};
+        ScreenTestBench bench;
+        ClothingScreen screen(bench.environment, bench.window);
+        bench.store(Settings::ClothesKind, 3);
+        bench.visit(screen, [&] {
+            auto* wearer = child<Spinner>(screen, "wearerSpinner");
+            auto* shifter = child<Spinner>(screen, "shiftSpinner");
+            QCOMPARE(bench.window.focusWidget(), shifter);
+            QCOMPARE(wearer->items(), texts(ClothingSizes::Wearers()));
+            wearer->setFocus();
+            for (const int next : {1, 2, 2}) { // the wearer list does not wrap
+                bench.press(Qt::Key_Right);
+                QCOMPARE(std::pair(wearer->currentIndex(), child<Spinner>(screen, "garmentSpinner")->currentIndex()),
+                    std::pair(next, 0));
+                QCOMPARE(screen.tableTitle(), table(next, 0).first);
+            }
+            const QStringList unshifted = table(2, 0).second;
+            shifter->setFocus();
+            for (const auto& [key, shift] : steps) {
+                bench.press(key);
+                QCOMPARE(screen.shift(), shift);
+                for (int row = 0; row < unshifted.size(); ++row)
+                    QCOMPARE(screen.shownRows().at(row), unshifted.at(row).mid(10 * shift));
+            }
+        });
+        // A new visit starts unscrolled.
+        bench.visit(screen, [&] { QCOMPARE(screen.shift(), 0); });
+    }
+
     // ---- Dialing codes.
-    void theChooserShowsOneListAndTheArrowsReachIt()
+    void underTheTitleTheFramedChooserShowsOneListAndTheArrowsReachIt()
     {
         DialingBench t;
         const auto international = std::pair(true, false);
@@ -138,99 +142,66 @@ private slots:
             = {{Qt::Key_Right, areaCodes}, {Qt::Key_Right, areaCodes}, // no third table
                 {Qt::Key_Left, international}, {Qt::Key_U, areaCodes}, {Qt::Key_X, areaCodes},
                 {Qt::Key_I, international}, {Qt::Key_Right, areaCodes}};
-        for (int pass = 0; pass < 2; ++pass) { // left on the area codes, the next visit starts international again
-            t.bench.visit(t.screen, [&] {
-                QCOMPARE(t.chooser->items(),
-                    (QStringList {QStringLiteral("International Dialing Codes"), QStringLiteral("US Area Codes")}));
-                QCOMPARE(t.bench.window.focusWidget(), t.chooser);
-                QCOMPARE(t.shown(), international);
-                const QImage internationalShown = t.bench.render();
-                for (const auto& [key, shown] : steps) {
-                    t.bench.press(key);
-                    QCOMPARE(t.shown(), shown);
-                    QCOMPARE(t.chooser->currentIndex(), shown.first ? 0 : 1);
-                    if (key == Qt::Key_I)
-                        QCOMPARE(t.bench.render(), internationalShown);
-                }
-                if (pass == 1)
-                    return;
-                // The arrow keys reach the shown list, and Up from its first row comes back to the chooser.
-                t.bench.press(Qt::Key_Down);
-                QCOMPARE(t.bench.window.focusWidget(), t.areaCodes());
-                t.bench.press(Qt::Key_Down);
-                t.bench.press(Qt::Key_Down);
-                QCOMPARE(t.areaCodes()->currentIndex().row(), 1);
-                QCOMPARE(t.areaCodes()->selectedItems().size(), 1);
-                t.bench.press(Qt::Key_Up);
-                t.bench.press(Qt::Key_Up);
-                QCOMPARE(t.bench.window.focusWidget(), t.chooser);
-            });
-        }
-    }
-
-    void theTitleStartsAtTheBandsTopLeftAndTheChooserIsFramed()
-    {
-        // The text as the handheld writes it: its cell's top-left corner at (5, 0), baseline at the ascent.
-        const QFont font = Painting::makeFont(24, Painting::Bold);
-        QImage expected(240, 25, QImage::Format_RGB32);
-        expected.fill(QColor(0, 178, 235));
-        {
-            QPainter painter(&expected);
-            painter.setFont(font);
-            painter.setPen(Qt::white);
-            painter.drawText(5, QFontMetrics(font).ascent(), QStringLiteral("Dialing codes"));
-        }
-        DialingBench t;
         t.bench.visit(t.screen, [&] {
-            const QImage image = t.bench.render();
-            QCOMPARE(image.copy(0, 0, 240, 25).convertToFormat(QImage::Format_RGB32), expected);
+            QCOMPARE(t.chooser->items(),
+                (QStringList {QStringLiteral("International Dialing Codes"), QStringLiteral("US Area Codes")}));
+            QCOMPARE(t.bench.window.focusWidget(), t.chooser);
+            QCOMPARE(t.shown(), international);
+            const QImage internationalShown = t.bench.render();
+            QCOMPARE(internationalShown.copy(0, 0, 240, 25).convertToFormat(QImage::Format_RGB32),
+                titleBand(QStringLiteral("Dialing codes")));
             // The frame runs one pixel outside the chooser at (6, 31), 223 x 24.
             for (const QPoint point : {QPoint(5, 40), QPoint(229, 40), QPoint(100, 30), QPoint(100, 55)})
-                QCOMPARE(image.pixelColor(point), QColor(Qt::black));
-            QVERIFY(image.pixelColor(4, 40) != QColor(Qt::black));
+                QCOMPARE(internationalShown.pixelColor(point), QColor(Qt::black));
+            QVERIFY(internationalShown.pixelColor(4, 40) != QColor(Qt::black));
+            for (const auto& [key, shown] : steps) {
+                t.bench.press(key);
+                QCOMPARE(t.shown(), shown);
+                QCOMPARE(t.chooser->currentIndex(), shown.first ? 0 : 1);
+            }
+            // The arrow keys reach the shown list, and Up from its first row comes back to the chooser.
+            t.bench.press(Qt::Key_Down);
+            QCOMPARE(t.bench.window.focusWidget(), t.areaCodes());
+            t.bench.press(Qt::Key_Down);
+            t.bench.press(Qt::Key_Down);
+            QCOMPARE(t.areaCodes()->currentIndex().row(), 1);
+            QCOMPARE(t.areaCodes()->selectedItems().size(), 1);
+            t.bench.press(Qt::Key_Up);
+            t.bench.press(Qt::Key_Up);
+            QCOMPARE(t.bench.window.focusWidget(), t.chooser);
         });
+        // Left on the area codes, the next visit starts on the international codes again.
+        t.bench.visit(
+            t.screen, [&] { QCOMPARE(std::pair(t.shown(), t.chooser->currentIndex()), std::pair(international, 0)); });
     }
 
-    void theListsHoldEveryRowInTableOrderOnce()
+    void theListsHoldEveryRowOnceInColumnsThatFollowTheWorkArea()
     {
         // The tables are tested with them; here, which field lands in which column, from the first row to
         // the last, and no row twice after a second opening.
         const auto rows = [](const ReportList* list) {
-            return QStringList {list->text(0, 0), list->text(0, 1), list->text(0, 2),
-                list->text(list->rowCount() - 1, 0), list->text(list->rowCount() - 1, 1),
-                list->text(list->rowCount() - 1, 2), QString::number(list->rowCount())};
-        };
-        DialingBench t;
-        for (int pass = 0; pass < 2; ++pass) {
-            t.bench.visit(t.screen, [&] {
-                QCOMPARE(rows(t.countries()).join(u'|'), QStringLiteral("Afghanistan|+93|+4.5|Zimbabwe|+263|+2|244"));
-                QCOMPARE(
-                    rows(t.areaCodes()).join(u'|'), QStringLiteral("Akron|Ohio(OH)|+330|Wyoming|Wyoming(WY)|+307|259"));
-            });
-        }
-    }
-
-    void columnWidthsFollowTheWorkArea()
-    {
-        using Case = std::tuple<QSize, QList<int>, QList<int>>;
-        const Case cases[] = {
-            {{240, 268}, {108, 62, 49}, {84, 96, 40}},
-            {{268, 240}, {120, 69, 55}, {93, 107, 45}},
+            const int last = list->rowCount() - 1;
+            return QStringList {list->text(0, 0), list->text(0, 1), list->text(0, 2), list->text(last, 0),
+                list->text(last, 1), list->text(last, 2), QString::number(last + 1)}
+                .join(u'|');
         };
         const auto widths = [](const ReportList* list) {
             return QList {list->columnWidth(0), list->columnWidth(1), list->columnWidth(2)};
         };
+        using Case = std::tuple<QSize, QList<int>, QList<int>>;
+        const Case cases[] = {{{240, 268}, {108, 62, 49}, {84, 96, 40}}, {{268, 240}, {120, 69, 55}, {93, 107, 45}}};
         DialingBench t;
-        t.bench.visit(t.screen, [&] {
-            for (const auto& [area, countryWidths, cityWidths] : cases) {
+        for (const auto& [area, countryWidths, cityWidths] : cases) {
+            t.bench.visit(t.screen, [&] {
+                QCOMPARE(rows(t.countries()), QStringLiteral("Afghanistan|+93|+4.5|Zimbabwe|+263|+2|244"));
+                QCOMPARE(rows(t.areaCodes()), QStringLiteral("Akron|Ohio(OH)|+330|Wyoming|Wyoming(WY)|+307|259"));
                 t.bench.window.setWorkArea(area);
                 QCOMPARE(t.areaCodes()->geometry(), QRect(0, 61, area.width(), area.height() - 61));
                 QCOMPARE(widths(t.countries()), countryWidths);
                 t.bench.press(Qt::Key_Right); // the area codes are sized when they are shown
                 QCOMPARE(widths(t.areaCodes()), cityWidths);
-                t.bench.press(Qt::Key_Left);
-            }
-        });
+            });
+        }
     }
 };
 

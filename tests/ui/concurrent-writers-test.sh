@@ -1,11 +1,9 @@
 #!/usr/bin/env bash
 # shellcheck disable=SC2317 # the round functions are called through run_writer
-# Writers at once: while the program has the state open and a reader reads it, processes write it all at
-# the same time: `settings set`, `favourites add` and `remove`, `forecast import` and `rates import`. No
-# command may fail (a write that waited too long for the lock exits 1) or mention a lock, and a later
-# read sees each writer's last value.
-# Usage: concurrent-writers-test.sh PROGRAM DEVICE_ROOT. WANDERKIT_WRITES sets the rounds of each writer
-# (default 20).
+# Writers at once: while the program has the state open and a reader reads it, processes write it all at the
+# same time: `settings set`, `favourites add` and `remove`, `forecast import` and `rates import`. No command may
+# fail (a write that waited too long for the lock exits 1) or mention a lock, and a later read sees each writer's
+# last value. Usage: concurrent-writers-test.sh PROGRAM DEVICE_ROOT; WANDERKIT_WRITES rounds a writer (20).
 set -u
 program=$1
 device_root=$2
@@ -31,9 +29,7 @@ done
 # Each writer counts its failed commands into $work/NAME.failed; messages go to $work/NAME.err.
 run_writer() { # name, function, its words after the round's number
     local failed=0 i
-    for i in $(seq "$writes"); do
-        "$2" "$i" "${@:3}" 2>>"$work/$1.err" || failed=$((failed + 1))
-    done
+    for i in $(seq "$writes"); do "$2" "$i" "${@:3}" 2>>"$work/$1.err" || failed=$((failed + 1)); done
     echo "$failed" >"$work/$1.failed"
 }
 # Settings writer w writes w*1000+i to its own value and to the shared one.
@@ -49,64 +45,50 @@ favourite_round() { # round, city:country
 forecast_round() { wk forecast import "$work/forecast$1.json" --favourite Paris >/dev/null; }
 rates_round() { wk rates import "$work/rates$1.xml" >/dev/null; }
 
-# The reader lists and reads until the writers are done; each read must succeed.
+# The reader lists and reads until the writers are done; it counts the rounds in which a read failed.
 reader() {
     local failed=0 value
     while [ ! -e "$work/done" ]; do
-        settings >/dev/null 2>>"$work/reader.err" || failed=$((failed + 1))
-        value=$(settings get Wanderkit\\hostile shared 2>>"$work/reader.err") || failed=$((failed + 1))
-        [[ "$value" =~ ^[0-9]+$ ]] || failed=$((failed + 1))
-        wk favourites >/dev/null 2>>"$work/reader.err" || failed=$((failed + 1))
-        wk rates >/dev/null 2>>"$work/reader.err" || failed=$((failed + 1))
+        { settings >/dev/null && value=$(settings get Wanderkit\\hostile shared) && [[ "$value" =~ ^[0-9]+$ ]] &&
+            wk favourites >/dev/null && wk rates >/dev/null; } 2>>"$work/reader.err" || failed=$((failed + 1))
     done
     echo "$failed" >"$work/reader.failed"
 }
 
 started=$(date +%s%N)
-reader &
-reader_pid=$!
-pids=()
-for w in 1 2; do
-    run_writer "settings$w" settings_round "$w" &
-    pids+=($!)
-done
+run_writer settings1 settings_round 1 &
+run_writer settings2 settings_round 2 &
 run_writer favourites1 favourite_round Coro:Venezuela &
-pids+=($!)
 run_writer favourites2 favourite_round Leiria:Portugal &
-pids+=($!)
 run_writer forecast forecast_round &
-pids+=($!)
 run_writer rates rates_round &
-pids+=($!)
-for pid in "${pids[@]}"; do wait "$pid"; done
+writers=$(jobs -p | grep -vx "$program_pid")
+reader &
+# shellcheck disable=SC2086 # the writers' ids are words
+wait $writers
 touch "$work/done"
-wait "$reader_pid"
+wait "$!"
 # 4 settings writes, 2 favourites writes (one fewer in the last round), a forecast and rates a round.
 echo "$((10 * writes - 2)) writes by six processes in $((($(date +%s%N) - started) / 1000000)) ms"
 
-for writer in settings1 settings2 favourites1 favourites2 forecast rates; do
-    check "$writer: every one of its writes succeeds" 0 "$(cat "$work/$writer.failed")"
+for name in settings1 settings2 favourites1 favourites2 forecast rates reader; do
+    check "$name: every one of its commands succeeds" 0 "$(cat "$work/$name.failed")"
 done
-check "the reader: every read succeeds" 0 "$(cat "$work/reader.failed")"
-for w in 1 2; do
-    check "settings writer $w: a later read sees its last value" $((w * 1000 + writes)) \
-        "$(settings get Wanderkit\\hostile "writer$w")"
-done
+check "each settings writer's last value is read back" "$((1000 + writes)) $((2000 + writes))" \
+    "$(settings get Wanderkit\\hostile writer1) $(settings get Wanderkit\\hostile writer2)"
 shared=$(settings get Wanderkit\\hostile shared)
 check "the shared setting ($shared) is a writer's last write" yes \
     "$([ "$shared" = $((1000 + writes)) ] || [ "$shared" = $((2000 + writes)) ] && echo yes)"
 favourites=$(wk favourites)
-check "each favourites writer's city is there once" "1 1" \
-    "$(grep -c "^Coro	" <<<"$favourites") $(grep -c "^Leiria	" <<<"$favourites")"
-check "Paris holds the last forecast" "Paris	2988507	19/06/$((2000 + writes))	France" "$(grep "^Paris	" <<<"$favourites")"
+check "each favourites writer's city is there once; Paris holds the last forecast" \
+    "1 1 Paris	2988507	19/06/$((2000 + writes))	France" \
+    "$(grep -c "^Coro	" <<<"$favourites") $(grep -c "^Leiria	" <<<"$favourites") $(grep "^Paris	" <<<"$favourites")"
 # The last file alone, imported into a copy of the state, gives the same rates.
 cp -r "$state" "$work/reference"
 state="$work/reference" wk rates import "$work/rates$writes.xml" >/dev/null
 check "the rates are the last file's" "$(state="$work/reference" wk rates)" "$(wk rates)"
 check "no command met a locked database" 0 "$(cat "$work"/*.err | grep -ci "locked")"
-kill -0 "$program_pid" 2>/dev/null
-check "the program keeps running throughout" 0 $?
 kill "$program_pid"
+check "the program keeps running throughout" 0 $?
 wait "$program_pid" 2>/dev/null
-
 finish
