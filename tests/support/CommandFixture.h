@@ -3,6 +3,7 @@
 
 #include "CommandResult.h"
 #include "TempDir.h"
+#include "device/SystemDeviceClock.h"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +12,11 @@
 class CommandFixture : public ::testing::Test
 {
 protected:
-    DeviceOptions options(const char* at = nullptr) const;
+    DeviceOptions options(const char* at = nullptr) const
+    {
+        const char* time = at ? at : now;
+        return {state.path(), device.path(), time ? SystemDeviceClock::parseLocalTime(time) : std::nullopt};
+    }
     CommandResult run(const std::string& command, const std::vector<std::string>& args, const char* at = nullptr) const
     {
         return CommandResult::of(command, args, options(at));

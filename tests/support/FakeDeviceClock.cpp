@@ -5,15 +5,6 @@
 
 #include <ctime>
 
-FakeDeviceClock::FakeDeviceClock()
-    : FakeDeviceClock(at(2026, 1, 1, 12, 0, 0))
-{ }
-
-FakeDeviceClock::FakeDeviceClock(const SystemTime& start, std::int32_t bias)
-    : m_now(start)
-    , m_bias(bias)
-{ }
-
 SystemTime FakeDeviceClock::at(int year, int month, int day, int hour, int minute, int second, int ms)
 {
     std::tm tm {};
