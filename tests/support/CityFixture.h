@@ -13,10 +13,6 @@
 // city with the location code 1000 + its position.
 struct CityFixture
 {
-    // C0000 on +1 with a European rule, C0684 on -5 with a North American one, C0010 on +5:30.
-    static inline const std::map<int, std::string> ThreeZones {
-        {0, "1;1;88;2;298;3"}, {684, "-5;1;67;2;305;2"}, {10, "530;0;0;0;0;0"}};
-
     static void write(const TempDir& root, const std::map<int, std::string>& zones)
     {
         std::string cities = "Test cities\n1000\n";
