@@ -1,20 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "CityFixture.h"
 #include "CommandFixture.h"
 
 #include <gtest/gtest.h>
 
 #include <tuple>
 
-namespace {
-
-class SettingsCommand : public CommandFixture
-{
-protected:
-    void SetUp() override { CityFixture::write(device, {}); }
-};
-
-} // namespace
+using SettingsCommand = CommandFixture;
 
 TEST_F(SettingsCommand, SetThenGetGivesBackWhatWasStored)
 {
