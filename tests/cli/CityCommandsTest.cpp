@@ -26,7 +26,6 @@ protected:
 TEST_F(CityCommands, CitiesListsTheMatchingCatalogueEntries)
 {
     EXPECT_EQ(std::ranges::count(run("cities", {}).out, '\n'), 1000);
-    EXPECT_EQ(std::ranges::count(run("cities", {"c068"}).out, '\n'), 10);
     EXPECT_TRUE(run("cities", {"c0684"}).printed("684\tC0684\tLand\t2.35\t48.85\t-5\t1:67:2:305:2\n"));
     EXPECT_TRUE(run("cities", {"nowhere"}).printed(""));
 }
