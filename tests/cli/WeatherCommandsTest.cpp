@@ -44,8 +44,13 @@ const std::string TuesdayLine = "1\tTue\t\\wiconset\\rain.bmp\tLight rain\t18 km
 
 TEST_F(WeatherCommands, AnImportedForecastIsPrintedDayByDay)
 {
-    EXPECT_TRUE(import(OpenMeteoFixture::response(5).dump(), {"--favourite=paris"})
-                    .printed("Paris: 5 days from 24/11/2026 to 28/11/2026\n"));
+    // From standard input, without a name: the favourite at the forecast's place. The service answers for
+    // the point of its grid nearest to Paris (48.85 N 2.35 E).
+    std::istringstream input(OpenMeteoFixture::response(5, "2026-11-24", 48.86, 2.34).dump());
+    std::streambuf* const saved = std::cin.rdbuf(input.rdbuf());
+    const CommandResult imported = run("forecast", {"import", "-"});
+    std::cin.rdbuf(saved);
+    EXPECT_TRUE(imported.printed("Paris: 5 days from 24/11/2026 to 28/11/2026\n"));
     EXPECT_NE(run("favourites", {}).out.find("\nParis\t2988507\t28/11/2026\tFrance\n"), std::string::npos);
     const std::string week = run("weather", {"Paris"}).out;
     EXPECT_EQ(std::ranges::count(week, '\n'), 5);
@@ -58,18 +63,6 @@ TEST_F(WeatherCommands, AnImportedForecastIsPrintedDayByDay)
     ASSERT_EQ(run("settings", {"set", "Wanderkit\\weather", "wetp", "99"}).code, 0);
     EXPECT_TRUE(
         run("weather", {}).refused(1, "wanderkit weather: Sorry, Weather Forecast is not available for this City.\n"));
-}
-
-TEST_F(WeatherCommands, ImportsFindTheirFavourite)
-{
-    // From standard input, without a name: by the forecast's place. Rome lies at 41.89 N 12.48 E, the service
-    // answers for the nearest point of its grid.
-    std::istringstream input(OpenMeteoFixture::response(5, "2026-11-24", 41.875, 12.5).dump());
-    std::streambuf* const saved = std::cin.rdbuf(input.rdbuf());
-    const CommandResult imported = run("forecast", {"import", "-"});
-    std::cin.rdbuf(saved);
-    EXPECT_TRUE(imported.printed("Rome: 5 days from 24/11/2026 to 28/11/2026\n"));
-    EXPECT_TRUE(run("weather", {"rome", "--day=1"}).printed(TuesdayLine));
 }
 
 // The reader's own refusals are checked in the weather tests: here one of them, a missing file, favourites
