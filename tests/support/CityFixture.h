@@ -3,7 +3,6 @@
 
 #include "TempDir.h"
 
-#include <cstdio>
 #include <map>
 #include <string>
 
@@ -18,12 +17,11 @@ struct CityFixture
         std::string cities = "Test cities\n1000\n";
         std::string country;
         for (int i = 0; i < 1000; ++i) {
-            char name[8];
-            std::snprintf(name, sizeof name, "C%04d", i);
+            const std::string name = "C" + std::to_string(10000 + i).substr(1);
             const auto zone = zones.find(i);
-            cities += "x;" + std::string(name) + ";Land;2.35;48.85;"
+            cities += "x;" + name + ";Land;2.35;48.85;"
                 + (zone == zones.end() ? std::string("0;0;0;0;0;0") : zone->second) + "\n";
-            country += std::string(name) + ";" + std::to_string(1000 + i) + "\n";
+            country += name + ";" + std::to_string(1000 + i) + "\n";
         }
         root.write("cities.lst", cities);
         root.write("weatcs/Land", country + ">\n");
