@@ -6,10 +6,9 @@
 #include <map>
 #include <string>
 
-// A city catalogue of 1,000 cities named "C0000" to "C0999" of the country "Land", so that catalogue
-// position and name agree. Each city is on GMT and never observes daylight saving unless `zones` gives
-// it "zone;shift;start day;start hour;end day;end hour". The country list "\weatcs\Land" holds every
-// city with the location code 1000 + its position.
+// A catalogue of 1,000 cities "C0000" to "C0999" of the country "Land", named by catalogue position, each on
+// GMT without daylight saving unless `zones` gives it "zone;shift;start day;start hour;end day;end hour".
+// The country list "\weatcs\Land" holds every city with the location code 1000 + its position.
 struct CityFixture
 {
     static void write(const TempDir& root, const std::map<int, std::string>& zones)
