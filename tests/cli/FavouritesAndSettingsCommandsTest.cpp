@@ -63,15 +63,14 @@ using SettingsCommand = CommandFixture;
 
 TEST_F(SettingsCommand, SetThenGetGivesBackWhatWasStored)
 {
-    // VALUE, --type, what get prints. Negative numbers are stored as their two's complement:
-    // -1 is 2^32 - 1 and -2147483648 is 2^31.
+    // VALUE, --type, what get prints (keys ignore case). Negative numbers are stored as their two's
+    // complement: -1 is 2^32 - 1 and -2147483648 is 2^31.
     const std::tuple<std::string, std::string, std::string> cases[] = {{"4294967295", "dword", "4294967295"},
         {"-1", "dword", "4294967295"}, {"-2147483648", "dword", "2147483648"}, {"", "string", ""},
         {"K\xC3\xB6ln \xF0\x9F\x8C\x8D", "string", "K\xC3\xB6ln \xF0\x9F\x8C\x8D"}}; // U+00F6 and U+1F30D
     for (const auto& [value, type, shown] : cases) {
         EXPECT_EQ(run("settings", {"set", "Wanderkit\\currencies", "curval", value, "--type", type}).code, 0);
-        EXPECT_TRUE(
-            run("settings", {"get", "WANDERKIT\\Currencies", "curval"}).printed(shown + "\n")); // keys ignore case
+        EXPECT_TRUE(run("settings", {"get", "WANDERKIT\\Currencies", "curval"}).printed(shown + "\n"));
     }
 }
 

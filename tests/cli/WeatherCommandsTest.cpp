@@ -10,7 +10,7 @@
 
 namespace {
 
-// A device with three catalogue cities, all three as favourites, and the icon mapping. The forecast's
+// A device with three favourites, Paris the one catalogue city, and the icon mapping. The forecast's
 // texts and the days shown after the update day are checked in the weather tests; here the lines as
 // printed, the day chosen and the imports.
 class WeatherCommands : public CommandFixture
@@ -19,9 +19,6 @@ protected:
     void SetUp() override
     {
         now = "2026-11-24 09:00:00";
-        device.write("cities.lst",
-            "Test cities\n3\nx;Paris;France;2.35;48.85;1;1;88;2;298;3\nx;Rome;Italy;12.48;41.89;1;1;88;2;298;3\n"
-            "x;London;United Kingdom;-0.13;51.51;0;1;88;1;298;2\n");
         device.write("cities.wet", "3\nFrance;Paris;2988507\nItaly;Rome;3169070\nUnited Kingdom;London;2643743\n");
         device.write("mapping.cfg", "sunny@00 cloudy@03 rain@61,63 >");
     }
