@@ -10,9 +10,8 @@
 
 namespace {
 
-// A device with three favourites, Paris the one catalogue city, and the icon mapping. The forecast's
-// texts and the days shown after the update day are checked in the weather tests; here the lines as
-// printed, the day chosen and the imports.
+// Three favourites, Paris the one catalogue city, and the icon mapping. The forecast's texts and the days
+// shown after the update day are checked in the weather tests; here the lines, the day chosen, the imports.
 class WeatherCommands : public CommandFixture
 {
 protected:
