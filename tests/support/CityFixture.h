@@ -3,31 +3,24 @@
 
 #include "TempDir.h"
 
-#include <cstdio>
 #include <map>
 #include <string>
 
-// A city catalogue of 1,000 cities named "C0000" to "C0999" of the country "Land", so that catalogue
-// position and name agree. Each city is on GMT and never observes daylight saving unless `zones` gives
-// it "zone;shift;start day;start hour;end day;end hour". The country list "\weatcs\Land" holds every
-// city with the location code 1000 + its position.
+// A catalogue of 1,000 cities "C0000" to "C0999" of the country "Land", named by catalogue position, each on
+// GMT without daylight saving unless `zones` gives it "zone;shift;start day;start hour;end day;end hour".
+// The country list "\weatcs\Land" holds every city with the location code 1000 + its position.
 struct CityFixture
 {
-    // C0000 on +1 with a European rule, C0684 on -5 with a North American one, C0010 on +5:30.
-    static inline const std::map<int, std::string> ThreeZones {
-        {0, "1;1;88;2;298;3"}, {684, "-5;1;67;2;305;2"}, {10, "530;0;0;0;0;0"}};
-
     static void write(const TempDir& root, const std::map<int, std::string>& zones)
     {
         std::string cities = "Test cities\n1000\n";
         std::string country;
         for (int i = 0; i < 1000; ++i) {
-            char name[8];
-            std::snprintf(name, sizeof name, "C%04d", i);
+            const std::string name = "C" + std::to_string(10000 + i).substr(1);
             const auto zone = zones.find(i);
-            cities += "x;" + std::string(name) + ";Land;2.35;48.85;"
+            cities += "x;" + name + ";Land;2.35;48.85;"
                 + (zone == zones.end() ? std::string("0;0;0;0;0;0") : zone->second) + "\n";
-            country += std::string(name) + ";" + std::to_string(1000 + i) + "\n";
+            country += name + ";" + std::to_string(1000 + i) + "\n";
         }
         root.write("cities.lst", cities);
         root.write("weatcs/Land", country + ">\n");

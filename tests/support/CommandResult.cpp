@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CommandResult.h"
 
-#include <gtest/gtest.h>
-
 #include <sstream>
 
 CommandResult CommandResult::of(

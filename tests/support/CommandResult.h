@@ -3,12 +3,10 @@
 
 #include "cli/CommandRunner.h"
 
+#include <gtest/gtest.h>
+
 #include <string>
 #include <vector>
-
-namespace testing {
-class AssertionResult;
-}
 
 // What a text command printed and returned.
 struct CommandResult

@@ -5,24 +5,10 @@
 
 #include <ctime>
 
-FakeDeviceClock::FakeDeviceClock()
-    : FakeDeviceClock(at(2026, 1, 1, 12, 0, 0))
-{ }
-
-FakeDeviceClock::FakeDeviceClock(const SystemTime& start, std::int32_t bias)
-    : m_now(start)
-    , m_bias(bias)
-{ }
-
 SystemTime FakeDeviceClock::at(int year, int month, int day, int hour, int minute, int second, int ms)
 {
-    std::tm tm {};
-    tm.tm_year = year - 1900;
-    tm.tm_mon = month - 1;
-    tm.tm_mday = day;
-    tm.tm_hour = hour;
-    tm.tm_min = minute;
-    tm.tm_sec = second;
+    // In the order of struct tm: second, minute, hour, day, month from 0, year from 1900, then what timegm fills.
+    std::tm tm {second, minute, hour, day, month - 1, year - 1900, 0, 0, 0, 0, nullptr};
     timegm(&tm);
     return SystemDeviceClock::fromTm(tm, ms);
 }

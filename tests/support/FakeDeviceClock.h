@@ -8,8 +8,11 @@ class FakeDeviceClock final : public DeviceClock
 {
 public:
     // Starts on Thursday 1 January 2026, 12:00:00.000, bias 0.
-    FakeDeviceClock();
-    explicit FakeDeviceClock(const SystemTime& start, std::int32_t bias = 0);
+    FakeDeviceClock() = default;
+    explicit FakeDeviceClock(const SystemTime& start, std::int32_t bias = 0)
+        : m_now(start)
+        , m_bias(bias)
+    { }
 
     // A local time with its day of week filled in; milliseconds default to 0.
     static SystemTime at(int year, int month, int day, int hour, int minute, int second, int ms = 0);
@@ -21,6 +24,6 @@ public:
     void advanceMilliseconds(long long milliseconds);
 
 private:
-    SystemTime m_now;
-    std::int32_t m_bias;
+    SystemTime m_now = at(2026, 1, 1, 12, 0, 0);
+    std::int32_t m_bias = 0;
 };

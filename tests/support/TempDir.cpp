@@ -4,7 +4,6 @@
 #include <fstream>
 #include <stdexcept>
 #include <stdlib.h>
-#include <string>
 
 TempDir::TempDir()
 {
