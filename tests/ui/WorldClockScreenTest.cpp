@@ -5,7 +5,6 @@
 #include "ScreenTestBench.h"
 #include "screens/select/SelectDialog.h"
 #include "screens/weather/WeatherOpener.h"
-#include "settings/RegistrySettings.h"
 #include "store/CityCatalogue.h"
 #include "store/WeatherFavourites.h"
 #include "ui/Painting.h"
@@ -14,8 +13,6 @@
 #include <algorithm>
 
 namespace {
-
-const wchar_t* const ClockKey = L"Wanderkit\\wrldclk";
 
 // A bench with the fixture catalogue (or the given cities file) loaded and an empty favourites store.
 struct WorldClockBench
@@ -29,18 +26,10 @@ struct WorldClockBench
         favourites.loadFavouritesOnce();
     }
 
-    // The value of `name` under the clocks' key, or the failed read's status (ValueMissing: the key is there).
-    std::int64_t clock(const wchar_t* name)
-    {
-        const std::uint32_t value = registry.GetDWORD(ClockKey, name);
-        return registry.Status() == RegistrySettings::Read ? std::int64_t(value) : registry.Status();
-    }
-
     ScreenTestBench bench;
     CityCatalogue cities {bench.objects, bench.paths, bench.messages};
     WeatherFavourites favourites {bench.objects, bench.paths, bench.messages};
     WorldClockScreen screen {bench.environment, bench.window, cities, favourites};
-    RegistrySettings registry {bench.settings};
 };
 
 // Records who asked for the weather screen.
@@ -60,21 +49,20 @@ class WorldClockScreenTest : public QObject
 private slots:
     void aFreshDeviceShowsTheDefaultCitiesAndWritesThemOnLeaving()
     {
-        const wchar_t* const names[] = {L"clock", L"clock1", L"clock2", L"clock3", L"clock4"};
         const std::uint32_t cities[] = {0, 684, 756, 565, 988};
         WorldClockBench t;
         t.bench.visit(t.screen, [&] {
+            // "syncltz" is read first and created as 1, which creates the key: the clock values that follow
+            // find their key and are only written when the screen is left.
+            QCOMPARE(t.bench.stored(Settings::SyncLocalZone), 1u);
             for (int slot = 0; slot < 5; ++slot) {
                 QCOMPARE(t.screen.slotCity(slot), cities[slot]);
                 QCOMPARE(t.screen.shownName(slot), QStringLiteral("C%1").arg(cities[slot], 4, 10, QLatin1Char('0')));
-                // "syncltz" is read first and created as 1, which creates the key: the clock values that
-                // follow find their key and are only written when the screen is left.
-                QCOMPARE(t.clock(names[slot]), RegistrySettings::ValueMissing);
+                QCOMPARE(t.bench.stored(*Settings::ClockCities[std::size_t(slot)]), ScreenTestBench::NotStored);
             }
-            QCOMPARE(t.clock(L"syncltz"), 1u);
         });
-        for (int slot = 0; slot < 5; ++slot)
-            QCOMPARE(t.clock(names[slot]), cities[slot]);
+        for (std::size_t slot = 0; slot < 5; ++slot)
+            QCOMPARE(t.bench.stored(*Settings::ClockCities[slot]), cities[slot]);
     }
 
     void theHomeClockFitsItsWidestNameInBothOrientationsAndTheMenuTogglesTwelveHours()
@@ -87,7 +75,7 @@ private slots:
             if (metrics.horizontalAdvance(ToQString(t.cities.Record(i).name))
                 > metrics.horizontalAdvance(ToQString(t.cities.Record(widest).name)))
                 widest = i;
-        t.registry.SetDWORD(ClockKey, L"clock", widest);
+        t.bench.store(Settings::HomeClock, widest);
         t.bench.store(Settings::TwelveHour, 1);
         t.bench.clock.set(FakeDeviceClock::at(2026, 1, 5, 0, 0, 0));
         t.bench.visit(t.screen, [&] {
@@ -171,7 +159,7 @@ private slots:
             });
             t.bench.press(Qt::Key_Return);
             QCOMPARE(t.screen.slotCity(1), 686u);
-            QCOMPARE(t.clock(L"clock1"), 686u);
+            QCOMPARE(t.bench.stored(Settings::Clock1), 686u);
             QCOMPARE(t.screen.shownName(1), QStringLiteral("C0686"));
         });
         QCOMPARE(opener.cities, (std::vector<std::wstring> {L"C0000", L"C0684", L"C0684"}));
