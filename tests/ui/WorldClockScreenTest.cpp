@@ -104,26 +104,6 @@ private slots:
         });
     }
 
-    void homeShowsTheDeviceTimeAndCitiesTheirOwnTickingEverySecond()
-    {
-        // Home C0000 is on +1 with a European rule; C0684 on -5 with a North American one.
-        WorldClockBench t({{0, "1;1;88;2;298;3"}, {684, "-5;1;67;2;305;2"}});
-        t.bench.clock.set(FakeDeviceClock::at(2026, 7, 13, 23, 59, 58, 250)); // a Monday, summer time
-        t.bench.visit(t.screen, [&] {
-            QCOMPARE(t.screen.shownTime(0), QStringLiteral("23:59:58"));
-            QCOMPARE(t.screen.shownDate(0), QStringLiteral("13/7/2026 Done"));
-            // Device time is home time (+2 in summer): GMT 21:59, New York 17:59 (-4).
-            QCOMPARE(t.screen.shownTime(1), QStringLiteral("17:59"));
-            QCOMPARE(t.screen.shownDate(1), QStringLiteral("13/7 Done"));
-            t.bench.advance(1000);
-            QCOMPARE(t.screen.shownTime(0), QStringLiteral("23:59:59"));
-            t.bench.advance(1000);
-            QCOMPARE(t.screen.shownTime(0), QStringLiteral("00:00:00"));
-            QCOMPARE(t.screen.shownDate(0), QStringLiteral("14/7/2026 Tue"));
-            QCOMPARE(t.screen.shownTime(1), QStringLiteral("18:00"));
-        });
-    }
-
     void iconsMakeTheirCitiesFavouritesAndOpenTheirForecastsAndFacesChangeCities()
     {
         WorldClockBench t;
