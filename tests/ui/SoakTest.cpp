@@ -2,12 +2,10 @@
 #include "ScreenTestBench.h"
 #include "screens/map/MapScreen.h"
 #include "screens/worldclock/WorldClockScreen.h"
-#include "settings/SettingsTable.h"
 #include "store/CityCatalogue.h"
 #include "store/WeatherFavourites.h"
 
 #include <QPaintEvent>
-#include <QTest>
 
 #include <algorithm>
 #include <cstdlib>
@@ -85,10 +83,8 @@ int hoursPerStart()
 
 long residentKilobytes()
 {
-    std::ifstream statm("/proc/self/statm");
-    long pages = 0;
-    long resident = 0;
-    statm >> pages >> resident;
+    long pages = 0, resident = 0;
+    std::ifstream("/proc/self/statm") >> pages >> resident;
     return resident * (sysconf(_SC_PAGESIZE) / 1024);
 }
 
@@ -102,7 +98,6 @@ struct PaintLog final : QObject
             ++count, last = static_cast<QPaintEvent*>(event)->rect();
         return false;
     }
-
     int count = 0;
     QRect last;
 };
@@ -137,10 +132,6 @@ struct Rig
 class Soak
 {
 public:
-    explicit Soak(int hours)
-        : m_hours(hours)
-    { }
-
     void run(const Start& start)
     {
         m_clockRig.bench.clock.set(start.from);
@@ -228,7 +219,7 @@ private:
             m_mapSight = &sight;
     }
 
-    int m_hours;
+    const int m_hours = hoursPerStart();
     Rig m_clockRig;
     Rig m_mapRig;
     WorldClockScreen m_clocks {
@@ -252,7 +243,7 @@ class SoakTest : public QObject
 private slots:
     void clocksAndMapRunThroughMidnightsDaylightChangesAndTheYearEndWithFlatMemory()
     {
-        Soak soak(hoursPerStart());
+        Soak soak;
         for (const Start& start : Starts) {
             soak.run(start);
             if (QTest::currentTestFailed())
