@@ -118,65 +118,56 @@ private slots:
         QCOMPARE(t.bench.stored(Settings::MapClock), 2u);
     }
 
-    void markersShowTheClocksCitiesUntilShowCitiesTurnsThemOffAndTheMapFitsOnItsSide()
-    {
-        MapBench t(writePlaces);
-        for (std::uint32_t slot = 1; slot <= 4; ++slot)
-            t.bench.store(*Settings::ClockCities[slot], slot);
-        t.bench.store(Settings::MapClock, 3); // A3 is drawn as the selected city
-        const QRgb selected = MapRenderer::SelectedColour.rgb();
-        t.run([&] {
-            QVERIFY(t.screen.showCities()); // "showcs" absent
-            QVERIFY(t.screen.softKeys()->isItemChecked(Commands::ShowCitiesOnMap));
-            // Where a point lands is the renderer's, which cities are the clocks' is tested with the map's
-            // cities: here, that they are drawn. A0 at longitude 0, latitude 0 is the middle column and row;
-            // A3 at (60, -30) is (120 + 40, 69 + 23).
-            QImage map = t.map();
-            QCOMPARE(map.pixel(120, 69), Marker);
-            QCOMPARE(map.pixel(160, 92), selected);
-            for (const std::uint32_t shown : {0u, 1u}) {
-                t.screen.sendCommand(Commands::ShowCitiesOnMap);
-                QCOMPARE(t.screen.showCities(), shown == 1);
-                QCOMPARE(t.screen.softKeys()->isItemChecked(Commands::ShowCitiesOnMap), shown == 1);
-                QCOMPARE(t.bench.stored(Settings::ShowCities), shown);
-                map = t.map();
-                QCOMPARE(map.pixel(160, 92) == selected && map.pixel(120, 69) == Marker, shown == 1);
-            }
-            t.bench.press(Qt::Key_R, Qt::ControlModifier); // on its side: (240 - 25) x 4 / 7 rows
-            QCOMPARE(t.map().size(), QSize(268, 122));
-            QVERIFY(t.screen.mapLayout().sun.bottom() < 240);
-        });
-    }
-
-    void nightPixelsKeepOnlyTheBlueChannelOfTheDayPicture()
+    void markersShowTheClocksCitiesOnTheDayPictureWhoseNightKeepsOnlyItsBlue()
     {
         // "bmap.jpg", the night picture, is loaded and held but never drawn: night is the day picture's blue.
         MapBench t([](const TempDir& root) {
-            CityFixture::write(root, {});
+            writePlaces(root);
             // A day picture of the map's own size, so that the plain stretch copies it pixel for pixel.
             QVERIFY(patterned(QSize(240, 138)).save(QString::fromStdString((root.path() / "day.jpg").string()), "JPG"));
             QImage white(240, 138, QImage::Format_RGB32);
             white.fill(Qt::white);
             QVERIFY(white.save(QString::fromStdString((root.path() / "bmap.jpg").string()), "JPG"));
         });
-        t.bench.store(Settings::ShowCities, 0);
-        t.bench.store(Settings::MapClock, 1000); // past the last city: the first is shown and written on leaving
+        for (std::uint32_t slot = 1; slot <= 4; ++slot)
+            t.bench.store(*Settings::ClockCities[slot], slot);
+        t.bench.store(Settings::MapClock, 6); // past the last city: the first is shown and written on leaving
         const QImage day(QString::fromStdString((t.bench.root.path() / "day.jpg").string()));
+        const QRgb selected = MapRenderer::SelectedColour.rgb();
         t.run([&] {
             QVERIFY(t.screen.holdsNightPicture());
-            QVERIFY(!t.screen.showCities()); // "showcs" 0
             QCOMPARE(t.screen.selectedCity(), 0);
-            const QImage map = t.map();
+            QVERIFY(t.screen.showCities()); // "showcs" absent
+            QVERIFY(t.screen.softKeys()->isItemChecked(Commands::ShowCitiesOnMap));
+            QImage map = t.map();
             // Every pixel's rule is tested with the renderer; here the screen's picture at known places.
-            // 1 January, 12:00 UTC: night around the antimeridian, day at (0, 0).
-            QCOMPARE(map.pixel(120, 69), day.pixel(120, 69));
+            // 1 January, 12:00 UTC: night around the antimeridian, day at (0, -53), in the southern summer.
             QCOMPARE(map.pixel(0, 69), qRgb(0, 0, qBlue(day.pixel(0, 69))));
+            QCOMPARE(map.pixel(120, 110), day.pixel(120, 110));
+            // Where a point lands is the renderer's, which cities are the clocks' is tested with the map's
+            // cities: here, that they are drawn. A0 at longitude 0, latitude 0 is the middle column and row;
+            // A3 at (60, -30) is (120 + 40, 69 + 23).
+            QCOMPARE(map.pixel(120, 69), selected);
+            QCOMPARE(map.pixel(160, 92), Marker);
+            for (const std::uint32_t shown : {0u, 1u}) {
+                t.screen.sendCommand(Commands::ShowCitiesOnMap);
+                QCOMPARE(t.screen.showCities(), shown == 1);
+                QCOMPARE(t.screen.softKeys()->isItemChecked(Commands::ShowCitiesOnMap), shown == 1);
+                QCOMPARE(t.bench.stored(Settings::ShowCities), shown);
+                map = t.map();
+                QCOMPARE(map.pixel(120, 69) == selected && map.pixel(160, 92) == Marker, shown == 1);
+            }
+            t.bench.press(Qt::Key_R, Qt::ControlModifier); // on its side: (240 - 25) x 4 / 7 rows
+            QCOMPARE(t.map().size(), QSize(268, 122));
+            QVERIFY(t.screen.mapLayout().sun.bottom() < 240);
         });
         // Nor is anything said about either picture: the fixture's only message is its missing favourites file.
         for (const auto& message : t.bench.messages.messages)
             QVERIFY(message.text.find(L"jpg") == std::wstring::npos);
         QVERIFY(t.bench.boxes.shown.empty());
         QCOMPARE(t.bench.stored(Settings::MapClock), 0u);
+        t.bench.store(Settings::ShowCities, 0);
+        t.run([&] { QVERIFY(!t.screen.showCities()); });
     }
 
     void theCityTimeAndItsSunFollowTheZoneAndDaylightSaving()
