@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <fstream>
+#include <tuple>
 #include <unistd.h>
 #include <utility>
 #include <vector>
@@ -29,13 +30,7 @@ constexpr long long TicksPerSecond = 1000 / MapScreen::TickMilliseconds;
 constexpr long long TicksPerHour = 3600 * TicksPerSecond;
 
 // What a clock's time and date read at a device time; the map shows the same time for its city.
-struct Sight
-{
-    SystemTime at;
-    Slot slot;
-    const char* time;
-    const char* date;
-};
+using Sight = std::tuple<SystemTime, Slot, const char*, const char*>;
 
 struct Start
 {
@@ -164,8 +159,10 @@ private:
             checkMapRepaint(tick);
             if (tick % TicksPerSecond == 0)
                 checkClockRepaint();
-            lookAtMap();
-            for (; sight != start.sights.end() && sight->at == m_clockRig.bench.clock.localTime(); ++sight)
+            // The map's tick rebuilds its city time before it notices a change of offset: it is read a tick later.
+            if (m_mapSight)
+                QCOMPARE(m_map.cityTime(), QString::fromLatin1(std::exchange(m_mapSight, nullptr)));
+            for (; sight != start.sights.end() && std::get<0>(*sight) == m_clockRig.bench.clock.localTime(); ++sight)
                 look(*sight);
             if (tick % TicksPerHour == 0) {
                 m_lastHourRss = residentKilobytes();
@@ -201,22 +198,15 @@ private:
         QCOMPARE(area == m_clocks.rect(), midnight);
     }
 
-    // The map's tick rebuilds its city time before it notices a change of offset, so it is read a tick later.
-    void lookAtMap()
-    {
-        if (m_mapSight)
-            QCOMPARE(m_map.cityTime(), QString::fromLatin1(std::exchange(m_mapSight, nullptr)->time));
-    }
-
     void look(const Sight& sight)
     {
-        const QString time = QString::fromLatin1(sight.time);
-        QCOMPARE(m_clocks.shownTime(sight.slot), time);
-        QCOMPARE(m_clocks.shownDate(sight.slot), QString::fromLatin1(sight.date));
-        if (sight.slot == Home)
-            QCOMPARE(m_map.shownLocalTime(), time);
-        if (sight.slot == m_mapShows)
-            m_mapSight = &sight;
+        const auto& [at, slot, time, date] = sight;
+        QCOMPARE(m_clocks.shownTime(slot), QString::fromLatin1(time));
+        QCOMPARE(m_clocks.shownDate(slot), QString::fromLatin1(date));
+        if (slot == Home)
+            QCOMPARE(m_map.shownLocalTime(), QString::fromLatin1(time));
+        if (slot == m_mapShows)
+            m_mapSight = time;
     }
 
     const int m_hours = hoursPerStart();
@@ -228,7 +218,7 @@ private:
     PaintLog m_clockPaints {m_clocks};
     PaintLog m_mapPaints {m_map};
     Slot m_mapShows = Home;
-    const Sight* m_mapSight = nullptr;
+    const char* m_mapSight = nullptr; // the time the map's city shows from the next tick
     qint64 m_mapKey = 0;
     long m_firstHourRss = 0;
     long m_lastHourRss = 0;
