@@ -31,13 +31,8 @@ constexpr long long TicksPerHour = 3600 * TicksPerSecond;
 
 // What a clock's time and date read at a device time; the map shows the same time for its city.
 using Sight = std::tuple<SystemTime, Slot, const char*, const char*>;
-
-struct Start
-{
-    SystemTime from;
-    Slot mapShows;
-    std::vector<Sight> sights;
-};
+// Where a start begins, the clock whose city the map shows, and the sights in time order.
+using Start = std::tuple<SystemTime, Slot, std::vector<Sight>>;
 
 SystemTime at(int month, int day, int hour, int minute, int second, int year = 2026)
 {
@@ -129,12 +124,13 @@ class Soak
 public:
     void run(const Start& start)
     {
-        m_clockRig.bench.clock.set(start.from);
-        m_mapRig.bench.clock.set(start.from);
-        m_mapShows = start.mapShows;
+        const auto& [from, mapShows, sights] = start;
+        m_clockRig.bench.clock.set(from);
+        m_mapRig.bench.clock.set(from);
+        m_mapShows = mapShows;
         m_mapSight = nullptr;
-        m_mapRig.bench.store(Settings::MapClock, m_mapRig.position(ClockCities[start.mapShows]));
-        m_clockRig.bench.visit(m_clocks, [&] { m_mapRig.bench.visit(m_map, [&] { soak(start); }); });
+        m_mapRig.bench.store(Settings::MapClock, m_mapRig.position(ClockCities[mapShows]));
+        m_clockRig.bench.visit(m_clocks, [&] { m_mapRig.bench.visit(m_map, [&] { soak(sights); }); });
     }
 
     // Resident memory after the last simulated hour less after the first, in kB; both are told.
@@ -146,11 +142,11 @@ public:
     }
 
 private:
-    void soak(const Start& start)
+    void soak(const std::vector<Sight>& sights)
     {
         QCoreApplication::processEvents(); // the first paints
         m_mapKey = m_map.mapPicture().cacheKey();
-        auto sight = start.sights.begin();
+        auto sight = sights.begin();
         for (long long tick = 1; tick <= m_hours * TicksPerHour && !QTest::currentTestFailed(); ++tick) {
             m_clockPaints.count = m_mapPaints.count = 0;
             m_clockRig.bench.advance(MapScreen::TickMilliseconds);
@@ -162,14 +158,14 @@ private:
             // The map's tick rebuilds its city time before it notices a change of offset: it is read a tick later.
             if (m_mapSight)
                 QCOMPARE(m_map.cityTime(), QString::fromLatin1(std::exchange(m_mapSight, nullptr)));
-            for (; sight != start.sights.end() && std::get<0>(*sight) == m_clockRig.bench.clock.localTime(); ++sight)
+            for (; sight != sights.end() && std::get<0>(*sight) == m_clockRig.bench.clock.localTime(); ++sight)
                 look(*sight);
             if (tick % TicksPerHour == 0) {
                 m_lastHourRss = residentKilobytes();
                 m_firstHourRss = m_firstHourRss ? m_firstHourRss : m_lastHourRss; // after a warm-up hour
             }
         }
-        QVERIFY2(sight == start.sights.end() && !m_mapSight, "every crossing was seen");
+        QVERIFY2(sight == sights.end() && !m_mapSight, "every crossing was seen");
     }
 
     // The map: one repaint a tick, of the texts below the map; every 240th tick (60 s) the whole screen, with

@@ -17,9 +17,9 @@ namespace {
 // A bench with the fixture catalogue (or the given cities file) loaded and an empty favourites store.
 struct WorldClockBench
 {
-    explicit WorldClockBench(const std::map<int, std::string>& zones = {}, const std::string& citiesFile = {})
+    explicit WorldClockBench(const std::string& citiesFile = {})
     {
-        CityFixture::write(bench.root, zones);
+        CityFixture::write(bench.root, {});
         if (!citiesFile.empty())
             bench.root.write("cities.lst", citiesFile);
         cities.Load();
@@ -33,9 +33,8 @@ struct WorldClockBench
 };
 
 // Records who asked for the weather screen.
-class RecordingOpener final : public WeatherOpener
+struct RecordingOpener final : WeatherOpener
 {
-public:
     void openWeather(Screen&, const std::wstring& cityName) override { cities.push_back(cityName); }
     std::vector<std::wstring> cities;
 };
@@ -97,7 +96,7 @@ private slots:
 
     void theHomeClockFitsItsWidestNameInBothOrientationsAndTheMenuTogglesTwelveHours()
     {
-        WorldClockBench t({}, TempDir::read(WANDERKIT_SHIPPED_DEVICE_ROOT "/cities.lst"));
+        WorldClockBench t(TempDir::read(WANDERKIT_SHIPPED_DEVICE_ROOT "/cities.lst"));
         // The catalogue's widest name in the home name's full size.
         const QFontMetrics metrics(Painting::makeFont(23, Painting::Bold));
         std::uint32_t widest = 0;
