@@ -43,8 +43,6 @@ struct MapBench
         cities.Load();
     }
 
-    void run(const std::function<void()>& drive) { bench.visit(screen, drive); }
-
     // The map as drawn after a full repaint.
     QImage map()
     {
@@ -70,7 +68,7 @@ private slots:
     {
         MapBench t; // 1,000 cities
         t.bench.store(Settings::MapClock, 999); // the last city, kept
-        t.run([&] {
+        t.bench.visit(t.screen, [&] {
             const int top = t.screen.mapLayout().mapHeight;
             // The parts of the 24-pixel arrows outside the 16-pixel ones: right of the small left arrow
             // (x 5 to 20) and left of the small right arrow (x 219 to 234).
@@ -118,7 +116,7 @@ private slots:
         t.bench.store(Settings::MapClock, 5); // past the last city: the first is shown and written on leaving
         const QImage day(QString::fromStdString((t.bench.root.path() / "day.jpg").string()));
         const QRgb selected = MapRenderer::SelectedColour.rgb();
-        t.run([&] {
+        t.bench.visit(t.screen, [&] {
             QVERIFY(t.screen.holdsNightPicture());
             QCOMPARE(t.screen.selectedCity(), 0);
             QVERIFY(t.screen.showCities()); // "showcs" absent
@@ -151,19 +149,18 @@ private slots:
         QVERIFY(t.bench.boxes.shown.empty());
         QCOMPARE(t.bench.stored(Settings::MapClock), 0u);
         t.bench.store(Settings::ShowCities, 0);
-        t.run([&] { QVERIFY(!t.screen.showCities()); });
+        t.bench.visit(t.screen, [&] { QVERIFY(!t.screen.showCities()); });
     }
 
     void theCityTimeAndItsSunFollowTheZoneAndDaylightSaving()
     {
-        // The device (C0000) is on GMT without a rule. C0684 observes from day 67 (8 March 2026) of its own
-        // date: at 04:59 GMT its date is still 7 March; two minutes later it is 8 March. The local time
-        // follows "twelvehour"; the city's time does not.
+        // The device (C0000) is on GMT. C0684 observes from day 67 (8 March 2026) of its own date, which 04:59 GMT
+        // is not yet; 05:01 is. The local time follows "twelvehour"; the city's time does not.
         MapBench t([](const TempDir& root) { CityFixture::write(root, {{684, "-5;1;67;2;305;2"}}); });
         t.bench.clock.set(FakeDeviceClock::at(2026, 3, 8, 4, 59, 0));
         t.bench.store(Settings::TwelveHour, 1);
         t.bench.store(Settings::MapClock, 684);
-        t.run([&] {
+        t.bench.visit(t.screen, [&] {
             QCOMPARE(t.screen.shownLocalTime(), QStringLiteral("04:59:00 AM"));
             QCOMPARE(t.screen.cityTime(), QStringLiteral("23:59"));
             QCOMPARE(t.screen.sun().utcHours, -5);
