@@ -5,7 +5,6 @@
 #include "ScreenTestBench.h"
 #include "screens/select/SelectDialog.h"
 #include "screens/weather/WeatherOpener.h"
-#include "settings/RegistrySettings.h"
 #include "store/CityCatalogue.h"
 #include "store/WeatherFavourites.h"
 #include "ui/Painting.h"
@@ -15,38 +14,27 @@
 
 namespace {
 
-const wchar_t* const ClockKey = L"Wanderkit\\wrldclk";
-
 // A bench with the fixture catalogue (or the given cities file) loaded and an empty favourites store.
 struct WorldClockBench
 {
-    explicit WorldClockBench(const std::map<int, std::string>& zones = {}, const std::string& citiesFile = {})
+    explicit WorldClockBench(const std::string& citiesFile = {})
     {
-        CityFixture::write(bench.root, zones);
+        CityFixture::write(bench.root, {});
         if (!citiesFile.empty())
             bench.root.write("cities.lst", citiesFile);
         cities.Load();
         favourites.loadFavouritesOnce();
     }
 
-    // The value of `name` under the clocks' key, or the failed read's status (ValueMissing: the key is there).
-    std::int64_t clock(const wchar_t* name)
-    {
-        const std::uint32_t value = registry.GetDWORD(ClockKey, name);
-        return registry.Status() == RegistrySettings::Read ? std::int64_t(value) : registry.Status();
-    }
-
     ScreenTestBench bench;
     CityCatalogue cities {bench.objects, bench.paths, bench.messages};
     WeatherFavourites favourites {bench.objects, bench.paths, bench.messages};
     WorldClockScreen screen {bench.environment, bench.window, cities, favourites};
-    RegistrySettings registry {bench.settings};
 };
 
 // Records who asked for the weather screen.
-class RecordingOpener final : public WeatherOpener
+struct RecordingOpener final : WeatherOpener
 {
-public:
     void openWeather(Screen&, const std::wstring& cityName) override { cities.push_back(cityName); }
     std::vector<std::wstring> cities;
 };
@@ -58,28 +46,71 @@ class WorldClockScreenTest : public QObject
     Q_OBJECT
 
 private slots:
-    void aFreshDeviceShowsTheDefaultCitiesAndWritesThemOnLeaving()
+    void aFreshDevicesIconsMakeFavouritesAndOpenForecastsAndItsFacesChangeCitiesThroughTheSelectDialog()
     {
-        const wchar_t* const names[] = {L"clock", L"clock1", L"clock2", L"clock3", L"clock4"};
         const std::uint32_t cities[] = {0, 684, 756, 565, 988};
         WorldClockBench t;
+        RecordingOpener opener;
+        t.screen.setWeatherOpener(&opener);
         t.bench.visit(t.screen, [&] {
+            // "syncltz" is read first and created as 1, which creates the key: the clock values that follow
+            // find their key and are only written when the screen is left or a city changed.
+            QCOMPARE(t.bench.stored(Settings::SyncLocalZone), 1u);
             for (int slot = 0; slot < 5; ++slot) {
-                QCOMPARE(t.screen.slotCity(slot), cities[slot]);
                 QCOMPARE(t.screen.shownName(slot), QStringLiteral("C%1").arg(cities[slot], 4, 10, QLatin1Char('0')));
-                // "syncltz" is read first and created as 1, which creates the key: the clock values that
-                // follow find their key and are only written when the screen is left.
-                QCOMPARE(t.clock(names[slot]), RegistrySettings::ValueMissing);
+                QCOMPARE(t.bench.stored(*Settings::ClockCities[std::size_t(slot)]), ScreenTestBench::NotStored);
             }
-            QCOMPARE(t.clock(L"syncltz"), 1u);
+            // The home city is made a favourite at once, and "wetp", missing, takes its catalogue index.
+            QCOMPARE(t.favourites.count(), 1);
+            QCOMPARE(t.favourites.getName(0) + L"|" + t.favourites.getLocationCode(0) + L"|"
+                    + t.favourites.getLastUpdate(0) + L"|" + t.favourites.getCountryFile(0),
+                L"C0000|1000|01/01/2000|Land");
+            QCOMPARE(t.bench.stored(Settings::WeatherPosition), 0u);
+            t.bench.press(Qt::Key_Right); // "w": a favourite already, nothing told
+            t.bench.press(Qt::Key_Return);
+            t.bench.press(Qt::Key_Right);
+            t.bench.press(Qt::Key_Right); // "w1": made a favourite first, which is told
+            t.bench.press(Qt::Key_Return);
+            QVERIFY(t.favourites.findByName(L"C0684") != 0);
+            QCOMPARE(t.bench.boxes.shown.size(), std::size_t(1));
+            QCOMPARE(t.bench.boxes.shown[0].text, QStringLiteral("This city has been added to the Favorites List."));
+            t.bench.press(Qt::Key_Return); // nothing more is added
+            QCOMPARE(t.favourites.count(), 2);
+            // The action key on a clock face ("c1") changes its city, written at once.
+            t.bench.press(Qt::Key_Left);
+            t.bench.whenNextShown(t.screen, [&](Screen& dialog) {
+                QCOMPARE(static_cast<SelectDialog&>(dialog).selection(), 684);
+                t.bench.press(Qt::Key_Down);
+                t.bench.press(Qt::Key_Down);
+                dialog.sendCommand(Commands::Done);
+            });
+            t.bench.press(Qt::Key_Return);
+            QCOMPARE(t.bench.stored(Settings::Clock1), 686u);
+            QCOMPARE(t.screen.shownName(1), QStringLiteral("C0686"));
         });
-        for (int slot = 0; slot < 5; ++slot)
-            QCOMPARE(t.clock(names[slot]), cities[slot]);
+        QCOMPARE(opener.cities, (std::vector<std::wstring> {L"C0000", L"C0684", L"C0684"}));
+        for (std::size_t slot = 0; slot < 5; ++slot)
+            QCOMPARE(t.bench.stored(*Settings::ClockCities[slot]), slot == 1 ? 686u : cities[slot]);
+        // The Select dialog the faces open stops at its ends; a selection beyond the list gives nothing back.
+        SelectDialog dialog(t.bench.environment, t.bench.window);
+        dialog.setSelection(998);
+        t.bench.run(dialog, [&] {
+            t.bench.press(Qt::Key_Down);
+            t.bench.press(Qt::Key_Down); // the last city: no wrapping
+            // The panel's lines are the city information's, tested with it; here, the highlighted city's.
+            QCOMPARE(dialog.panelLines().first(), QStringLiteral("City: C0999"));
+            t.bench.press(Qt::Key_Up);
+            t.bench.window.topSoftKeys()->pressLeft(); // "Done"
+        });
+        QCOMPARE(dialog.selection(), 998);
+        dialog.setSelection(5000);
+        t.bench.run(dialog, [&] { dialog.sendCommand(Commands::Done); });
+        QCOMPARE(dialog.selection(), -1);
     }
 
     void theHomeClockFitsItsWidestNameInBothOrientationsAndTheMenuTogglesTwelveHours()
     {
-        WorldClockBench t({}, TempDir::read(WANDERKIT_SHIPPED_DEVICE_ROOT "/cities.lst"));
+        WorldClockBench t(TempDir::read(WANDERKIT_SHIPPED_DEVICE_ROOT "/cities.lst"));
         // The catalogue's widest name in the home name's full size.
         const QFontMetrics metrics(Painting::makeFont(23, Painting::Bold));
         std::uint32_t widest = 0;
@@ -87,7 +118,7 @@ private slots:
             if (metrics.horizontalAdvance(ToQString(t.cities.Record(i).name))
                 > metrics.horizontalAdvance(ToQString(t.cities.Record(widest).name)))
                 widest = i;
-        t.registry.SetDWORD(ClockKey, L"clock", widest);
+        t.bench.store(Settings::HomeClock, widest);
         t.bench.store(Settings::TwelveHour, 1);
         t.bench.clock.set(FakeDeviceClock::at(2026, 1, 5, 0, 0, 0));
         t.bench.visit(t.screen, [&] {
@@ -114,87 +145,6 @@ private slots:
                 QCOMPARE(t.bench.stored(Settings::TwelveHour), twelveHour);
             }
         });
-    }
-
-    void homeShowsTheDeviceTimeAndCitiesTheirOwnTickingEverySecond()
-    {
-        // Home C0000 is on +1 with a European rule; C0684 on -5 with a North American one.
-        WorldClockBench t({{0, "1;1;88;2;298;3"}, {684, "-5;1;67;2;305;2"}});
-        t.bench.clock.set(FakeDeviceClock::at(2026, 7, 13, 23, 59, 58, 250)); // a Monday, summer time
-        t.bench.visit(t.screen, [&] {
-            QCOMPARE(t.screen.shownTime(0), QStringLiteral("23:59:58"));
-            QCOMPARE(t.screen.shownDate(0), QStringLiteral("13/7/2026 Done"));
-            // Device time is home time (+2 in summer): GMT 21:59, New York 17:59 (-4).
-            QCOMPARE(t.screen.shownTime(1), QStringLiteral("17:59"));
-            QCOMPARE(t.screen.shownDate(1), QStringLiteral("13/7 Done"));
-            t.bench.advance(1000);
-            QCOMPARE(t.screen.shownTime(0), QStringLiteral("23:59:59"));
-            t.bench.advance(1000);
-            QCOMPARE(t.screen.shownTime(0), QStringLiteral("00:00:00"));
-            QCOMPARE(t.screen.shownDate(0), QStringLiteral("14/7/2026 Tue"));
-            QCOMPARE(t.screen.shownTime(1), QStringLiteral("18:00"));
-        });
-    }
-
-    void iconsMakeTheirCitiesFavouritesAndOpenTheirForecastsAndFacesChangeCities()
-    {
-        WorldClockBench t;
-        RecordingOpener opener;
-        t.screen.setWeatherOpener(&opener);
-        QCOMPARE(t.favourites.count(), 0);
-        t.bench.visit(t.screen, [&] {
-            QCOMPARE(t.favourites.count(), 1);
-            QCOMPARE(t.favourites.getName(0) + L"|" + t.favourites.getLocationCode(0) + L"|"
-                    + t.favourites.getLastUpdate(0) + L"|" + t.favourites.getCountryFile(0),
-                L"C0000|1000|01/01/2000|Land");
-            // "wetp" was missing: it takes the home city's catalogue index.
-            QCOMPARE(t.bench.stored(Settings::WeatherPosition), 0u);
-            t.bench.press(Qt::Key_Right); // "w": a favourite already
-            t.bench.press(Qt::Key_Return);
-            QVERIFY(t.bench.boxes.shown.empty());
-            t.bench.press(Qt::Key_Right);
-            t.bench.press(Qt::Key_Right); // "w1": made a favourite first, which is told
-            t.bench.press(Qt::Key_Return);
-            QCOMPARE(t.favourites.count(), 2);
-            QVERIFY(t.favourites.findByName(L"C0684") != 0);
-            QCOMPARE(t.bench.boxes.shown.size(), std::size_t(1));
-            QCOMPARE(t.bench.boxes.shown[0].text, QStringLiteral("This city has been added to the Favorites List."));
-            t.bench.press(Qt::Key_Return); // nothing more is added
-            QCOMPARE(t.favourites.count(), 2);
-            // The action key on a clock face ("c1") changes its city.
-            t.bench.press(Qt::Key_Left);
-            t.bench.whenNextShown(t.screen, [&](Screen& dialog) {
-                QCOMPARE(static_cast<SelectDialog&>(dialog).selection(), 684);
-                t.bench.press(Qt::Key_Down);
-                t.bench.press(Qt::Key_Down);
-                dialog.sendCommand(Commands::Done);
-            });
-            t.bench.press(Qt::Key_Return);
-            QCOMPARE(t.screen.slotCity(1), 686u);
-            QCOMPARE(t.clock(L"clock1"), 686u);
-            QCOMPARE(t.screen.shownName(1), QStringLiteral("C0686"));
-        });
-        QCOMPARE(opener.cities, (std::vector<std::wstring> {L"C0000", L"C0684", L"C0684"}));
-    }
-
-    void theSelectDialogStopsAtItsEndsAndAnUnknownSelectionGivesNothing()
-    {
-        WorldClockBench t;
-        SelectDialog dialog(t.bench.environment, t.bench.window);
-        dialog.setSelection(998);
-        t.bench.run(dialog, [&] {
-            t.bench.press(Qt::Key_Down);
-            t.bench.press(Qt::Key_Down); // the last city: no wrapping
-            // The panel's lines are the city information's, tested with it; here, the highlighted city's.
-            QCOMPARE(dialog.panelLines().first(), QStringLiteral("City: C0999"));
-            t.bench.press(Qt::Key_Up);
-            t.bench.window.topSoftKeys()->pressLeft(); // "Done"
-        });
-        QCOMPARE(dialog.selection(), 998);
-        // A starting selection beyond the list selects nothing, and nothing comes back.
-        dialog.setSelection(5000);
-        t.bench.run(dialog, [&] { dialog.sendCommand(Commands::Done); });
-        QCOMPARE(dialog.selection(), -1);
     }
 };
 
