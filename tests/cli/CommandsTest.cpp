@@ -1,0 +1,390 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "CityFixture.h"
+#include "CommandFixture.h"
+#include "EcbFile.h"
+#include "cli/CurrencyCommands.h"
+#include "weather/OpenMeteoFixture.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <iostream>
+#include <sstream>
+#include <tuple>
+
+namespace {
+
+// The fixture catalogue with C0000 as home, on +1 with a European rule, and C0684 on -5 with a North
+// American one; the time and sun arithmetic is checked in the time and astro tests.
+class CityCommands : public CommandFixture
+{
+protected:
+    void SetUp() override
+    {
+        now = "2026-07-13 09:05:00";
+        CityFixture::write(device, {{0, "1;1;88;2;298;3"}, {684, "-5;1;67;2;305;2"}});
+    }
+};
+
+// In name order: British Pound, Euro, Japanese Yen, US Dollar; rates in US dollars per unit. The
+// conversion arithmetic is checked in the currency tests.
+class CurrencyCommands : public CommandFixture
+{
+protected:
+    void SetUp() override
+    {
+        now = "2024-05-20 10:00:00";
+        device.write(
+            "currs.lst", "4\nUSD_US Dollar_1#EUR_Euro_1.25#JPY_Japanese Yen_0.0078125#GBP_British Pound_1.5625#");
+    }
+};
+
+// Two favourites and three country lists; Paris is listed by two countries.
+class FavouritesCommand : public CommandFixture
+{
+protected:
+    void SetUp() override
+    {
+        device.write("cities.wet", "2\nFrance;Paris;2988507\nItaly;Rome;3169070\n");
+        device.write("weatcs/France", "Paris;2988507\nLyon;2996944\r\n>\nNice;2990440\n");
+        device.write("weatcs/United States", "Paris;4717560\nNew York;5128581\n");
+        device.write("weatcs/Italy", "Rome;3169070\n");
+    }
+    CommandResult favourites(const std::vector<std::string>& args) const { return run("favourites", args); }
+};
+
+const std::string Paris = "Paris\t2988507\t01/01/2000\tFrance\n";
+const std::string Rome = "Rome\t3169070\t01/01/2000\tItaly\n";
+
+// Three favourites, Paris the one catalogue city, and the icon mapping. The forecast's texts and the days
+// shown after the update day are checked in the weather tests; here the lines, the day chosen, the imports.
+class WeatherCommands : public CommandFixture
+{
+protected:
+    void SetUp() override
+    {
+        now = "2026-11-24 09:00:00";
+        device.write("cities.wet", "3\nFrance;Paris;2988507\nItaly;Rome;3169070\nUnited Kingdom;London;2643743\n");
+        device.write("mapping.cfg", "sunny@00 cloudy@03 rain@61,63 >");
+    }
+
+    // Writes a forecast file into the state folder and imports it.
+    CommandResult import(const std::string& json, std::vector<std::string> args = {"--favourite", "Paris"})
+    {
+        args.insert(args.begin(), {"import", state.write("forecast.json", json).string()});
+        return run("forecast", args);
+    }
+    std::string storeBytes() const { return TempDir::read(state.path() / "objectstore.db"); }
+};
+
+// 24 November 2026 is a Tuesday. The fixture's day i has highs of 20.6 + i °C (21 °C = 69.8 °F), lows of
+// 12.5 °C (13 °C = 55.4 °F) and felt temperatures of 18.7/10.9 °C (19/11 °C = 66.2/51.8 °F).
+const std::string TuesdayLine = "1\tTue\t\\wiconset\\rain.bmp\tLight rain\t18 km/h, SW\t70\u00B0 : 55\u00B0\t40%\t"
+                                "07:42\t16:58\t66/52\t\t\n";
+
+} // namespace
+
+TEST_F(CityCommands, CitiesListsTheMatchingCatalogueEntries)
+{
+    EXPECT_EQ(std::ranges::count(run("cities", {}).out, '\n'), 1000);
+    EXPECT_TRUE(run("cities", {"c0684"}).printed("684\tC0684\tLand\t2.35\t48.85\t-5\t1:67:2:305:2\n"));
+    EXPECT_TRUE(run("cities", {"nowhere"}).printed(""));
+}
+
+TEST_F(CityCommands, TimeCityAndSunShowWhatTheScreensShow)
+{
+    // With a home on GMT, device time is GMT 09:05 and New York, on summer time, four hours behind.
+    EXPECT_TRUE(run("time", {"684", "--twelve-hour", "--home", "C0001"})
+                    .printed("684\tC0684\t05:05 AM\t13/7 Done\t-4\t1\t8/3/2026\t1/11/2026\n"));
+    EXPECT_TRUE(run("city", {"C0684"}, "2026-01-13 12:00:00")
+                    .printed("City: C0684\nCountry: Land\nLong/Lat: 2.35/48.85\nDaylight Saving: Not observing now\n"
+                             "DST start/end: 8/3/2026-1/11/2026\nTime zone (GMT): -5h\n"));
+
+    // `sun` prints the map's times and the offset used. Every fixture city stands at 2.35 E 48.85 N, read as
+    // whole degrees 2 and 48. Worked with a separate calculator: there the Sun rises at 04:07 UTC and sets at
+    // 19:47 UTC on 13 July 2026, 15:40 of day; on 13 January at 07:39 and 16:22, 08:42 of day.
+    EXPECT_TRUE(run("sun", {"C0000"}).printed("06:07\t21:47\t15:40\t2\n")); // +1 with summer time
+    EXPECT_TRUE(run("sun", {"--date=2026-01-13", "C0000:land"}).printed("08:39\t17:22\t08:42\t1\n"));
+}
+
+TEST_F(CityCommands, UnknownCitiesAndBadRequestsAreUsageErrors)
+{
+    const std::tuple<std::string, std::vector<std::string>, std::string> cases[]
+        = {{"city", {"C068"}, "nearest names are: C0680"}, {"time", {"4000"}, ""},
+            {"time", {"684", "--frobnicate"}, "time: unknown option --frobnicate"}, {"sun", {}, "sun: name one city"},
+            {"sun", {"C0000", "--date", "2026-02-30"}, "--date wants a calendar date YYYY-MM-DD, got \"2026-02-30\""},
+            {"sun", {"C0000", "--when", "today"}, "sun: unexpected \"--when\""}};
+    for (const auto& [command, args, message] : cases)
+        EXPECT_TRUE(run(command, args).refused(2, message)) << command;
+}
+
+TEST_F(CityCommands, TwoCitiesOfOneNameInTwoCountriesAreAmbiguous)
+{
+    device.write("cities.lst", "h\n2\nx;Twin;Alpha;0;0;0;0;0;0;0;0\nx;Twin;Beta;0;0;0;0;0;0;0;0\n");
+    EXPECT_TRUE(run("city", {"twin"}).refused(2, "city:country:\n  0 Twin:Alpha\n  1 Twin:Beta\n"));
+    EXPECT_EQ(run("city", {"Twin:Beta"}).code, 0);
+}
+
+// The rows are checked in the reference tests: here, what is matched and how a row is printed. No match is
+// said on the error stream and is no failure.
+TEST(DialCommand, PrintsMatchingRowsTabSeparated)
+{
+    const std::tuple<std::vector<std::string>, std::string, std::string> cases[] = {
+        {{"KOREA"}, "South Korea\t+82\t+9\nNorth Korea\t+850\t+9\n", ""},
+        {{"--us", "salt", "lake"}, "Salt Lake City\tUtah(UT)\t+801\n", ""}, // several words are one text
+        {{"Atlantis"}, "", "no country contains \"Atlantis\""},
+        {{"--us", "Gotham"}, "", "no city or state contains \"Gotham\""},
+    };
+    for (const auto& [args, out, message] : cases) {
+        const CommandResult r = CommandResult::of("dial", args);
+        EXPECT_EQ(std::tie(r.code, r.out), std::tuple(0, out));
+        EXPECT_EQ(r.err.empty(), message.empty()) << r.err;
+        EXPECT_NE(r.err.find(message), std::string::npos) << r.err;
+    }
+    EXPECT_TRUE(CommandResult::of("dial", {"--uk", "london"}).refused(2, "unknown option --uk"));
+}
+
+// Each table is its title, four rows (their texts are checked in the reference tests) and an empty line.
+TEST(SizesCommand, PrintsEveryMatchingTable)
+{
+    const std::tuple<std::vector<std::string>, long, std::string> cases[] = {
+        {{}, 12, "Men's Shirts\nUSA "}, {{"Children"}, 3, "Children's Clothing\n"},
+        {{"MEN", "shirts", "and", "sweaters"}, 1, "Men's Shirts\n"}, // a garment's words may come apart
+    };
+    for (const auto& [args, tables, first] : cases) {
+        const CommandResult r = CommandResult::of("sizes", args);
+        EXPECT_EQ(std::tuple(r.code, r.out.substr(0, first.size())), std::tuple(0, first)) << r.err;
+        EXPECT_EQ(std::ranges::count(r.out, '\n'), 6 * tables - 1);
+    }
+    EXPECT_TRUE(CommandResult::of("sizes", {"children"})
+                    .out.ends_with("\n\nChildren's Trousers\n"
+                                   "USA           2          4           6            8          10\n"
+                                   "Europe  40-55    50-55    60-65    70-75    80-85\n"
+                                   "UK         16-18    20-22    24-26    28-30    32-34\n"
+                                   "Japan      90        100        110        120       130\n"));
+
+    const std::tuple<std::vector<std::string>, std::string> refused[]
+        = {{{"kids"}, "unknown wearer \"kids\"; choose one of: Men, Women, Children"},
+            {{"men", "bras"}, "unknown garment \"bras\"; choose one of: Shirts and Sweaters, Shoes, Suits, Trousers"},
+            {{"children", "suits"}, "choose one of: Shirts and Sweaters, Shoes, Trousers"},
+            {{"men", "-x"}, "unknown option -x"}};
+    for (const auto& [args, error] : refused)
+        EXPECT_TRUE(CommandResult::of("sizes", args).refused(2, error));
+}
+
+// The conversions themselves are checked in the unit tests: here, how units are found and what is printed.
+using UnitCommands = CommandFixture;
+
+TEST_F(UnitCommands, ConvertFindsUnitsByNameStartOrCode)
+{
+    const std::tuple<std::vector<std::string>, std::string> cases[] = {
+        {{"1", "ton [SHORT, us]", "KG - KILOGRAM"}, "907.000000\n"}, // names ignore case
+        // A negative amount is an amount, not an option; units by code: -0.5 °C is -0.9 + 32 °F.
+        {{"-.5", "4:0", "4:1"}, "31.100000\n"},
+        {{"2", "short", "Tonne"}, "1.814369\n"}, // a unique start of a name: "Short" is "Short ton"
+        {{"1", "yard", "m - Meter"}, "0.914400\n"}, // "Yard" is in three categories; the other unit picks one
+    };
+    for (const auto& [args, expected] : cases)
+        EXPECT_TRUE(run("convert", args).printed(expected)) << args[1];
+    const CommandResult cold = run("convert", {"-300", "4:0", "K - Kelvin"});
+    EXPECT_EQ(std::tie(cold.code, cold.out, cold.err), std::tuple(1, "0\n", "Below Absolute Zero\n"));
+}
+
+TEST_F(UnitCommands, UnitsListsTheCatalogueAndRefusalsNameWhatIsWrong)
+{
+    EXPECT_TRUE(run("units", {"TEMP"})
+                    .printed("Temperatures\n\u00b0C - Degree Celsius\t-\n\u00b0F - Degree "
+                             "Fahrenheit\t-\nDegree Rankine\t-\nDegree Reaumur\t-\nK - Kelvin\t-\n"));
+    EXPECT_EQ(run("units", {"4"}).out, run("units", {"TEMP"}).out);
+    // Seven titles, 126 units, six empty lines between the categories.
+    const CommandResult all = run("units", {});
+    EXPECT_EQ(std::ranges::count(all.out, '\n'), 7 + 126 + 6);
+    EXPECT_TRUE(all.out.starts_with("Areas and Surfaces\nyard\t0.83612736\n"));
+
+    const std::tuple<std::string, std::vector<std::string>, std::string> cases[]
+        = {{"convert", {"1", "yard", "yard"},
+               "\"yard\" names several units; give one of:\n  0:0\tyard (Areas and Surfaces)\n"
+               "  1:0\tYard (Lengths and Distances)\n  5:0\tYard (Volumes)\n"},
+            {"convert", {"1", "furlong", "m - Meter"}, "no unit is named \"furlong\""},
+            {"convert", {"1", "4:5", "4:0"}, "no unit is named \"4:5\""},
+            {"convert", {"1", "Mile", "Liter"}, "\"Mile\" and \"Liter\" are not units of one category"},
+            {"convert", {"1", "Mile"}, "usage: wanderkit convert AMOUNT FROM TO"},
+            {"convert", {"1", "Mile", "km", "--fast"}, "unknown option --fast"},
+            {"units", {"colours"}, "no category \"colours\"; choose 0 to 6 or one of: Areas and Surfaces, "}};
+    for (const auto& [command, args, message] : cases)
+        EXPECT_TRUE(run(command, args).refused(2, message));
+    // The same word on both sides is listed once; different ambiguous words each.
+    EXPECT_EQ(std::ranges::count(run("convert", {"1", "yard", "yard"}).err, '\n'), 4);
+    EXPECT_EQ(std::ranges::count(run("convert", {"1", "yard", "Yard"}).err, '\n'), 8);
+}
+
+TEST_F(CurrencyCommands, CurrencyShowsWhatTheConverterFieldsShowOrSaysWhatIsWrong)
+{
+    // 100 dollars: 100 / 1.25 euros and 100 / 0.0078125 yen; names and codes ignore case.
+    EXPECT_TRUE(run("currency", {"100", "usd", "Euro", "jpy"}).printed("EUR\t80.00000000\nJPY\t12800.00000000\n"));
+
+    // Without targets, the converter's three currencies: the positions of US Dollar, Euro, British Pound.
+    const std::pair<const char*, const char*> positions[] = {{"curp", "3"}, {"curp2", "1"}, {"curp3", "0"}};
+    for (const auto& [name, position] : positions)
+        ASSERT_EQ(run("settings", {"set", "Wanderkit\\currencies", name, position}).code, 0);
+    EXPECT_TRUE(run("currency", {"10", "JPY"}).printed("USD\t0.07812500\nEUR\t0.06250000\nGBP\t0.05000000\n"));
+
+    const std::tuple<std::string, std::vector<std::string>, std::string> cases[]
+        = {{"currency", {"1"}, "give an amount and the currency it is in"},
+            {"currency", {"1", "EUR", "USD", "Dollar"}, "unknown currency \"Dollar\""},
+            {"rates", {"import", "a", "b"}, "Usage: wanderkit rates [import FILE]"}};
+    for (const auto& [command, args, message] : cases)
+        EXPECT_TRUE(run(command, args).refused(2, message));
+}
+
+TEST_F(CurrencyCommands, ImportRewritesTheListedRatesAndTheStampOrNothing)
+{
+    const auto file = state.write("eurofxref-daily.xml",
+        EcbFile("2024-05-17", {{"USD", "1.08"}, {"JPY", "162.5"}, {"ISK", "150"}, {"PLN", "-4.3"}}));
+    const CommandResult r = run("rates", {"import", file.string()});
+    EXPECT_EQ(std::tie(r.code, r.out, r.err),
+        std::tuple(0, "Rates of 17/5/2024: 3 currencies updated, 1 keep their rates\nNot in the store, left out: ISK\n",
+            "wanderkit: rates import: " + file.string()
+                + ": skipped PLN: its rate \"-4.3\" is not a positive decimal number\n"));
+    // Dollars per euro 1.08: the euro at 1.08, the yen at 1.08 / 162.5; the pound is not listed.
+    EXPECT_TRUE(run("rates", {})
+                    .printed("GBP\tBritish Pound\t1.5625\nEUR\tEuro\t1.08\nJPY\tJapanese "
+                             "Yen\t0.006646153846153847\nUSD\tUS Dollar\t1\nLast update: 17/5/2024 \n"));
+
+    // "-" reads standard input.
+    std::istringstream in(EcbFile("2024-05-20", {{"USD", "1.0"}}));
+    std::ostringstream out, err;
+    EXPECT_EQ(RunRatesCommandWithInput({options(), {"import", "-"}}, in, out, err), 0);
+    EXPECT_EQ(out.str(), "Rates of 20/5/2024: 2 currencies updated, 2 keep their rates\n");
+    const std::string before = TempDir::read(state.path() / "objectstore.db");
+    ASSERT_FALSE(before.empty());
+
+    // A folder, refused by the reader (whose refusals are checked in its own tests); a day after today and
+    // no usable dollar rate, refused by the import.
+    const std::pair<std::string, std::string> cases[] = {{state.path().string(), "it could not be read"},
+        {state.write("late.xml", EcbFile("2024-05-21", {{"USD", "1.1"}})).string(), "lies after today, 2024-05-20"},
+        {state.write("bad.xml", EcbFile("2024-05-20", {{"USD", "-1.1"}, {"JPY", "160"}})).string(),
+            "no usable USD rate"}};
+    for (const auto& [refusedFile, reason] : cases) {
+        const CommandResult refused = run("rates", {"import", refusedFile});
+        EXPECT_TRUE(refused.refused(2, reason));
+        EXPECT_TRUE(refused.err.ends_with("; the store is unchanged\n")) << refused.err;
+        EXPECT_EQ(TempDir::read(state.path() / "objectstore.db"), before);
+    }
+}
+
+TEST_F(FavouritesCommand, AddWritesACityOfTheCountryListsAndRefusalsSayWhy)
+{
+    const std::tuple<std::vector<std::string>, int, std::string, std::string> cases[] = {
+        // The carriage return before the line feed is no part of the code.
+        {{"add", "lyon"}, 0, "Lyon\t2996944\t01/01/2000\tFrance\n", ""},
+        {{"add", "New", "York"}, 0, "New York\t5128581\t01/01/2000\tUnited States\n", ""},
+        {{"add", "PARIS:united states"}, 0, "Paris\t4717560\t01/01/2000\tUnited States\n", ""},
+        {{"add", "Paris"}, 2, "", "say which one as city:country:\n  Paris:France\n  Paris:United States\n"},
+        // Nice stands after the line that ends the list.
+        {{"add", "Nice"}, 1, "", "no city of the weather country lists is named \"Nice\"\n"},
+        {{"add", "york"}, 1, "", "names that contain it: New York:United States\n"},
+        {{"add"}, 2, "", "Usage: wanderkit favourites [add CITY | remove FAVOURITE]"},
+        {{"rename", "Rome"}, 2, "", "unexpected arguments"},
+        {{"remove", "Atlantis"}, 1, "", "no favourite is named or numbered \"Atlantis\""},
+        {{"remove", "5"}, 1, "", "no favourite is named or numbered \"5\""}, // one past the five favourites
+    };
+    for (const auto& [args, code, out, message] : cases) {
+        const CommandResult result = favourites(args);
+        EXPECT_EQ(std::tie(result.code, result.out), std::tie(code, out)) << args.back();
+        EXPECT_NE(result.err.find(message), std::string::npos) << result.err;
+    }
+}
+
+TEST_F(FavouritesCommand, RemoveUndoesAdd)
+{
+    // A city already a favourite is written again, as the dialog does; one removal leaves one.
+    EXPECT_EQ(favourites({"add", "Rome"}).out, Rome);
+    EXPECT_EQ(favourites({"remove", "rome"}).out, Rome);
+    EXPECT_EQ(favourites({}).out, Paris + Rome);
+    EXPECT_EQ(favourites({"remove", "0"}).out, Paris);
+    EXPECT_EQ(favourites({}).out, Rome);
+}
+
+using SettingsCommand = CommandFixture;
+
+TEST_F(SettingsCommand, SetThenGetGivesBackWhatWasStored)
+{
+    // VALUE, --type, what get prints (keys ignore case). Negative numbers are stored as their two's
+    // complement: -1 is 2^32 - 1 and -2147483648 is 2^31.
+    const std::tuple<std::string, std::string, std::string> cases[] = {{"4294967295", "dword", "4294967295"},
+        {"-1", "dword", "4294967295"}, {"-2147483648", "dword", "2147483648"}, {"", "string", ""},
+        {"K\xC3\xB6ln \xF0\x9F\x8C\x8D", "string", "K\xC3\xB6ln \xF0\x9F\x8C\x8D"}}; // U+00F6 and U+1F30D
+    for (const auto& [value, type, shown] : cases) {
+        EXPECT_EQ(run("settings", {"set", "Wanderkit\\currencies", "curval", value, "--type", type}).code, 0);
+        EXPECT_TRUE(run("settings", {"get", "WANDERKIT\\Currencies", "curval"}).printed(shown + "\n"));
+    }
+}
+
+TEST_F(SettingsCommand, ListsResetsAndRefuses)
+{
+    ASSERT_EQ(run("settings", {"set", "Wanderkit\\wrldclk", "clock1", "100"}).code, 0);
+    ASSERT_EQ(run("settings", {"set", "Wanderkit\\map", "note", "x y", "--type=string"}).code, 0);
+    // Ordered by key, then name; keys as stored, case-folded.
+    EXPECT_TRUE(
+        run("settings", {}).printed("wanderkit\\map\tnote\tstring\tx y\nwanderkit\\wrldclk\tclock1\tdword\t100\n"));
+    EXPECT_EQ(run("settings", {"reset"}).code, 0);
+    EXPECT_TRUE(run("settings", {"get", "Wanderkit\\wrldclk", "clock1"})
+                    .refused(1, "no value \"clock1\" under \"Wanderkit\\wrldclk\""));
+
+    // What cannot be stored is refused, and nothing is.
+    const std::vector<std::string> cases[] = {{"set", "Wanderkit", "n", "4294967296"},
+        {"set", "Wanderkit", "n", "-2147483649"}, {"set", "Wanderkit", "n", "12abc"}, {"set", "Wanderkit", "n", ""},
+        {"set", "Wanderkit", "n", "1", "--type", "qword"}, {"set", "Wanderkit", "n"}, {"get", "Wanderkit"},
+        {"frobnicate"}, {"--verbose"}};
+    for (const auto& args : cases)
+        EXPECT_TRUE(run("settings", args).refused(2, "wanderkit settings")) << testing::PrintToString(args);
+    EXPECT_TRUE(run("settings", {}).printed(""));
+}
+
+TEST_F(WeatherCommands, AnImportedForecastIsPrintedDayByDay)
+{
+    // From standard input, without a name: the favourite at the forecast's place. The service answers for
+    // the point of its grid nearest to Paris (48.85 N 2.35 E).
+    std::istringstream input(OpenMeteoFixture::response(5, "2026-11-24", 48.86, 2.34).dump());
+    std::streambuf* const saved = std::cin.rdbuf(input.rdbuf());
+    const CommandResult imported = run("forecast", {"import", "-"});
+    std::cin.rdbuf(saved);
+    EXPECT_TRUE(imported.printed("Paris: 5 days from 24/11/2026 to 28/11/2026\n"));
+    EXPECT_NE(run("favourites", {}).out.find("\nParis\t2988507\t28/11/2026\tFrance\n"), std::string::npos);
+    const std::string week = run("weather", {"Paris"}).out;
+    EXPECT_EQ(std::ranges::count(week, '\n'), 5);
+    EXPECT_TRUE(week.starts_with(TuesdayLine)) << week;
+
+    // Without a name, the screen's favourite "wetp" (London, Paris, Rome in name order); one past the
+    // favourites names no city.
+    ASSERT_EQ(run("settings", {"set", "Wanderkit\\weather", "wetp", "1"}).code, 0);
+    EXPECT_TRUE(run("weather", {"--day", "1"}).printed(TuesdayLine));
+    ASSERT_EQ(run("settings", {"set", "Wanderkit\\weather", "wetp", "99"}).code, 0);
+    EXPECT_TRUE(
+        run("weather", {}).refused(1, "wanderkit weather: Sorry, Weather Forecast is not available for this City.\n"));
+}
+
+// The reader's own refusals are checked in the weather tests: here one of them, a missing file, favourites
+// that are not there and usage errors, none of which touches the store.
+TEST_F(WeatherCommands, RefusalsChangeNothing)
+{
+    ASSERT_EQ(import(OpenMeteoFixture::response(5).dump()).code, 0);
+    const std::string before = storeBytes();
+    const std::string good = OpenMeteoFixture::response(5, "2026-11-25").dump();
+    const std::pair<CommandResult, std::string> cases[] = {
+        {import(good.substr(0, good.size() - 10)),
+            (state.path() / "forecast.json").string() + ": is not complete, well-formed JSON"},
+        {run("forecast", {"import", (state.path() / "none.json").string()}), "none.json: cannot be read"},
+        {import(good, {"--favourite", "Nowhere"}), "no favourite is named or numbered \"Nowhere\""},
+        {import(OpenMeteoFixture::response(5, "2026-11-24", 45.0, 7.0).dump(), {}),
+            "no favourite city lies at latitude 45, longitude 7"},
+        {run("forecast", {"import", "a", "b"}), "one FILE only"},
+        {run("weather", {"--day", "6"}), "--day wants a day from 1 to 5"},
+        {run("weather", {"3"}), "no favourite is named or numbered \"3\""},
+    };
+    for (const auto& [result, problem] : cases) {
+        EXPECT_TRUE(result.refused(2, problem));
+        EXPECT_EQ(storeBytes(), before);
+    }
+}
