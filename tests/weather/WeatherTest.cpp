@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "weather/ForecastDisplay.h"
-
 #include "OpenMeteoFixture.h"
 #include "device/DevicePaths.h"
 #include "settings/MappingFile.h"
 #include "support/FakeDeviceClock.h"
 #include "support/TempDir.h"
+#include "weather/ForecastDisplay.h"
 #include "weather/ForecastTable.h"
 #include "weather/OpenMeteoForecast.h"
 #include "weather/WeatherCountries.h"
