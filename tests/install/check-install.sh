@@ -29,9 +29,6 @@ cd "$work/elsewhere"
 export XDG_DATA_HOME=$work/data HOME=$work
 QT_QPA_PLATFORM=offscreen "$prefix/bin/wanderkit" --tour "$work/tour" >"$work/tour.txt"
 grep -q 'launcher.png$' "$work/tour.txt" || { echo "the installed tour wrote no launcher.png" >&2; exit 1; }
-for f in launcher-landscape worldclock; do
-    [ -s "$work/tour/$f.png" ] || { echo "the installed tour wrote no $f.png" >&2; exit 1; }
-done
 "$prefix/bin/wanderkit" cities Paris >"$work/cities.txt"
 grep -q 'Paris' "$work/cities.txt" || { echo "the installed program found no Paris" >&2; exit 1; }
 

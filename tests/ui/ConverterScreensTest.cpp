@@ -8,8 +8,6 @@
 #include <QLineEdit>
 #include <QSignalSpy>
 
-#include <optional>
-
 namespace {
 
 // In name order: British Pound 0, Euro 1, Japanese Yen 2, US Dollar 3; rates in US dollars per unit.
@@ -19,27 +17,24 @@ constexpr std::uint32_t Pound = 0;
 constexpr std::uint32_t Euro = 1;
 constexpr std::uint32_t Dollar = 3;
 using Positions = std::array<std::uint32_t, 3>;
-const wchar_t* const Key = L"Wanderkit\\currencies";
-const wchar_t* const PositionNames[] = {L"curp", L"curp2", L"curp3"};
 
-// A converter over the four fixture currencies, the launcher's list read from the device root.
+// A converter over the four fixture currencies showing the euro, the dollar and the pound, the launcher's list
+// read from the device root.
 struct ConverterBench
 {
-    explicit ConverterBench(const Positions& positions = {Euro, Dollar, Pound})
+    ConverterBench()
     {
         // Focus events reach the fields only in the active window.
         bench.window.activateWindow();
         active = QTest::qWaitForWindowActive(&bench.window);
         bench.root.write("currs.lst", Currencies);
         initial = ReadInitialCurrencies(bench.paths, bench.messages);
-        for (std::size_t k = 0; k < 3; ++k)
-            registry.SetDWORD(Key, PositionNames[k], positions[k]);
+        bench.store(Settings::Currency1, Euro);
+        bench.store(Settings::Currency2, Dollar);
+        bench.store(Settings::Currency3, Pound);
     }
 
-    QLineEdit* field(int k)
-    {
-        return child<QLineEdit>(screen, qPrintable(QStringLiteral("amount%1NumericEdit").arg(k)));
-    }
+    QLineEdit* field(int k) { return child<QLineEdit>(screen, ("amount" + std::to_string(k) + "NumericEdit").c_str()); }
     // The three fields' texts, joined by "|".
     QString texts() { return field(1)->text() + u'|' + field(2)->text() + u'|' + field(3)->text(); }
     void type(int k, const QString& text)
@@ -48,34 +43,24 @@ struct ConverterBench
         QTest::keyClicks(field(k), text);
     }
     Positions shown() { return {screen.position(0), screen.position(1), screen.position(2)}; }
-    Positions stored()
-    {
-        return {registry.GetDWORD(Key, PositionNames[0]), registry.GetDWORD(Key, PositionNames[1]),
-            registry.GetDWORD(Key, PositionNames[2])};
-    }
 
     ScreenTestBench bench;
     bool active = false;
-    RegistrySettings registry {bench.settings};
     InitialCurrencyList initial;
     CurrencyScreen screen {bench.environment, bench.window, initial};
 };
 
 constexpr std::uint32_t Weights = 6;
-
-using Stored = std::array<std::optional<std::uint32_t>, 3>;
 const DwordSetting* const MeasureChoices[] = {&Settings::MeasureType, &Settings::MeasureUnit1, &Settings::MeasureUnit2};
 
-// A measurements screen opened on the stored category, units and amount; nothing stored for an empty value.
+// A measurements screen opened on the stored category, units and amount.
 struct MeasureBench
 {
-    explicit MeasureBench(const Stored& choices = {}, const wchar_t* value = nullptr)
+    MeasureBench(const std::array<std::uint32_t, 3>& choices, const wchar_t* value)
     {
         for (std::size_t i = 0; i < 3; ++i)
-            if (choices[i])
-                bench.store(*MeasureChoices[i], *choices[i]);
-        if (value)
-            bench.store(Settings::MeasureValue, value);
+            bench.store(*MeasureChoices[i], choices[i]);
+        bench.store(Settings::MeasureValue, value);
     }
 
     // The category list, then the two unit lists.
@@ -115,11 +100,11 @@ private slots:
         QVERIFY(t.active);
         const QString saved = QStringLiteral("12|15.00000000|9.60000000 Last update: Never ");
         t.bench.visit(t.screen, [&] {
-            // 10 dollars: 10 / 1.25 euros and 10 / 1.5625 pounds.
+            // 10 dollars, the letter refused: 10 / 1.25 euros and 10 / 1.5625 pounds.
             QSignalSpy rewritten(t.field(2), &QLineEdit::textChanged);
-            t.type(2, QStringLiteral("10"));
+            t.type(2, QStringLiteral("1x0"));
             QCOMPARE(t.texts(), QStringLiteral("8.00000000|10|6.40000000"));
-            QCOMPARE(rewritten.count(), 2); // one per key: field 2 is never written back
+            QCOMPARE(rewritten.count(), 2); // one per digit: field 2 is never written back
             QCOMPARE(t.screen.focusLabel(), QStringLiteral("USD - US Dollar"));
             // Field 2 is (55, 80) to (200, 105); the frame is 2 pixels wider on each side.
             QCOMPARE(t.screen.focusFrame(), QRect(QPoint(53, 78), QPoint(201, 106)));
@@ -138,8 +123,11 @@ private slots:
             QVERIFY(t.screen.isRunning() && !t.bench.window.isExiting());
             QCOMPARE(t.texts() + u' ' + t.screen.lastUpdateText(), saved);
         });
-        QCOMPARE(t.registry.GetString(Key, L"curval"), std::wstring(L"12"));
-        QCOMPARE(t.stored(), (Positions {Euro, Dollar, Pound}));
+        RegistrySettings settings(t.bench.settings);
+        QCOMPARE(ReadSetting(settings, Settings::CurrencyAmount), std::wstring(L"12"));
+        QCOMPARE((Positions {t.bench.stored(Settings::Currency1), t.bench.stored(Settings::Currency2),
+                     t.bench.stored(Settings::Currency3)}),
+            (Positions {Euro, Dollar, Pound}));
         // The next opening starts from the saved amount and recomputes the others; the list never reads updated.
         t.bench.visit(t.screen, [&] { QCOMPARE(t.texts() + u' ' + t.screen.lastUpdateText(), saved); });
     }

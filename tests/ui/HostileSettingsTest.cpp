@@ -34,11 +34,8 @@ using Hostile = std::variant<std::uint32_t, std::wstring>;
 
 std::vector<Hostile> hostileValues()
 {
-    std::wstring digits;
-    while (digits.size() < 10000)
-        digits += L"1234567890";
-    return {
-        0u, 1u, 2147483647u, 2147483648u, 4294967295u, 1000000u, L"", digits, L"../../etc/", L"-1e308", L"nan", L"inf"};
+    return {0u, 1u, 2147483647u, 2147483648u, 4294967295u, 1000000u, L"", std::wstring(10000, L'9'), L"../../etc/",
+        L"-1e308", L"nan", L"inf"};
 }
 
 std::string narrow(std::wstring_view text)
@@ -122,8 +119,6 @@ private slots:
                 const std::string what = describe(value) + rows.name
                     + ": not shown: " + missing.values().join(QLatin1Char(' ')).toStdString();
                 QVERIFY2(missing.isEmpty() || !bench.boxes.shown.empty(), what.c_str());
-                if (!missing.isEmpty())
-                    qInfo("%s (with a message)", what.c_str());
             }
         }
     }

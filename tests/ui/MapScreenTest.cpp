@@ -5,8 +5,6 @@
 #include "ScreenTestBench.h"
 #include "app/PngFile.h"
 #include "screens/select/SelectDialog.h"
-#include "store/CityCatalogue.h"
-#include "store/WeatherFavourites.h"
 
 #include <QTemporaryDir>
 
@@ -24,15 +22,6 @@ QImage patterned(QSize size)
 
 const QRgb Marker = MapRenderer::MarkerColour.rgb();
 
-// Five cities "A0" to "A4" on GMT at whole-degree (longitude, latitude): (0, 0), (0, 90), (-120, 20), (60, -30)
-// and (120, 45).
-void writePlaces(const TempDir& root)
-{
-    root.write("cities.lst",
-        "Test places\n5\nx;A0;Land;0;0;0;0;0;0;0;0\nx;A1;Land;0;90;0;0;0;0;0;0\nx;A2;Land;-120;20;0;0;0;0;0;0\n"
-        "x;A3;Land;60;-30;0;0;0;0;0;0\nx;A4;Land;120;45;0;0;0;0;0;0\n");
-}
-
 // A bench with a catalogue loaded; `write` fills the device root first.
 struct MapBench
 {
@@ -40,7 +29,7 @@ struct MapBench
         const std::function<void(const TempDir&)>& write = [](const TempDir& root) { CityFixture::write(root, {}); })
     {
         write(bench.root);
-        cities.Load();
+        bench.cities.Load();
     }
 
     // The map as drawn after a full repaint.
@@ -51,9 +40,7 @@ struct MapBench
     }
 
     ScreenTestBench bench;
-    CityCatalogue cities {bench.objects, bench.paths, bench.messages};
-    WeatherFavourites favourites {bench.objects, bench.paths, bench.messages};
-    MapScreen screen {bench.environment, bench.window, cities, favourites};
+    MapScreen screen {bench.environment, bench.window, bench.cities, bench.favourites};
 };
 
 } // namespace
@@ -104,7 +91,11 @@ private slots:
     {
         // "bmap.jpg", the night picture, is loaded and held but never drawn: night is the day picture's blue.
         MapBench t([](const TempDir& root) {
-            writePlaces(root);
+            // Five cities "A0" to "A4" on GMT at whole-degree (longitude, latitude): (0, 0), (0, 90), (-120, 20),
+            // (60, -30) and (120, 45).
+            root.write("cities.lst",
+                "Test places\n5\nx;A0;Land;0;0;0;0;0;0;0;0\nx;A1;Land;0;90;0;0;0;0;0;0\nx;A2;Land;-120;20;0;0;0;0;0;0\n"
+                "x;A3;Land;60;-30;0;0;0;0;0;0\nx;A4;Land;120;45;0;0;0;0;0;0\n");
             // A day picture of the map's own size, so that the plain stretch copies it pixel for pixel.
             QVERIFY(patterned(QSize(240, 138)).save(QString::fromStdString((root.path() / "day.jpg").string()), "JPG"));
             QImage white(240, 138, QImage::Format_RGB32);

@@ -85,8 +85,6 @@ private slots:
                 {std::pair(&Settings::ClothesWho, who), {&Settings::ClothesKind, cloth}})
                 if (value)
                     bench.store(*setting, *value);
-            const auto stored
-                = [&] { return std::pair(bench.stored(Settings::ClothesWho), bench.stored(Settings::ClothesKind)); };
             bench.visit(screen, [&] {
                 auto* garments = child<Spinner>(screen, "garmentSpinner");
                 QCOMPARE(std::pair(child<Spinner>(screen, "wearerSpinner")->currentIndex(), garments->currentIndex()),
@@ -95,7 +93,8 @@ private slots:
                 QCOMPARE(std::pair(screen.tableTitle(), screen.shownRows()), table(wearer, garment));
             });
             // Leaving writes what was shown.
-            QCOMPARE(stored(), std::pair(std::uint32_t(wearer), std::uint32_t(garment)));
+            QCOMPARE(std::pair(bench.stored(Settings::ClothesWho), bench.stored(Settings::ClothesKind)),
+                std::pair(std::uint32_t(wearer), std::uint32_t(garment)));
         }
     }
 

@@ -16,8 +16,6 @@ ScreenTestBench::ScreenTestBench(QSize workArea)
     window.show();
 }
 
-ScreenTestBench::~ScreenTestBench() = default;
-
 int ScreenTestBench::run(Screen& screen, const std::function<void()>& drive)
 {
     QObject context;
@@ -41,53 +39,26 @@ void ScreenTestBench::visit(Screen& screen, const std::function<void()>& check)
 
 void ScreenTestBench::whenShown(Screen& screen, const std::function<void()>& drive)
 {
-    auto connection = std::make_shared<QMetaObject::Connection>();
-    *connection
-        = QObject::connect(&window, &DeviceWindow::screenShown, &screen, [&screen, connection, drive](Screen& shown) {
-              if (&shown != &screen)
-                  return;
-              QObject::disconnect(*connection);
-              QTimer::singleShot(0, &screen, drive);
-          });
+    onNextShown(
+        screen, [&screen](Screen& shown) { return &shown == &screen; }, [drive](Screen&) { drive(); });
 }
 
 void ScreenTestBench::whenNextShown(Screen& current, const std::function<void(Screen&)>& drive)
 {
+    onNextShown(
+        current, [&current](Screen& shown) { return &shown != &current; }, drive);
+}
+
+void ScreenTestBench::onNextShown(
+    Screen& context, const std::function<bool(Screen&)>& wanted, const std::function<void(Screen&)>& drive)
+{
     auto connection = std::make_shared<QMetaObject::Connection>();
-    *connection
-        = QObject::connect(&window, &DeviceWindow::screenShown, &current, [&current, connection, drive](Screen& shown) {
-              if (&shown == &current)
-                  return;
-              QObject::disconnect(*connection);
-              QTimer::singleShot(0, &shown, [drive, &shown] { drive(shown); });
-          });
-}
-
-void ScreenTestBench::press(Qt::Key key, Qt::KeyboardModifiers modifiers)
-{
-    QTest::keyClick(window.focusWidget(), key, modifiers);
-}
-
-void ScreenTestBench::advance(long long milliseconds)
-{
-    timers.advance(milliseconds, [this](long long step) { clock.advanceMilliseconds(step); });
-}
-
-QImage ScreenTestBench::render()
-{
-    return window.grab().toImage();
-}
-
-void ScreenTestBench::store(const DwordSetting& setting, std::uint32_t value)
-{
-    RegistrySettings registry(settings);
-    WriteSetting(registry, setting, value);
-}
-
-void ScreenTestBench::store(const StringSetting& setting, std::wstring_view text)
-{
-    RegistrySettings registry(settings);
-    WriteSetting(registry, setting, text);
+    *connection = QObject::connect(&window, &DeviceWindow::screenShown, &context, [=](Screen& shown) {
+        if (!wanted(shown))
+            return;
+        QObject::disconnect(*connection);
+        QTimer::singleShot(0, &shown, [drive, &shown] { drive(shown); });
+    });
 }
 
 std::uint32_t ScreenTestBench::stored(const DwordSetting& setting)
@@ -95,4 +66,13 @@ std::uint32_t ScreenTestBench::stored(const DwordSetting& setting)
     RegistrySettings registry(settings);
     const std::uint32_t value = registry.GetDWORD(setting.subkey, setting.name);
     return registry.Status() == RegistrySettings::Read ? value : NotStored;
+}
+
+std::vector<std::wstring> ScreenTestBench::favouriteRecords()
+{
+    std::vector<std::wstring> records;
+    for (std::uint32_t i = 0; i < favourites.count(); ++i)
+        records.push_back(favourites.getName(i) + L"|" + favourites.getLocationCode(i) + L"|"
+            + favourites.getLastUpdate(i) + L"|" + favourites.getCountryFile(i));
+    return records;
 }

@@ -8,6 +8,8 @@
 #include "TempDir.h"
 #include "session/DeviceSession.h"
 #include "settings/SettingsTable.h"
+#include "store/CityCatalogue.h"
+#include "store/WeatherFavourites.h"
 #include "ui/Commands.h"
 #include "ui/DeviceWindow.h"
 #include "ui/Screen.h"
@@ -19,7 +21,7 @@
 
 #include <functional>
 #include <memory>
-#include <string_view>
+#include <vector>
 
 // The child of `parent` named `name`: a screen's spinner, field or list.
 template<class Widget>
@@ -29,13 +31,12 @@ Widget* child(const QObject& parent, const char* name)
 }
 
 // Everything a screen needs, fresh for each test (this header also brings what every screen test uses): a hand-driven
-// clock, a device root in a temporary folder, in-memory state stores, recorded messages and message boxes, and a device
-// window.
+// clock, a device root in a temporary folder, in-memory state stores, the city catalogue and weather favourites over
+// them, recorded messages and message boxes, and a device window.
 class ScreenTestBench
 {
 public:
     explicit ScreenTestBench(QSize workArea = QSize(240, 268));
-    ~ScreenTestBench();
 
     // Runs `screen` modally; `drive` is called once it is shown and must end it (or the program).
     int run(Screen& screen, const std::function<void()>& drive);
@@ -46,17 +47,31 @@ public:
     // Calls `drive` with the next screen shown over `current` (a dialog it opens), once.
     void whenNextShown(Screen& current, const std::function<void(Screen&)>& drive);
     // Presses `key` on the widget that has the focus.
-    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QTest::keyClick(window.focusWidget(), key, modifiers);
+    }
     // Moves the device clock and the screens' timers on together, firing the timers that fall due.
-    void advance(long long milliseconds);
+    void advance(long long milliseconds)
+    {
+        timers.advance(milliseconds, [this](long long step) { clock.advanceMilliseconds(step); });
+    }
     // The whole device window, rendered.
-    QImage render();
+    QImage render() { return window.grab().toImage(); }
     // Writes a setting as another program would.
-    void store(const DwordSetting& setting, std::uint32_t value);
-    void store(const StringSetting& setting, std::wstring_view text);
+    template<class Setting, class Value>
+    void store(const Setting& setting, const Value& value)
+    {
+        RegistrySettings registry(settings);
+        WriteSetting(registry, setting, value);
+    }
     // A DWORD setting as stored, or NotStored when it cannot be read.
     std::uint32_t stored(const DwordSetting& setting);
     static constexpr std::uint32_t NotStored = 0xFFFFFFFFu;
+    // "name|code|last update|country" of every favourite, in store order.
+    std::vector<std::wstring> favouriteRecords();
+    // Loads the catalogue and the favourites from the device root, as the launcher does at its start.
+    void loadStores() { cities.Load(), favourites.loadFavouritesOnce(); }
 
     TempDir root;
     FakeDeviceClock clock;
@@ -69,4 +84,11 @@ public:
     ManualScreenTimers timers;
     ScreenEnvironment environment;
     DeviceWindow window;
+    CityCatalogue cities {objects, paths, messages};
+    WeatherFavourites favourites {objects, paths, messages};
+
+private:
+    // Calls `drive` with the first screen shown that `wanted` accepts, while `context` lives.
+    void onNextShown(
+        Screen& context, const std::function<bool(Screen&)>& wanted, const std::function<void(Screen&)>& drive);
 };

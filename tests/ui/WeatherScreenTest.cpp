@@ -4,7 +4,6 @@
 #include "ScreenTestBench.h"
 #include "app/ServicesApp.h"
 #include "screens/weather/FavouritesDialog.h"
-#include "store/WeatherFavourites.h"
 #include "ui/WideString.h"
 #include "weather/ForecastTable.h"
 
@@ -35,7 +34,7 @@ struct WeatherBench
             icon.save(QString::fromStdString(bench.root.write(name, "").string()), "BMP");
         bench.root.write("weatcs/France", "Paris;2988507\r\nLyon;2996944\r\n>\nNice;2990440\n");
         bench.root.write("weatcs/Nowhere", ">\nNice;2990440\n");
-        favourites.loadFavouritesOnce();
+        bench.favourites.loadFavouritesOnce();
     }
 
     // Paris's forecast: block b has code 61 and the words "Day b"; stored with the update date four days
@@ -47,25 +46,14 @@ struct WeatherBench
             table.setField(b, 0, L"61");
             table.setField(b, 1, L"Day " + std::to_wstring(b));
         }
-        favourites.updateFavourite(L"Paris", L"2988507", table.joined(), L"05/01/2026:France", 1);
+        bench.favourites.updateFavourite(L"Paris", L"2988507", table.joined(), L"05/01/2026:France", 1);
         bench.store(Settings::WeatherPosition, wetp);
     }
 
     QString condition() const { return ToQString(screen.shownDay().condition); }
 
-    // "name|code|last update|country" of every favourite, in store order.
-    std::vector<std::wstring> names()
-    {
-        std::vector<std::wstring> all;
-        for (std::uint32_t i = 0; i < favourites.count(); ++i)
-            all.push_back(favourites.getName(i) + L"|" + favourites.getLocationCode(i) + L"|"
-                + favourites.getLastUpdate(i) + L"|" + favourites.getCountryFile(i));
-        return all;
-    }
-
     ScreenTestBench bench;
-    WeatherFavourites favourites {bench.objects, bench.paths, bench.messages};
-    WeatherScreen screen {bench.environment, bench.window, favourites};
+    WeatherScreen screen {bench.environment, bench.window, bench.favourites};
 };
 
 } // namespace
@@ -79,7 +67,7 @@ private slots:
     {
         WeatherBench t;
         t.storeParisForecast(1);
-        const auto before = t.names();
+        const auto before = t.bench.favouriteRecords();
         t.bench.visit(t.screen, [&] {
             QCOMPARE(t.screen.cityLine(), QStringLiteral("Paris GMT+1"));
             QCOMPARE(t.screen.homeCityName(), QStringLiteral("Oslo")); // catalogue position 0
@@ -106,7 +94,7 @@ private slots:
             QCOMPARE(t.bench.window.topScreen(), &t.screen);
             QCOMPARE(t.screen.currentDay(), 5);
             QCOMPARE(t.screen.shownDay(), day);
-            QCOMPARE(t.names(), before);
+            QCOMPARE(t.bench.favouriteRecords(), before);
             t.bench.whenNextShown(t.screen, [&](Screen& shown) {
                 auto& dialog = static_cast<FavouritesDialog&>(shown);
                 QCOMPARE(dialog.currentCountry(), L"France"); // Paris, preselected
@@ -168,14 +156,14 @@ private slots:
     void removeAsksFirstAndRemovingTheLastSelectsNothingAndTheAddViewAddsFromTheCountryLists()
     {
         WeatherBench t;
-        FavouritesDialog dialog(t.bench.environment, t.bench.window, t.favourites);
+        FavouritesDialog dialog(t.bench.environment, t.bench.window, t.bench.favourites);
         dialog.setCurrentFavourite(2);
         t.bench.visit(dialog, [&] {
             auto* list = child<Spinner>(dialog, "favouriteSpinner");
             auto* remove = child<QPushButton>(dialog, "removePushButton");
             t.bench.boxes.answer = QMessageBox::No;
             remove->click();
-            QCOMPARE(t.favourites.count(), 3);
+            QCOMPARE(t.bench.favourites.count(), 3);
             const MessageBox::Request asked = t.bench.boxes.shown.at(0);
             QCOMPARE(asked.text,
                 QStringLiteral(
@@ -189,7 +177,7 @@ private slots:
             QCOMPARE(list->currentIndex(), -1);
             QCOMPARE(dialog.currentFavourite(), -1);
             remove->click(); // nothing selected: asked, nothing removed
-            QCOMPARE(t.favourites.count(), 2);
+            QCOMPARE(t.bench.favourites.count(), 2);
             list->setCurrentIndex(0);
             remove->click(); // Oslo: Paris moves up and stays selected
             QCOMPARE(dialog.currentCountry(), L"France");
@@ -218,7 +206,7 @@ private slots:
         });
         const std::vector<std::wstring> favourites {
             L"Lyon|2996944|01/01/2000|France", L"Lyon|2996944|01/01/2000|France", L"Paris|2988507|01/01/2000|France"};
-        QCOMPARE(t.names(), favourites);
+        QCOMPARE(t.bench.favouriteRecords(), favourites);
     }
 };
 

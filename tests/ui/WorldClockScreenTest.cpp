@@ -5,8 +5,6 @@
 #include "ScreenTestBench.h"
 #include "screens/select/SelectDialog.h"
 #include "screens/weather/WeatherOpener.h"
-#include "store/CityCatalogue.h"
-#include "store/WeatherFavourites.h"
 #include "ui/Painting.h"
 #include "ui/WideString.h"
 
@@ -22,14 +20,11 @@ struct WorldClockBench
         CityFixture::write(bench.root, {});
         if (!citiesFile.empty())
             bench.root.write("cities.lst", citiesFile);
-        cities.Load();
-        favourites.loadFavouritesOnce();
+        bench.loadStores();
     }
 
     ScreenTestBench bench;
-    CityCatalogue cities {bench.objects, bench.paths, bench.messages};
-    WeatherFavourites favourites {bench.objects, bench.paths, bench.messages};
-    WorldClockScreen screen {bench.environment, bench.window, cities, favourites};
+    WorldClockScreen screen {bench.environment, bench.window, bench.cities, bench.favourites};
 };
 
 // Records who asked for the weather screen.
@@ -61,21 +56,18 @@ private slots:
                 QCOMPARE(t.bench.stored(*Settings::ClockCities[std::size_t(slot)]), ScreenTestBench::NotStored);
             }
             // The home city is made a favourite at once, and "wetp", missing, takes its catalogue index.
-            QCOMPARE(t.favourites.count(), 1);
-            QCOMPARE(t.favourites.getName(0) + L"|" + t.favourites.getLocationCode(0) + L"|"
-                    + t.favourites.getLastUpdate(0) + L"|" + t.favourites.getCountryFile(0),
-                L"C0000|1000|01/01/2000|Land");
+            QCOMPARE(t.bench.favouriteRecords(), std::vector<std::wstring> {L"C0000|1000|01/01/2000|Land"});
             QCOMPARE(t.bench.stored(Settings::WeatherPosition), 0u);
             t.bench.press(Qt::Key_Right); // "w": a favourite already, nothing told
             t.bench.press(Qt::Key_Return);
             t.bench.press(Qt::Key_Right);
             t.bench.press(Qt::Key_Right); // "w1": made a favourite first, which is told
             t.bench.press(Qt::Key_Return);
-            QVERIFY(t.favourites.findByName(L"C0684") != 0);
+            QVERIFY(t.bench.favourites.findByName(L"C0684") != 0);
             QCOMPARE(t.bench.boxes.shown.size(), std::size_t(1));
             QCOMPARE(t.bench.boxes.shown[0].text, QStringLiteral("This city has been added to the Favorites List."));
             t.bench.press(Qt::Key_Return); // nothing more is added
-            QCOMPARE(t.favourites.count(), 2);
+            QCOMPARE(t.bench.favourites.count(), 2);
             // The action key on a clock face ("c1") changes its city, written at once.
             t.bench.press(Qt::Key_Left);
             t.bench.whenNextShown(t.screen, [&](Screen& dialog) {
@@ -114,16 +106,16 @@ private slots:
         // The catalogue's widest name in the home name's full size.
         const QFontMetrics metrics(Painting::makeFont(23, Painting::Bold));
         std::uint32_t widest = 0;
-        for (std::uint32_t i = 1; i < t.cities.Count(); ++i)
-            if (metrics.horizontalAdvance(ToQString(t.cities.Record(i).name))
-                > metrics.horizontalAdvance(ToQString(t.cities.Record(widest).name)))
+        for (std::uint32_t i = 1; i < t.bench.cities.Count(); ++i)
+            if (metrics.horizontalAdvance(ToQString(t.bench.cities.Record(i).name))
+                > metrics.horizontalAdvance(ToQString(t.bench.cities.Record(widest).name)))
                 widest = i;
         t.bench.store(Settings::HomeClock, widest);
         t.bench.store(Settings::TwelveHour, 1);
         t.bench.clock.set(FakeDeviceClock::at(2026, 1, 5, 0, 0, 0));
         t.bench.visit(t.screen, [&] {
             for (const int width : {240, 268}) {
-                QCOMPARE(t.screen.shownName(0), ToQString(t.cities.Record(widest).name));
+                QCOMPARE(t.screen.shownName(0), ToQString(t.bench.cities.Record(widest).name));
                 QCOMPARE(t.screen.shownTime(0) + t.screen.shownSuffix(0), QStringLiteral("12:00:00AM"));
                 // The name's line and the time's line, under the 25-pixel title: no white text
                 // pixel in the last 6 columns.

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# shellcheck disable=SC2086 # the extra readers, and a reader's command, are words
 # Kills mid-write: SIGKILL at a random moment of each write path (a setting written, a favourite added or
 # removed, a forecast or rates imported, the first start's load). After every kill the state must open (its
 # readers exit 0 and say nothing on standard error) and show all as before the write or all as after, never a
@@ -27,7 +28,6 @@ snapshot() { # state folder, output file, extra readers...
     local reader
     for reader in "${readers[@]}" "${@:3}"; do
         echo "== $reader"
-        # shellcheck disable=SC2086 # a reader is a command and its words
         wk "$1" $reader 2>"$2.err" && [ ! -s "$2.err" ] || return 1
     done >"$2"
 }
@@ -56,7 +56,6 @@ kill_path() { # name, extra readers ("" for none), command...
     [ "$name" = "first load" ] && loads=yes
     mkdir -p "$dir"
     fresh() { rm -rf "$dir/state" && { [ -n "$loads" ] || cp -r "$seed" "$dir/state"; }; }
-    # shellcheck disable=SC2086 # the extra readers are words
     fresh && snapshot "$dir/state" "$dir/old" $extra
     echo $? >"$dir/failures"
     # The window of the kills: the median of three whole writes, and a quarter more.
@@ -65,7 +64,6 @@ kill_path() { # name, extra readers ("" for none), command...
         echo $(($(ms_now) - started))
     done >"$dir/ms"
     window=$(($(sort -n "$dir/ms" | sed -n 2p) * 5 / 4 + 1))
-    # shellcheck disable=SC2086
     snapshot "$dir/state" "$dir/new" $extra || echo 1 >>"$dir/failures"
     # The write must show; the readers complete a first load themselves, so it reads the same either way.
     [ -z "$loads" ] && cmp -s "$dir/old" "$dir/new" && echo 1 >>"$dir/failures"
@@ -79,8 +77,7 @@ kill_path() { # name, extra readers ("" for none), command...
         { wait "$pid"; } 2>/dev/null # no "Killed" notice
         status=$?
         logged=$(wal_bytes "$dir/state")
-        # shellcheck disable=SC2086
-        snapshot "$dir/state" "$dir/read" $extra || { echo "== a reader failed" && cat "$dir/read.err"; } >>"$dir/read"
+            snapshot "$dir/state" "$dir/read" $extra || { echo "== a reader failed" && cat "$dir/read.err"; } >>"$dir/read"
         if cmp -s "$dir/read" "$dir/old"; then
             before=$((before + 1))
             [ "$status" -eq 137 ] && [ "$logged" -gt 0 ] && inside=$((inside + 1))
