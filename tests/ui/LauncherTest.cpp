@@ -4,6 +4,7 @@
 #include "app/ServicesApp.h"
 #include "screens/clothing/ClothingScreen.h"
 
+#include <array>
 #include <tuple>
 
 namespace {
@@ -91,6 +92,33 @@ private slots:
                      {Qt::Key_C, 3}, {Qt::Key_C, 5}, {Qt::Key_C, 3}, {Qt::Key_Q, 3}}) {
                 bench.press(key);
                 QCOMPARE(launcher.selection(), selection);
+            }
+        });
+    }
+
+    void theHighlightFramesTheSelectedIcon()
+    {
+        // Icons sit centred in four columns of W / 4: at 240 wide x = 22, 82, 142, 202; at 268 wide the
+        // columns are 67 wide, so x = 25, 92, 159, 226. The frame is 2 pixels outside, at y 48 or 78. The
+        // eighth step wraps back to the first icon.
+        using Case = std::pair<QSize, std::array<int, 4>>;
+        const Case cases[] = {{{240, 268}, {22, 82, 142, 202}}, {{268, 240}, {25, 92, 159, 226}}};
+        ScreenTestBench bench;
+        withLauncher(bench, [&](ServicesApp& launcher) {
+            for (const auto& [area, columns] : cases) {
+                QCOMPARE(bench.window.workArea(), area);
+                for (int i = 0; i < 8; ++i) {
+                    const int x = columns[static_cast<std::size_t>(i % 4)];
+                    const int top = i < 4 ? 48 : 78;
+                    QCOMPARE(launcher.selection(), i);
+                    QCOMPARE(launcher.highlightRect(), QRect(x - 2, top, 20, 20));
+                    // The raised edge is painted there: light on its top side, dark on its right side.
+                    const QImage image = bench.render();
+                    QCOMPARE(image.pixelColor(x + 8, top), QColor(230, 230, 230));
+                    QCOMPARE(image.pixelColor(x + 17, top + 10), QColor(64, 64, 64));
+                    bench.press(Qt::Key_Right);
+                }
+                bench.press(Qt::Key_R, Qt::ControlModifier);
             }
         });
     }

@@ -1,15 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The screen framework: how screens run and end, the keys and the pointer.
+// The screen framework: how screens run and end, the keys, the background, the pointer and the window's fit.
 // Each gesture is played on one fresh device and its keys on another: both end in the same state and picture.
 #include "CityFixture.h"
 #include "ScreenTestBench.h"
 #include "app/ServicesApp.h"
 #include "screens/select/SelectDialog.h"
 #include "screens/worldclock/WorldClockScreen.h"
+#include "ui/NumericEdit.h"
+#include "ui/WindowFit.h"
 
 #include <QMenu>
+#include <QScreen>
 
 #include <algorithm>
+#include <tuple>
 
 enum class Kind { Launcher, Clocks, Select };
 Q_DECLARE_METATYPE(Kind)
@@ -27,11 +31,12 @@ public:
     int initialised = 0, destroyed = 0, ticks = 0;
     QList<QSize> layouts;
     QList<int> commands;
+    std::function<void()> onInitialise = [] {};
     std::function<void()> onDestroy = [] {};
-    using Screen::startScreenTimer;
+    using Screen::setBackgroundPicture, Screen::startScreenTimer, Screen::takeOverBackKey;
 
 protected:
-    void initialise() override { ++initialised; }
+    void initialise() override { ++initialised, onInitialise(); }
     void layout(int width, int height) override { layouts.append(QSize(width, height)); }
     void destroyWork() override { ++destroyed, onDestroy(); }
     void timerTick(int) override { ++ticks; }
@@ -188,6 +193,49 @@ private slots:
         QCOMPARE(dialog.commands, (QList<int> {Commands::Add, Commands::Done}));
     }
 
+    void theGradientShowsWithoutAPictureAndAPictureIsFoundByItsJoinedName()
+    {
+        ScreenTestBench bench;
+        ProbeScreen screen(bench.environment, bench.window, MenuBarId::Converter, "probe");
+        screen.setBackgroundPicture(L"back.jpg"); // not in the device root yet
+        QImage image;
+        bench.visit(screen, [&] { image = bench.render(); });
+        QCOMPARE(image.pixelColor(239, 0), QColor(114, 150, 180));
+        // Band i starts at H * (30 - i) / 30: band 2 begins at row 250, band 1 at row 259.
+        QCOMPARE(image.pixelColor(100, 250), QColor(86, 122, 152));
+        QCOMPARE(image.pixelColor(100, 259), QColor(85, 121, 151));
+        QImage red(240, 268, QImage::Format_RGB32);
+        red.fill(QColor(200, 0, 0));
+        QVERIFY(red.save(QString::fromStdString((bench.root.path() / "back.jpg").string()), "JPG", 100));
+        bench.visit(screen, [&] { image = bench.render(); });
+        const QColor centre = image.pixelColor(120, 134);
+        QVERIFY2(centre.red() > 180 && centre.green() < 30, qPrintable(centre.name()));
+    }
+
+    void theBackKeyErasesInTheFocusedEditBoxOnlyWhereTakenOver()
+    {
+        ScreenTestBench bench;
+        ProbeScreen screen(bench.environment, bench.window, MenuBarId::Converter, "probe");
+        auto* amount = new NumericEdit(&screen);
+        for (const bool takenOver : {true, false}) {
+            screen.onInitialise = [&] {
+                if (takenOver)
+                    screen.takeOverBackKey();
+                amount->setGeometry(5, 40, 200, 25);
+                amount->setText(QString());
+                amount->setFocus();
+            };
+            bench.visit(screen, [&] {
+                QTest::keyClicks(amount, QStringLiteral("12x3.5"));
+                QCOMPARE(amount->text(), QStringLiteral("123.5")); // typing keeps to a number's characters
+                bench.press(Qt::Key_Escape);
+                bench.press(Qt::Key_Escape);
+                QCOMPARE(amount->text(), takenOver ? QStringLiteral("123") : QStringLiteral("123.5"));
+                QVERIFY(screen.isRunning()); // Back never leaves the screen
+            });
+        }
+    }
+
     void gesturesAreTheirKeys_data()
     {
         QTest::addColumn<Kind>("kind");
@@ -246,6 +294,45 @@ private slots:
         QCOMPARE(touched.opened, keyed.opened);
         QVERIFY(touched == keyed); // and the same message boxes and picture
         QCOMPARE(keys.isEmpty(), touched == play(kind, [](ScreenTestBench&) {}));
+    }
+
+    void scaleFillsTheScreen()
+    {
+        using Case = std::tuple<QSize, QSize, double>; // the screen's available size, the work area, the scale
+        // Upright the device is 240 x (268 + 26) = 240 x 294; turned, 268 x (240 + 26) = 268 x 266.
+        const Case cases[] = {
+            // Phone 360 x 720: upright min(1.5, 2.449), turned min(360/268 = 1.3433, 2.707) -> 1.3433.
+            {{360, 720}, {240, 268}, 360.0 / 268},
+            // Desktop 1920 x 1050: upright min(8, 3.571), turned min(7.16, 3.947) -> 3.571, held at 2.
+            {{1920, 1050}, {240, 268}, 2.0},
+        };
+        for (const auto& [available, workArea, scale] : cases)
+            QCOMPARE(FitScale(available, workArea, SoftKeyBar::BarHeight, 2.0), scale);
+    }
+
+    // The screen's own rotation, or Ctrl+R on a desktop, lays every running screen out again.
+    void rotationLaysEveryRunningScreenOutAgain()
+    {
+        ScreenTestBench bench;
+        ProbeScreen outer(bench.environment, bench.window, MenuBarId::Launcher, "outer");
+        ProbeScreen inner(bench.environment, bench.window, MenuBarId::Select, "inner");
+        const QSize upright(240, 268), turned(268, 240);
+        const std::pair<Qt::ScreenOrientation, QSize> steps[]
+            = {{Qt::InvertedLandscapeOrientation, turned}, {Qt::PrimaryOrientation, turned}, // no rotation
+                {Qt::InvertedPortraitOrientation, upright}};
+        bench.visit(outer, [&] {
+            bench.visit(inner, [&] {
+                for (const auto& [orientation, workArea] : steps) {
+                    emit QGuiApplication::primaryScreen()->orientationChanged(orientation);
+                    QCOMPARE(bench.window.size(), workArea + QSize(0, SoftKeyBar::BarHeight));
+                    QCOMPARE(inner.layouts.last(), workArea);
+                }
+                QTest::keyClick(&inner, Qt::Key_R, Qt::ControlModifier);
+            });
+        });
+        // The screen underneath is laid out again by the time it shows.
+        QCOMPARE(inner.layouts.last(), turned);
+        QCOMPARE(outer.layouts.last(), turned);
     }
 };
 
