@@ -19,7 +19,7 @@ check "an unusable state folder exits 1 and is named" "1 yes" \
 # The first instance runs; a second start raises it and leaves at once with 0, opening no state.
 "$program" --state-dir "$work/state" >"$work/first.log" 2>&1 &
 first=$!
-for _ in $(seq 50); do [ -S "$XDG_RUNTIME_DIR/{Wanderkit-91F5D741-4E63-4642-A05A-E4AC57871578}" ] && break; sleep 0.1; done
+for _ in $(seq 600); do [ -S "$XDG_RUNTIME_DIR/{Wanderkit-91F5D741-4E63-4642-A05A-E4AC57871578}" ] && break; sleep 0.1; done
 check "a second instance exits 0 and opens no state" "0 no" \
     "$(status timeout 10 "$program" --state-dir "$work/state2") $([ -e "$work/state2" ] && echo yes || echo no)"
 kill -0 $first 2>/dev/null
