@@ -6,7 +6,6 @@
 #include <tuple>
 
 class CityCatalogue;
-class CurrencyStore;
 class DeviceWindow;
 class Screen;
 class WeatherFavourites;
@@ -20,7 +19,7 @@ struct ServiceContext
     ScreenEnvironment& environment;
     DeviceWindow& window;
     // The launcher's stores; a screen names the ones it is built with by their types.
-    std::tuple<CityCatalogue&, WeatherFavourites&, CurrencyStore&, const InitialCurrencyList&> stores;
+    std::tuple<CityCatalogue&, WeatherFavourites&, const InitialCurrencyList&> stores;
     WeatherOpener& weather; // opens the World Weather screen for another screen's city
 };
 

@@ -36,7 +36,7 @@ ServicesApp::ServicesApp(ScreenEnvironment& environment, DeviceWindow& window)
     onCommand({Commands::Ok}, [this] { openService(selection()); });
     // The launcher is left by "Exit" only.
     onCommand({Commands::Services, Commands::Done}, [] {});
-    ServiceContext context {environment, window, {m_cities, m_favourites, m_currencies, m_initialCurrencies}, *this};
+    ServiceContext context {environment, window, {m_cities, m_favourites, m_initialCurrencies}, *this};
     for (std::size_t i = 0; i < m_screens.size(); ++i) {
         if (const auto make = Services()[i].makeScreen)
             m_screens[i] = make(context);
