@@ -239,7 +239,7 @@ void Screen::keyPressEvent(QKeyEvent* event)
 
 bool Screen::event(QEvent* event)
 {
-    const SwipeRecogniser::Reading reading = m_swipe.read(*this, *event);
+    const SwipeRecogniser::Reading reading = m_swipe.read(*event);
     if (!reading.mouse)
         return QWidget::event(event);
     if (m_running && !m_ended) {

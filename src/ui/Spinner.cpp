@@ -124,7 +124,7 @@ void Spinner::keyPressEvent(QKeyEvent* event)
 
 bool Spinner::event(QEvent* event)
 {
-    const SwipeRecogniser::Reading reading = m_swipe.read(*this, *event);
+    const SwipeRecogniser::Reading reading = m_swipe.read(*event);
     if (!reading.mouse)
         return QWidget::event(event);
     if (reading.pressed)

@@ -2,35 +2,26 @@
 #include "ui/SwipeRecogniser.h"
 
 #include <QMouseEvent>
-#include <QWidget>
 #include <QtMath>
 
-SwipeRecogniser::Reading SwipeRecogniser::read(const QWidget& widget, const QEvent& event)
+SwipeRecogniser::Reading SwipeRecogniser::read(const QEvent& event)
 {
+    const QEvent::Type type = event.type();
     Reading reading;
-    // A disabled widget takes no mouse events, as QWidget::event drops them.
-    if (!widget.isEnabled())
+    reading.mouse = type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick || type == QEvent::MouseMove
+        || type == QEvent::MouseButtonRelease;
+    if (!reading.mouse)
         return reading;
-    switch (event.type()) {
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick:
-        reading.at = static_cast<const QMouseEvent&>(event).position();
-        press(reading.at);
-        reading.pressed = true;
-        break;
-    case QEvent::MouseMove:
-        reading.at = static_cast<const QMouseEvent&>(event).position();
+    reading.at = static_cast<const QMouseEvent&>(event).position();
+    if (type == QEvent::MouseMove) {
         reading.step = move(reading.at);
-        break;
-    case QEvent::MouseButtonRelease:
-        reading.at = static_cast<const QMouseEvent&>(event).position();
+    } else if (type == QEvent::MouseButtonRelease) {
         reading.step = release(reading.at);
         reading.tap = m_tap;
-        break;
-    default:
-        return reading;
+    } else {
+        press(reading.at);
+        reading.pressed = true;
     }
-    reading.mouse = true;
     return reading;
 }
 

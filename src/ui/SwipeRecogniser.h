@@ -4,7 +4,6 @@
 #include <QPointF>
 
 class QEvent;
-class QWidget;
 
 // Tells a tap from a horizontal swipe in one press-move-release run of a finger or the mouse.
 // A swipe is reported once, as soon as the pointer has travelled far enough sideways; a release that
@@ -17,8 +16,8 @@ public:
     // Logical pixels a tap may wander.
     static constexpr qreal TapSlop = 8;
 
-    // What one event to `widget` did to the run. Only mouse presses, moves and releases are read (a
-    // double click presses again; touch reaches widgets as those), and only while the widget is enabled.
+    // What one event did to the run. Only mouse presses, moves and releases are read (a double click
+    // presses again; touch reaches widgets as those).
     struct Reading
     {
         bool mouse = false; // the event was one of them; the widget takes it
@@ -27,7 +26,7 @@ public:
         bool tap = false; // the run just released was a tap at `at`
         QPointF at;
     };
-    [[nodiscard]] Reading read(const QWidget& widget, const QEvent& event);
+    [[nodiscard]] Reading read(const QEvent& event);
     // Forgets the run pressed last: a press the widget used for something else.
     void cancel() { m_pressed = false; }
 

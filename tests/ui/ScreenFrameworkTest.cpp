@@ -296,6 +296,20 @@ private slots:
         QCOMPARE(keys.isEmpty(), touched == play(kind, [](ScreenTestBench&) {}));
     }
 
+    // A double click is a press of its own, after the press and release that came before it: alone on the
+    // Select list's up arrow it steps up once, as QWidget's default handling of it did.
+    void aDoubleClickIsAPress()
+    {
+        const QPoint upArrow(210, 42);
+        const Outcome clicked = play(Kind::Select, [&](ScreenTestBench& bench) {
+            QWidget* const list = bench.window.childAt(upArrow);
+            QTest::mouseDClick(list, Qt::LeftButton, Qt::NoModifier, list->mapFrom(&bench.window, upArrow));
+        });
+        const Outcome keyed = play(Kind::Select, [](ScreenTestBench& bench) { bench.press(Qt::Key_Up); });
+        QCOMPARE(clicked.index, keyed.index);
+        QVERIFY(clicked == keyed);
+    }
+
     void scaleFillsTheScreen()
     {
         using Case = std::tuple<QSize, QSize, double>; // the screen's available size, the work area, the scale
