@@ -200,10 +200,12 @@ int Screen::finishRun()
     stopAllTimers();
     destroyWork();
     // One write for all: a kill while the screen closes leaves all its settings old or all new.
-    m_settings.writeTogether([this] {
-        for (const auto& write : m_keptSettings)
-            write();
-    });
+    if (!m_keptSettings.empty()) {
+        m_settings.writeTogether([this] {
+            for (const auto& write : m_keptSettings)
+                write();
+        });
+    }
     m_running = false;
     m_softKeys = nullptr;
     m_picture = QImage();
