@@ -31,6 +31,27 @@ ReportList* makeList(QWidget* parent, const QString& name, std::vector<ReportLis
     return list;
 }
 
+void fillLists(ReportList& international, ReportList& areaCodes)
+{
+    const BusyCursor busy;
+    international.clearRows();
+    int row = 0;
+    for (const DialingCodes::Country& country : DialingCodes::International())
+        international.insertRow(
+            row++, {ToQString(country.country), ToQString(DialingCodes::ShownCode(country)), ToQString(country.gmt)});
+    areaCodes.clearRows();
+    row = 0;
+    for (const DialingCodes::AreaCode& area : DialingCodes::UsAreaCodes())
+        areaCodes.insertRow(row++, {ToQString(area.city), ToQString(area.state), ToQString(area.code)});
+}
+
+// The chooser's first item shows the international list, its second the area codes.
+void showChosenList(int chosen, ReportList& international, ReportList& areaCodes)
+{
+    international.setVisible(chosen == 0);
+    areaCodes.setVisible(chosen != 0);
+}
+
 } // namespace
 
 DialingScreen::DialingScreen(ScreenEnvironment& environment, DeviceWindow& window)
@@ -42,25 +63,22 @@ DialingScreen::DialingScreen(ScreenEnvironment& environment, DeviceWindow& windo
     setBackgroundPicture(L"bconv.jpg");
     m_chooser->setItems(
         {Painting::loadString(StringIds::InternationalDialingCodes), Painting::loadString(StringIds::UsAreaCodes)});
-    connect(m_chooser, &Spinner::currentChanged, this, &DialingScreen::showChosenList);
-}
-
-// The lists are made on the first opening, so that the program's start does not pay for them.
-void DialingScreen::createLists()
-{
-    m_international = makeList(this, QStringLiteral("internationalReportList"),
-        {{Painting::loadString(StringIds::Country), 45}, {Painting::loadString(StringIds::Code), 26},
-            {Painting::loadString(StringIds::Gmt), 21, 1}});
-    // The state and the code share what the city leaves, 92 % in all as above, room kept for the scroll bar.
-    m_areaCodes = makeList(this, QStringLiteral("areaCodeReportList"),
-        {{Painting::loadString(StringIds::City), 35}, {Painting::loadString(StringIds::RegionState), 40},
-            {Painting::loadString(StringIds::Code), 17}});
+    connect(m_chooser, &Spinner::currentChanged, this,
+        [this](int chosen) { showChosenList(chosen, *m_international, *m_areaCodes); });
 }
 
 void DialingScreen::initialise()
 {
-    if (!m_international)
-        createLists();
+    // The lists are made on the first opening, so that the program's start does not pay for them.
+    if (!m_international) {
+        m_international = makeList(this, QStringLiteral("internationalReportList"),
+            {{Painting::loadString(StringIds::Country), 45}, {Painting::loadString(StringIds::Code), 26},
+                {Painting::loadString(StringIds::Gmt), 21, 1}});
+        // The state and the code share what the city leaves, 92 % in all as above, room kept for the scroll bar.
+        m_areaCodes = makeList(this, QStringLiteral("areaCodeReportList"),
+            {{Painting::loadString(StringIds::City), 35}, {Painting::loadString(StringIds::RegionState), 40},
+                {Painting::loadString(StringIds::Code), 17}});
+    }
     // Bar 107 greys "Services" for the launcher; here it must lead back to the launcher.
     softKeys()->setKeyEnabled(Commands::Services, true);
     m_listFont = Painting::makeFont(ListFontHeight, Painting::Normal);
@@ -68,30 +86,9 @@ void DialingScreen::initialise()
     m_international->setFont(m_listFont);
     m_areaCodes->setFont(m_listFont);
     m_chooser->setCurrentIndex(0);
-    showChosenList();
-    fillLists();
+    showChosenList(0, *m_international, *m_areaCodes);
+    fillLists(*m_international, *m_areaCodes);
     m_chooser->setFocus();
-}
-
-void DialingScreen::fillLists()
-{
-    const BusyCursor busy;
-    m_international->clearRows();
-    int row = 0;
-    for (const DialingCodes::Country& country : DialingCodes::International())
-        m_international->insertRow(
-            row++, {ToQString(country.country), ToQString(DialingCodes::ShownCode(country)), ToQString(country.gmt)});
-    m_areaCodes->clearRows();
-    row = 0;
-    for (const DialingCodes::AreaCode& area : DialingCodes::UsAreaCodes())
-        m_areaCodes->insertRow(row++, {ToQString(area.city), ToQString(area.state), ToQString(area.code)});
-}
-
-void DialingScreen::showChosenList()
-{
-    const bool international = m_chooser->currentIndex() == 0;
-    m_international->setVisible(international);
-    m_areaCodes->setVisible(!international);
 }
 
 void DialingScreen::layout(int width, int height)

@@ -24,10 +24,6 @@ protected:
     void paint(QPainter& painter) override;
 
 private:
-    void createLists();
-    void fillLists();
-    void showChosenList();
-
     TitleBand m_title;
     Spinner* m_chooser;
     ReportList* m_international = nullptr;
