@@ -95,6 +95,8 @@ private slots:
             QCOMPARE(t.screen.currentDay(), 5);
             QCOMPARE(t.screen.shownDay(), day);
             QCOMPARE(t.bench.favouriteRecords(), before);
+            t.bench.press(Qt::Key_3); // a digit jumps to that day, the one the spinner then shows
+            QCOMPARE(t.condition(), QStringLiteral("Day 2"));
             t.bench.whenNextShown(t.screen, [&](Screen& shown) {
                 auto& dialog = static_cast<FavouritesDialog&>(shown);
                 QCOMPARE(dialog.currentCountry(), L"France"); // Paris, preselected

@@ -161,7 +161,8 @@ void WeatherScreen::showDay(int day)
 
 void WeatherScreen::stepDay(int delta)
 {
-    showDay(SteppedDay(m_currentDay, delta));
+    // A step of 0 is a digit typed on the spinner, which has jumped to that day: the screen follows it.
+    showDay(delta == 0 ? m_days->currentIndex() + 1 : SteppedDay(m_currentDay, delta));
 }
 
 void WeatherScreen::command(int id)
