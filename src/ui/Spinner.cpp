@@ -7,6 +7,7 @@
 #include <QWheelEvent>
 
 #include <algorithm>
+#include <cstdlib>
 
 Spinner::Spinner(QWidget* parent, Orientation orientation)
     : QWidget(parent)
@@ -149,9 +150,11 @@ void Spinner::pressAt(QPointF at)
 
 void Spinner::wheelEvent(QWheelEvent* event)
 {
+    // Each notch is one step, as that many arrow presses would make: a screen that follows the steps
+    // (the weather's day) moves as far as the spinner.
     const int notches = event->angleDelta().y() / 120;
-    if (notches != 0)
-        step(-notches);
+    for (int n = 0; n < std::abs(notches); ++n)
+        step(notches > 0 ? -1 : 1);
     event->accept();
 }
 

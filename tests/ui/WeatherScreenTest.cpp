@@ -9,6 +9,7 @@
 
 #include <QPainter>
 #include <QPushButton>
+#include <QWheelEvent>
 
 namespace {
 
@@ -97,6 +98,13 @@ private slots:
             QCOMPARE(t.bench.favouriteRecords(), before);
             t.bench.press(Qt::Key_3); // a digit jumps to that day, the one the spinner then shows
             QCOMPARE(t.condition(), QStringLiteral("Day 2"));
+            // Two notches of the wheel in one event are two steps back, for the spinner and the day alike.
+            auto* days = child<Spinner>(t.screen, "daySpinner");
+            QWheelEvent wheel(QPointF(5, 5), days->mapToGlobal(QPointF(5, 5)), QPoint(), QPoint(0, 240), Qt::NoButton,
+                Qt::NoModifier, Qt::NoScrollPhase, false);
+            QApplication::sendEvent(days, &wheel);
+            QCOMPARE(days->currentText(), QStringLiteral("1"));
+            QCOMPARE(t.screen.currentDay(), 1);
             t.bench.whenNextShown(t.screen, [&](Screen& shown) {
                 auto& dialog = static_cast<FavouritesDialog&>(shown);
                 QCOMPARE(dialog.currentCountry(), L"France"); // Paris, preselected
