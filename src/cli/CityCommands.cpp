@@ -2,6 +2,7 @@
 #include "cli/CityCommands.h"
 
 #include "cli/CityLookup.h"
+#include "cli/CommandWords.h"
 #include "cli/RunOnDevice.h"
 #include "device/DeviceClock.h"
 #include "session/HomeCity.h"
@@ -13,10 +14,12 @@
 #include "time/TwelveHourTime.h"
 
 #include <ostream>
+#include <utility>
 
 namespace {
 
 using CommandExit::UsageError;
+constexpr const char* TimeUsage = "Usage: wanderkit time CITY... [--home CITY] [--twelve-hour]\n";
 
 std::string joined(const std::vector<std::string>& words)
 {
@@ -49,20 +52,19 @@ std::optional<TimeRequest> parseTimeRequest(const std::vector<std::string>& args
     for (std::size_t i = 0; i < args.size(); ++i) {
         if (args[i] == "--twelve-hour") {
             request.twelveHour = true;
-        } else if (args[i] == "--home" && i + 1 < args.size()) {
-            request.home = args[++i];
-        } else if (args[i].starts_with("--home=")) {
-            request.home = args[i].substr(7);
+        } else if (auto home = CommandWords::optionValue(args, i, "--home")) {
+            if (home->empty())
+                return err << "wanderkit: time: --home wants a city\n" << TimeUsage, std::nullopt;
+            request.home = std::move(home);
         } else if (args[i].starts_with("-")) {
-            err << "wanderkit: time: unknown option " << args[i] << "\nUsage: wanderkit time CITY... [--home CITY] "
-                << "[--twelve-hour]\n";
+            err << "wanderkit: time: unknown option " << args[i] << '\n' << TimeUsage;
             return std::nullopt;
         } else {
             request.cities.push_back(args[i]);
         }
     }
     if (request.cities.empty()) {
-        err << "wanderkit: time: name at least one city\nUsage: wanderkit time CITY... [--home CITY] [--twelve-hour]\n";
+        err << "wanderkit: time: name at least one city\n" << TimeUsage;
         return std::nullopt;
     }
     return request;
