@@ -21,14 +21,6 @@ namespace {
 using CommandExit::UsageError;
 constexpr const char* TimeUsage = "Usage: wanderkit time CITY... [--home CITY] [--twelve-hour]\n";
 
-std::string joined(const std::vector<std::string>& words)
-{
-    std::string text;
-    for (const std::string& word : words)
-        text += (text.empty() ? "" : " ") + word;
-    return text;
-}
-
 // Resolves one CITY word; prints the reason and gives nothing when it names no single city.
 std::optional<std::uint32_t> findCity(CommandSession& session, const std::string& word, std::ostream& err)
 {
@@ -79,10 +71,13 @@ std::string dayMonthYear(const ClockSlot& slot, const SystemTime& date)
 
 int RunCitiesCommand(const CommandRequest& request, std::ostream& out, std::ostream& err)
 {
+    const CommandWords words = CommandWords::split(request.args);
+    if (!words.options.empty())
+        return CommandWords::refuseOption(words.options.front(), "cities", "Usage: wanderkit cities [TEXT]\n", err);
     auto session = CommandSession::open(request, err);
     if (!session)
         return CommandExit::Unusable;
-    const std::wstring text = FoldLatin1(Utf8ToWide(joined(request.args)));
+    const std::wstring text = FoldLatin1(Utf8ToWide(words.joined()));
     CityCatalogue& cities = session->cities();
     const std::uint32_t count = cities.Count();
     for (std::uint32_t i = 0; i < count; ++i) {

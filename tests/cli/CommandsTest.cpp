@@ -113,6 +113,7 @@ TEST_F(CityCommands, UnknownCitiesAndBadRequestsAreUsageErrors)
         = {{"city", {"C068"}, "nearest names are: C0680"}, {"time", {"4000"}, ""},
             {"time", {"684", "--frobnicate"}, "time: unknown option --frobnicate"},
             {"time", {"684", "--home"}, "time: --home wants a city"}, {"sun", {}, "sun: name one city"},
+            {"cities", {"--frobnicate"}, "cities: unknown option --frobnicate"},
             {"sun", {"C0000", "--date", "2026-02-30"}, "--date wants a calendar date YYYY-MM-DD, got \"2026-02-30\""},
             {"sun", {"C0000", "--when", "today"}, "sun: unexpected \"--when\""}};
     for (const auto& [command, args, message] : cases)
