@@ -72,10 +72,11 @@ int RunSunCommand(const CommandRequest& command, std::ostream& out, std::ostream
             return UsageError;
         }
         CityCatalogue& cities = session.cities();
+        // The device offset too is the one of that date: the home city may observe daylight saving then.
+        const SystemTime now = onDate(session.clock().localTime(), request.date);
         const DeviceOffset device
-            = HomeCity::deviceOffset(cities, HomeCity::position(session.settings()), session.clock());
-        const CitySunTimes sun
-            = ComputeCitySunTimes(cities.Record(*position), device, onDate(session.clock().localTime(), request.date));
+            = HomeCity::deviceOffset(cities, HomeCity::position(session.settings()), session.clock(), now);
+        const CitySunTimes sun = ComputeCitySunTimes(cities.Record(*position), device, now);
         out << WideToUtf8(sun.times.sunriseText) << '\t' << WideToUtf8(sun.times.sunsetText) << '\t'
             << WideToUtf8(sun.times.dayLengthText) << '\t' << sun.utcHours << '\n';
         return 0;

@@ -15,6 +15,12 @@ std::uint32_t HomeCity::position(RegistrySettings& settings)
 
 DeviceOffset HomeCity::deviceOffset(CityCatalogue& cities, std::uint32_t home, const DeviceClock& clock)
 {
+    return deviceOffset(cities, home, clock, clock.localTime());
+}
+
+DeviceOffset HomeCity::deviceOffset(
+    CityCatalogue& cities, std::uint32_t home, const DeviceClock& clock, const SystemTime& now)
+{
     const CityRecord city = cities.Record(home);
-    return ComputeDeviceOffset(false, clock.standardBias(), {city.timeZone, city.daylightRule}, clock.localTime());
+    return ComputeDeviceOffset(false, clock.standardBias(), {city.timeZone, city.daylightRule}, now);
 }

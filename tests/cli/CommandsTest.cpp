@@ -105,6 +105,10 @@ TEST_F(CityCommands, TimeCityAndSunShowWhatTheScreensShow)
     // 19:47 UTC on 13 July 2026, 15:40 of day; on 13 January at 07:39 and 16:22, 08:42 of day.
     EXPECT_TRUE(run("sun", {"C0000"}).printed("06:07\t21:47\t15:40\t2\n")); // +1 with summer time
     EXPECT_TRUE(run("sun", {"--date=2026-01-13", "C0000:land"}).printed("08:39\t17:22\t08:42\t1\n"));
+    // On 8 March the home is on +1 (+2 in July): at 06:30 there C0684 is at 00:30 on 8 March, its first
+    // day of summer time (-4); from July's +2 it would still be 7 March (-5), an hour early all day.
+    EXPECT_TRUE(
+        run("sun", {"C0684", "--date", "2026-03-08"}, "2026-07-13 06:30:00").printed("02:20\t13:45\t11:24\t-4\n"));
 }
 
 TEST_F(CityCommands, UnknownCitiesAndBadRequestsAreUsageErrors)
