@@ -100,6 +100,25 @@ private slots:
         QCOMPARE(dialog.selection(), -1);
     }
 
+    void aCityNamedLikeAFavouriteOfAnotherCountryIsOneAlready()
+    {
+        // The home Twin (Alpha) is made a favourite at opening; Twin (Beta) is then in the store by its name.
+        WorldClockBench t("h\n2\nx;Twin;Alpha;0;0;0;0;0;0;0;0\nx;Twin;Beta;0;0;0;0;0;0;0;0\n");
+        t.bench.root.write("weatcs/Alpha", "Twin;1\n");
+        t.bench.root.write("weatcs/Beta", "Twin;2\n");
+        t.bench.store(Settings::Clock1, 1);
+        RecordingOpener opener;
+        t.screen.setWeatherOpener(&opener);
+        t.bench.visit(t.screen, [&] {
+            for (int step = 0; step < 3; ++step)
+                t.bench.press(Qt::Key_Right); // "w1"
+            t.bench.press(Qt::Key_Return);
+        });
+        QCOMPARE(t.bench.favourites.count(), 1);
+        QVERIFY(t.bench.boxes.shown.empty());
+        QCOMPARE(opener.cities, std::vector<std::wstring> {L"Twin"});
+    }
+
     void theHomeClockFitsItsWidestNameInBothOrientationsAndTheMenuTogglesTwelveHours()
     {
         WorldClockBench t(TempDir::read(WANDERKIT_SHIPPED_DEVICE_ROOT "/cities.lst"));

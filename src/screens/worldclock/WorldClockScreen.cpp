@@ -136,8 +136,10 @@ bool WorldClockScreen::addFavourite(std::uint32_t cityIndex)
     const std::wstring updateKey = std::wstring(WeatherFavourites::InitialUpdateDate) + L":" + city.country;
     if (!m_favourites.addFavourite(city.name, *code, L"", updateKey))
         return false;
+    // Favourites are found by name: a city of another country with the same name is one now too.
+    const QString name = ToQString(city.name);
     for (std::size_t i = 0; i < SlotCount; ++i)
-        m_favourite[i] = m_favourite[i] || m_cityOf[i] == cityIndex;
+        m_favourite[i] = m_favourite[i] || m_names[i] == name;
     return true;
 }
 
