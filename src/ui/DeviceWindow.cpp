@@ -106,6 +106,7 @@ void DeviceWindow::showTop()
         m_runs[i].softKeys->setVisible(top);
     }
     if (Screen* screen = topScreen()) {
+        setWindowTitle(screen->windowTitle());
         screen->raise();
         QWidget* focus = screen->focusWidget();
         (focus ? focus : screen)->setFocus(Qt::OtherFocusReason);

@@ -22,6 +22,8 @@ Screen::Screen(ScreenEnvironment& environment, DeviceWindow& window, MenuBarId m
     , m_name(std::move(name))
 {
     setObjectName(m_name + QStringLiteral("Screen"));
+    // The caption the title bar shows while the screen is on top; two screens spell it otherwise.
+    setWindowTitle(QStringLiteral("Wanderkit"));
     // The screen itself never takes the focus from its controls when Up/Down move between them.
     setFocusPolicy(Qt::NoFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);

@@ -62,6 +62,7 @@ private slots:
             const QRect leftOnly(22, top + 4, 7, 24);
             const QRect rightOnly(211, top + 4, 7, 24);
             const QImage still = t.bench.render();
+            QCOMPARE(t.bench.window.windowTitle(), QStringLiteral("Wandrekit")); // the map's own caption, misspelt
             t.bench.press(Qt::Key_Right); // right from the last city: the first
             const QImage right = t.bench.render();
             QVERIFY(right.copy(rightOnly) != still.copy(rightOnly));

@@ -72,11 +72,13 @@ private slots:
             t.bench.press(Qt::Key_Left);
             t.bench.whenNextShown(t.screen, [&](Screen& dialog) {
                 QCOMPARE(static_cast<SelectDialog&>(dialog).selection(), 684);
+                QCOMPARE(t.bench.window.windowTitle(), QStringLiteral("Wandrekit")); // the dialog's caption, misspelt
                 t.bench.press(Qt::Key_Down);
                 t.bench.press(Qt::Key_Down);
                 dialog.sendCommand(Commands::Done);
             });
             t.bench.press(Qt::Key_Return);
+            QCOMPARE(t.bench.window.windowTitle(), QStringLiteral("Wanderkit")); // back with the screen beneath
             QCOMPARE(t.bench.stored(Settings::Clock1), 686u);
             QCOMPARE(t.screen.shownName(1), QStringLiteral("C0686"));
         });

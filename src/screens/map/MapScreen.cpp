@@ -51,6 +51,7 @@ MapScreen::MapScreen(
     : CityScreen(environment, window, MenuBarId::Map, QStringLiteral("worldmap"), cities, favourites)
     , m_spinner(addSpinner(QStringLiteral("citySpinner"), std::bind_front(&MapScreen::stepCity, this)))
 {
+    setWindowTitle(QStringLiteral("Wandrekit")); // the handheld's caption of this screen, misspelt
     keepSetting(Settings::MapClock, [this] { return static_cast<std::uint32_t>(m_selected); });
     onCommand({Commands::ShowCitiesOnMap}, std::bind_front(&MapScreen::toggleMarkers, this));
     onCommand({Commands::ChangeCity, Commands::Ok}, std::bind_front(&MapScreen::changeCity, this));

@@ -33,6 +33,7 @@ SelectDialog::SelectDialog(ScreenEnvironment& environment, DeviceWindow& window)
     , m_currencies(environment.objects)
     , m_list(new Spinner(this, Spinner::Orientation::Vertical))
 {
+    setWindowTitle(QStringLiteral("Wandrekit")); // the handheld's caption of this dialog, misspelt
     m_list->setObjectName(QStringLiteral("choiceSpinner"));
     connect(m_list, &Spinner::currentChanged, this, &SelectDialog::listChanged);
     // A tap on the list steps it on, as Down does.
