@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include <climits>
 #include <cmath>
 #include <tuple>
 
@@ -227,10 +228,12 @@ TEST(MapPoint, MapHeightAndPointsOfWholeDegrees)
 
     // Longitude, latitude, map width and height, the point. The middle column and row; at 90 N,
     // 69 - 90 x 138 / 180 = 69 - 69.000000000000014, truncated to 0; at 90 S one row below the map and at
-    // 180 E one column past its right edge; odd sizes halve as integers; Paris, 960 + 10.67 and 540 - 288.
+    // 180 E one column past its right edge; odd sizes halve as integers; Paris, 960 + 10.67 and 540 - 288;
+    // the extreme coordinates of a hand-edited file, whose products overflow an int, far off the map.
     const std::tuple<int, int, int, int, MapPoint> points[] = {{0, 0, 240, 138, {120, 69}}, {0, 90, 240, 138, {120, 0}},
         {0, -90, 240, 138, {120, 138}}, {-180, 0, 240, 138, {0, 69}}, {180, 0, 240, 138, {240, 69}},
-        {0, 0, 241, 139, {120, 69}}, {2, 48, 1920, 1080, {970, 252}}};
+        {0, 0, 241, 139, {120, 69}}, {2, 48, 1920, 1080, {970, 252}}, {INT_MAX, INT_MIN, 240, 138, {1000000, 1000000}},
+        {INT_MIN, INT_MAX, 240, 138, {-1000000, -1000000}}};
     for (const auto& [longitude, latitude, width, height, point] : points)
         EXPECT_EQ(MapPointOf(longitude, latitude, width, height), point) << longitude << ',' << latitude;
 }
