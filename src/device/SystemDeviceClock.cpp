@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "device/SystemDeviceClock.h"
 
+#include <algorithm>
 #include <chrono>
+#include <climits>
 #include <cstdio>
 #include <ctime>
 
@@ -66,8 +68,18 @@ SystemTime SystemDeviceClock::fromTm(const std::tm& tm, int milliseconds)
 
 std::int32_t SystemDeviceClock::standardBias() const
 {
-    // glibc's `timezone` holds the standard offset in seconds west of GMT, which is the bias.
-    return static_cast<std::int32_t>(timezone / 60);
+    // The bias is standard time's, to which daylight saving adds: the smaller of the offsets at the start
+    // and the middle of the year. (glibc's `timezone` takes Irish summer time for standard, winter for a
+    // negative saving.)
+    long leastOffset = LONG_MAX;
+    for (const int month : {1, 7}) {
+        std::tm tm = toTm(
+            SystemTime {.year = localTime().year, .month = static_cast<std::uint16_t>(month), .day = 1, .hour = 12});
+        const std::time_t at = std::mktime(&tm);
+        localtime_r(&at, &tm);
+        leastOffset = std::min(leastOffset, tm.tm_gmtoff);
+    }
+    return static_cast<std::int32_t>(-leastOffset / 60);
 }
 
 std::optional<SystemTime> SystemDeviceClock::parseLocalTime(const char* text)

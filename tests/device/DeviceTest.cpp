@@ -38,8 +38,10 @@ TEST(SystemDeviceClock, ParsesValidLocalTimesAndStartsAtThem)
         {"2026-01-01 24:00:00", false}, {"2026-01-01 12:00:00x", false}};
     for (const auto& [text, valid] : cases)
         EXPECT_EQ(SystemDeviceClock::parseLocalTime(text).has_value(), valid) << text;
-    // It starts at the given time and knows the standard bias, the same in summer.
-    const std::tuple<const char*, std::int32_t> zones[] = {{"America/New_York", 300}, {"Asia/Kolkata", -330}};
+    // It starts at the given time and knows the standard bias, the same in summer: the winter's in Dublin
+    // (whose tz data calls summer time standard) and the southern winter's in Sydney.
+    const std::tuple<const char*, std::int32_t> zones[]
+        = {{"America/New_York", 300}, {"Asia/Kolkata", -330}, {"Europe/Dublin", 0}, {"Australia/Sydney", -600}};
     const char* old = std::getenv("TZ");
     const std::string saved = old ? old : "";
     for (const auto& [tz, bias] : zones) {
