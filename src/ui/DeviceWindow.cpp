@@ -128,6 +128,13 @@ void DeviceWindow::exitAll()
         it->screen->endScreen(0);
 }
 
+void DeviceWindow::closeEvent(QCloseEvent* event)
+{
+    if (!m_runs.empty())
+        exitAll();
+    QWidget::closeEvent(event);
+}
+
 bool DeviceWindow::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() != QEvent::KeyPress || !watched->isWidgetType())

@@ -43,6 +43,8 @@ signals:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    // Closing the window from its frame ends the program as "Exit" does.
+    void closeEvent(QCloseEvent* event) override;
 
 private:
     friend class Screen;

@@ -138,8 +138,16 @@ private slots:
         QCOMPARE(screen.ticks, 2);
     }
 
+    void exitFromANestedDialogUnwindsEveryRunInnermostFirst_data()
+    {
+        QTest::addColumn<bool>("closeWindow");
+        QTest::newRow("Exit") << false;
+        QTest::newRow("the window closed") << true;
+    }
+
     void exitFromANestedDialogUnwindsEveryRunInnermostFirst()
     {
+        QFETCH(bool, closeWindow);
         ScreenTestBench bench;
         ProbeScreen outer(bench.environment, bench.window, MenuBarId::Launcher, "outer");
         ProbeScreen middle(bench.environment, bench.window, MenuBarId::WorldClocks, "middle");
@@ -150,7 +158,13 @@ private slots:
         bool afterNested = false;
         bench.run(outer, [&] {
             bench.run(middle, [&] {
-                bench.run(inner, [&] { bench.window.topSoftKeys()->chooseItem(Commands::Exit); });
+                bench.run(inner, [&] {
+                    closeWindow ? void(bench.window.close()) : bench.window.topSoftKeys()->chooseItem(Commands::Exit);
+                    if (!bench.window.isExiting()) {
+                        bench.window.exitAll(); // so that the test ends
+                        QFAIL("the program goes on");
+                    }
+                });
                 afterNested = true;
                 // Nothing opens while the program is ending.
                 QVERIFY(bench.window.isExiting());
@@ -159,7 +173,7 @@ private slots:
             });
         });
         QVERIFY(afterNested);
-        QCOMPARE(inner.commands, QList<int> {Commands::Exit});
+        QCOMPARE(inner.commands, closeWindow ? QList<int> {} : QList<int> {Commands::Exit});
         QCOMPARE(order, (QStringList {QStringLiteral("inner"), QStringLiteral("middle"), QStringLiteral("outer")}));
         QVERIFY(!bench.window.isExiting());
     }
