@@ -19,6 +19,7 @@
 #include <QTimer>
 
 #include <clocale>
+#include <cstdlib>
 #include <iostream>
 #include <memory>
 
@@ -59,6 +60,17 @@ void chooseScale(int& argc, char** argv, const StartOptions& options)
             QByteArray::number(onPhoneShell() ? screenFillingScale(argc, argv, options) : DesktopScale));
 }
 
+// Qt's messages while it connects to the display. Qt aborts the process when no display can be reached, which
+// means the window cannot be created: the program then ends with 1 and says so, rather than crashing.
+void windowlessStartHandler(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    std::cerr << qPrintable(qFormatLogMessage(type, context, message)) << '\n';
+    if (type != QtFatalMsg)
+        return;
+    std::cerr << "wanderkit: there is no display to open the window on\n";
+    std::_Exit(1);
+}
+
 // Says why the program cannot start: on standard error, and in a box when someone can see it.
 int fail(MessageBox& boxes, const std::string& message)
 {
@@ -76,8 +88,10 @@ GuiApplication::GuiApplication(StartOptions options)
 
 int GuiApplication::run(int& argc, char** argv)
 {
+    qInstallMessageHandler(windowlessStartHandler);
     chooseScale(argc, argv, m_options);
     QApplication app(argc, argv);
+    qInstallMessageHandler(nullptr);
     // Wayland shells match the window to the installed desktop entry (and its icon) by this id.
     QGuiApplication::setDesktopFileName(QStringLiteral("io.github.wanderkit.Wanderkit"));
     // Numbers in the data files and in printed results always use a decimal point.

@@ -15,6 +15,8 @@ touch "$work/not-a-folder"
 bad="$work/not-a-folder/state"
 check "an unusable state folder exits 1 and is named" "1 yes" \
     "$(status "$program" --state-dir "$bad" --exit-after-first-paint) $(says "$bad")"
+check "with no display to open the window on, exits 1 and says so" "1 yes" \
+    "$(status env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM "$program" --state-dir "$work/state0") $(says "no display")"
 
 # The first instance runs; a second start raises it and leaves at once with 0, opening no state.
 "$program" --state-dir "$work/state" >"$work/first.log" 2>&1 &
