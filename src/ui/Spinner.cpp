@@ -77,11 +77,16 @@ void Spinner::jumpToLetter(QChar letter)
     for (int k = 1; k <= count(); ++k) {
         const int index = (std::max(m_current, -1) + k) % count();
         if (m_items.at(index).startsWith(letter, Qt::CaseInsensitive)) {
-            select(index);
-            emit deltaRequested(0);
+            jumpTo(index);
             return;
         }
     }
+}
+
+void Spinner::jumpTo(int index)
+{
+    select(index);
+    emit deltaRequested(0);
 }
 
 void Spinner::hideAt(int x, int y)
@@ -113,7 +118,7 @@ void Spinner::keyPressEvent(QKeyEvent* event)
     case Qt::Key_PageUp:
     case Qt::Key_PageDown:
         if (count() > 0)
-            select(std::clamp(m_current + (event->key() == Qt::Key_PageUp ? -10 : 10), 0, count() - 1));
+            jumpTo(std::clamp(m_current + (event->key() == Qt::Key_PageUp ? -10 : 10), 0, count() - 1));
         return;
     default:
         if (const QString text = event->text(); !text.isEmpty() && text.at(0).isLetterOrNumber() && count() > 0)

@@ -8,7 +8,8 @@
 
 // A one-line list with stepping: the handheld's list box and up-down pair. Left/Right step it
 // (Up/Down too when it is vertical). Each step first reports its delta, then moves the selection
-// (wrapping when asked). A letter jumps to the next item starting with it and reports a step of 0.
+// (wrapping when asked). A letter jumps to the next item starting with it, Page Up/Down ten items, and
+// a jump reports a step of 0.
 // A tap on an arrow steps as its key does; a sideways swipe over the spinner steps it too (the finger
 // going left is Right). Hidden spinners are only there to catch the keys.
 class Spinner final : public QWidget
@@ -59,6 +60,8 @@ private:
     // A letter selects the next item starting with it, then reports a step of 0: the screen repaints
     // as after a step, without arrow feedback.
     void jumpToLetter(QChar letter);
+    // Selects `index`, then reports a step of 0.
+    void jumpTo(int index);
     void select(int index);
     // A press takes the focus; on an arrow it steps as the arrow's key does, and starts no swipe.
     void pressAt(QPointF at);

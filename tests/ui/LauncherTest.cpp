@@ -71,8 +71,18 @@ private slots:
         });
     }
 
-    void aLetterSelectsLikeAStepWithoutArrows()
+    void aJumpSelectsLikeAStepWithoutArrows_data()
     {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<int>("selection");
+        QTest::newRow("a letter") << int(Qt::Key_D) << 6; // "Dialing codes"
+        QTest::newRow("a page key") << int(Qt::Key_PageDown) << 7; // ten services on, at most to the last
+    }
+
+    void aJumpSelectsLikeAStepWithoutArrows()
+    {
+        QFETCH(int, key);
+        QFETCH(int, selection);
         ScreenTestBench bench;
         withLauncher(bench, [&](ServicesApp& launcher) {
             QVERIFY(QTest::qWaitForWindowExposed(&bench.window));
@@ -80,8 +90,8 @@ private slots:
             PaintLog painted(launcher);
             QCoreApplication::processEvents();
             QVERIFY(painted.region.isEmpty()); // nothing left to paint before the key
-            bench.press(Qt::Key_D);
-            QCOMPARE(launcher.selection(), 6);
+            bench.press(static_cast<Qt::Key>(key));
+            QCOMPARE(launcher.selection(), selection);
             QVERIFY(!launcher.leftArrowPressed() && !launcher.rightArrowPressed());
             // The highlight and the label band are repainted at once, as after a step.
             QTRY_VERIFY_WITH_TIMEOUT(painted.region.contains(QRect(0, 228, 240, 40)), 1000);
