@@ -4,6 +4,7 @@
 #include "app/ServicesApp.h"
 #include "app/SingleInstance.h"
 #include "app/TourDriver.h"
+#include "app/TourMessageBox.h"
 #include "session/DeviceSession.h"
 #include "ui/DeviceWindow.h"
 #include "ui/QtMessageBox.h"
@@ -107,7 +108,9 @@ int GuiApplication::run(int& argc, char** argv)
     if (m_options.tourDir && !device.stateDir)
         device.stateDir = tourState.path().toStdString();
 
-    QtMessageBox boxes;
+    QtMessageBox shownBoxes;
+    TourMessageBox tourBoxes;
+    MessageBox& boxes = m_options.tourDir ? static_cast<MessageBox&>(tourBoxes) : shownBoxes;
     QtMessageSink messages(boxes);
     std::string error;
     const auto session = DeviceSession::open(device, messages, error);

@@ -63,4 +63,8 @@ check "an unwritable file exits 1 and is named" "1 yes" \
 mkdir "$work/empty-root"
 check "a device root without day.jpg exits 1 and names it" "1 yes" \
     "$(status run "$work/x.png" --state-dir "$work/map2" --device-root "$work/empty-root") $(says day.jpg)"
+# Nobody answers a tour's message boxes: each is printed, and the tour goes on to the end.
+check "a tour of an empty device root ends with 0 and prints its messages" "0 yes" \
+    "$(status timeout 60 "$program" --tour "$work/tour" --device-root "$work/empty-root") \
+$(says "Initial Cities File not found!" "Sorry, Weather Forecast is not available for this City.")"
 finish
