@@ -31,6 +31,12 @@ std::optional<std::uint32_t> findCity(CommandSession& session, const std::string
     return position;
 }
 
+// The exit code after findCity refused a word.
+int refusal(CommandSession& session)
+{
+    return CityLookup(session.cities()).refusalCode();
+}
+
 struct TimeRequest
 {
     std::vector<std::string> cities;
@@ -98,14 +104,14 @@ int RunTimeCommand(const CommandRequest& request, std::ostream& out, std::ostrea
         if (wanted.home) {
             const auto found = findCity(session, *wanted.home, err);
             if (!found)
-                return UsageError;
+                return refusal(session);
             home = *found;
         }
         std::vector<std::uint32_t> positions;
         for (const std::string& word : wanted.cities) {
             const auto found = findCity(session, word, err);
             if (!found)
-                return UsageError;
+                return refusal(session);
             positions.push_back(*found);
         }
         CityCatalogue& cities = session.cities();
@@ -135,7 +141,7 @@ int RunCityCommand(const CommandRequest& request, std::ostream& out, std::ostrea
         return CommandExit::Unusable;
     const auto position = findCity(*session, request.args[0], err);
     if (!position)
-        return UsageError;
+        return refusal(*session);
     CityCatalogue& cities = session->cities();
     const DeviceOffset device
         = HomeCity::deviceOffset(cities, HomeCity::position(session->settings()), session->clock());

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/CityLookup.h"
 
+#include "cli/RunOnDevice.h"
 #include "store/CityCatalogue.h"
 #include "text/WideText.h"
 
@@ -42,6 +43,10 @@ CityLookup::CityLookup(CityCatalogue& cities)
 std::optional<std::uint32_t> CityLookup::find(const std::string& word, std::string& error) const
 {
     const std::uint32_t count = m_cities.Count();
+    if (count == 0) {
+        error = "the city catalogue holds no city (is the device's cities.lst missing or empty?)";
+        return std::nullopt;
+    }
     std::uint32_t position = 0;
     const auto [end, ec] = std::from_chars(word.data(), word.data() + word.size(), position);
     if (ec == std::errc() && end == word.data() + word.size()) {
@@ -71,6 +76,11 @@ std::optional<std::uint32_t> CityLookup::find(const std::string& word, std::stri
     return std::nullopt;
 }
 
+int CityLookup::refusalCode() const
+{
+    return m_cities.Count() == 0 ? CommandExit::Unusable : CommandExit::UsageError;
+}
+
 std::string CityLookup::nearestNames(const std::wstring& wanted) const
 {
     std::vector<std::pair<std::size_t, std::uint32_t>> ranked;
@@ -86,5 +96,5 @@ std::string CityLookup::nearestNames(const std::wstring& wanted) const
     std::string names;
     for (std::size_t k = 0; k < shown; ++k)
         names += (k ? ", " : "") + WideToUtf8(m_cities.CityName(ranked[k].second));
-    return names.empty() ? "(the catalogue is empty)" : names;
+    return names;
 }

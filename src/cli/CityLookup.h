@@ -17,6 +17,9 @@ public:
     // The position, or nothing with `error` saying why: no such position, the nearest names for an
     // unknown name, or the candidates of an ambiguous one.
     [[nodiscard]] std::optional<std::uint32_t> find(const std::string& word, std::string& error) const;
+    // The exit code after `find` refused a word: a usage error, or unusable data when the catalogue holds no
+    // city at all (its data file missing or empty), as then no word could have been right.
+    [[nodiscard]] int refusalCode() const;
 
 private:
     std::string nearestNames(const std::wstring& wanted) const;

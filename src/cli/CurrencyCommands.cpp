@@ -127,6 +127,11 @@ int RunCurrencyCommand(const CommandRequest& request, std::ostream& out, std::os
     if (!session)
         return Unusable;
     auto store = openCurrencies(*session);
+    if (store->RecordCount() == 0) {
+        err << "wanderkit: currency: the currency store holds no currency (is the device's currs.lst missing or "
+               "empty?)\n";
+        return Unusable;
+    }
     const auto from = findCurrency(*store, args[1], err);
     if (!from)
         return UsageError;

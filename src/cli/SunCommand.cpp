@@ -13,7 +13,6 @@
 
 namespace {
 
-using CommandExit::UsageError;
 constexpr const char* Usage = "Usage: wanderkit sun CITY [--date YYYY-MM-DD]\n";
 
 struct SunRequest
@@ -66,10 +65,11 @@ int RunSunCommand(const CommandRequest& command, std::ostream& out, std::ostream
 {
     return RunOnDevice(command, err, parseSunRequest, [&](const SunRequest& request, CommandSession& session) {
         std::string error;
-        const auto position = CityLookup(session.cities()).find(request.city, error);
+        const CityLookup lookup(session.cities());
+        const auto position = lookup.find(request.city, error);
         if (!position) {
             err << "wanderkit: " << error << '\n';
-            return UsageError;
+            return lookup.refusalCode();
         }
         CityCatalogue& cities = session.cities();
         // The device offset too is the one of that date: the home city may observe daylight saving then.

@@ -124,6 +124,16 @@ TEST_F(CityCommands, UnknownCitiesAndBadRequestsAreUsageErrors)
         EXPECT_TRUE(run(command, args).refused(2, message)) << command;
 }
 
+// With no city and no currency on the device no word could be right: the data is unusable, not the request.
+TEST_F(CityCommands, LookupsInAnEmptyStoreAreUnusableData)
+{
+    device.write("cities.lst", "");
+    const std::pair<std::string, std::vector<std::string>> cases[] = {{"time", {"0"}},
+        {"time", {"C0000", "--home", "C0001"}}, {"city", {"C0000"}}, {"sun", {"C0000"}}, {"currency", {"1", "EUR"}}};
+    for (const auto& [command, args] : cases)
+        EXPECT_TRUE(run(command, args).refused(1, " holds no c")) << command;
+}
+
 TEST_F(CityCommands, TwoCitiesOfOneNameInTwoCountriesAreAmbiguous)
 {
     device.write("cities.lst", "h\n2\nx;Twin;Alpha;0;0;0;0;0;0;0;0\nx;Twin;Beta;0;0;0;0;0;0;0;0\n");
