@@ -2,6 +2,7 @@
 #include "cli/ForecastCommand.h"
 
 #include "cli/CommandSession.h"
+#include "cli/CommandWords.h"
 #include "cli/FavouriteLookup.h"
 #include "store/WeatherFavourites.h"
 #include "text/WideText.h"
@@ -29,11 +30,13 @@ std::optional<ImportRequest> parseImportRequest(const std::vector<std::string>& 
     ImportRequest request;
     bool haveFile = false;
     for (std::size_t i = 1; i < args.size(); ++i) {
-        if (args[i] == "--favourite" && i + 1 < args.size())
-            request.favourite = args[++i];
-        else if (args[i].starts_with("--favourite="))
-            request.favourite = args[i].substr(12);
-        else if (args[i] != "-" && args[i].starts_with("-"))
+        if (auto name = CommandWords::optionValue(args, i, "--favourite")) {
+            if (name->empty())
+                return err << "wanderkit forecast: --favourite wants a favourite's name or position\n"
+                           << ForecastUsage,
+                       std::nullopt;
+            request.favourite = std::move(*name);
+        } else if (args[i] != "-" && args[i].starts_with("-"))
             return err << "wanderkit forecast: unknown option " << args[i] << '\n' << ForecastUsage, std::nullopt;
         else if (haveFile)
             return err << "wanderkit forecast: one FILE only\n" << ForecastUsage, std::nullopt;

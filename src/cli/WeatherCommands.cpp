@@ -2,6 +2,7 @@
 #include "cli/WeatherCommands.h"
 
 #include "cli/CommandSession.h"
+#include "cli/CommandWords.h"
 #include "cli/FavouriteLookup.h"
 #include "device/DeviceClock.h"
 #include "settings/MappingFile.h"
@@ -36,21 +37,16 @@ std::optional<WeatherRequest> parseWeatherRequest(const std::vector<std::string>
 {
     WeatherRequest request;
     for (std::size_t i = 0; i < args.size(); ++i) {
-        std::string day;
-        if (args[i] == "--day" && i + 1 < args.size())
-            day = args[++i];
-        else if (args[i].starts_with("--day="))
-            day = args[i].substr(6);
-        else if (args[i].starts_with("-")) {
+        if (const auto day = CommandWords::optionValue(args, i, "--day")) {
+            if (!parseDay(*day, request.day)) {
+                err << "wanderkit weather: --day wants a day from 1 to 5\n" << WeatherUsage;
+                return std::nullopt;
+            }
+        } else if (args[i].starts_with("-")) {
             err << "wanderkit weather: unknown option " << args[i] << '\n' << WeatherUsage;
             return std::nullopt;
         } else {
             request.favourite += (request.favourite.empty() ? "" : " ") + args[i];
-            continue;
-        }
-        if (!parseDay(day, request.day)) {
-            err << "wanderkit weather: --day wants a day from 1 to 5\n" << WeatherUsage;
-            return std::nullopt;
         }
     }
     return request;

@@ -391,7 +391,9 @@ TEST_F(WeatherCommands, RefusalsChangeNothing)
         {import(OpenMeteoFixture::response(5, "2026-11-24", 45.0, 7.0).dump(), {}),
             "no favourite city lies at latitude 45, longitude 7"},
         {run("forecast", {"import", "a", "b"}), "one FILE only"},
+        {import(good, {"--favourite"}), "--favourite wants a favourite's name or position"},
         {run("weather", {"--day", "6"}), "--day wants a day from 1 to 5"},
+        {run("weather", {"0", "--day"}), "--day wants a day from 1 to 5"},
         {run("weather", {"3"}), "no favourite is named or numbered \"3\""},
     };
     for (const auto& [result, problem] : cases) {
