@@ -2,6 +2,7 @@
 #include "cli/SettingsCommand.h"
 
 #include "cli/CommandSession.h"
+#include "cli/CommandWords.h"
 #include "settings/RegistryValueText.h"
 #include "text/WideText.h"
 
@@ -17,26 +18,55 @@ namespace {
 constexpr const char* Usage
     = "usage: wanderkit settings [get KEY NAME | set KEY NAME VALUE [--type dword|string] | reset]\n";
 
-// The words of the command with the value of --type set apart.
+// The words of the command with the value of --type set apart, or what is wrong with them.
 struct SettingsWords
 {
     std::vector<std::string> words;
     std::string type = "dword";
+    std::string problem;
 };
 
-std::optional<SettingsWords> splitWords(const std::vector<std::string>& args)
+// An action, the number of its words (the action's own included) and what follows it.
+struct SettingsAction
+{
+    std::string_view name;
+    std::size_t words;
+    std::string_view wants;
+};
+
+constexpr SettingsAction Actions[]
+    = {{"get", 3, "KEY NAME"}, {"set", 4, "KEY NAME VALUE"}, {"reset", 1, "nothing after it"}};
+
+// What is wrong with the words besides an unknown option: the type, the action or their number; empty if nothing.
+std::string problemOf(const SettingsWords& split)
+{
+    if (split.type != "dword" && split.type != "string")
+        return "--type wants dword or string, got \"" + split.type + "\"";
+    if (split.words.empty())
+        return {};
+    for (const SettingsAction& action : Actions) {
+        if (split.words[0] == action.name)
+            return split.words.size() == action.words
+                ? std::string()
+                : std::string(action.name) + " wants " + std::string(action.wants);
+    }
+    return "unknown action \"" + split.words[0] + "\"";
+}
+
+SettingsWords splitWords(const std::vector<std::string>& args)
 {
     SettingsWords split;
     for (std::size_t i = 0; i < args.size(); ++i) {
-        if (args[i] == "--type" && i + 1 < args.size())
-            split.type = args[++i];
-        else if (args[i].starts_with("--type="))
-            split.type = args[i].substr(7);
-        else if (args[i].starts_with("--"))
-            return std::nullopt;
-        else
+        if (auto type = CommandWords::optionValue(args, i, "--type")) {
+            split.type = std::move(*type);
+        } else if (args[i].starts_with("--")) {
+            split.problem = "unknown option " + args[i];
+            return split;
+        } else {
             split.words.push_back(args[i]);
+        }
     }
+    split.problem = problemOf(split);
     return split;
 }
 
@@ -126,17 +156,13 @@ int set(RegistrySettings& settings, const std::vector<std::string>& words, const
 
 int RunSettingsCommand(const CommandRequest& request, std::ostream& out, std::ostream& err)
 {
-    const auto args = splitWords(request.args);
-    const std::vector<std::string> none;
-    const auto& words = args ? args->words : none;
-    const std::string action = words.empty() ? "" : words[0];
-    const bool wellFormed = args && (args->type == "dword" || args->type == "string")
-        && ((action.empty() && words.empty()) || (action == "get" && words.size() == 3)
-            || (action == "set" && words.size() == 4) || (action == "reset" && words.size() == 1));
-    if (!wellFormed) {
-        err << "wanderkit settings: unexpected arguments\n" << Usage;
+    const SettingsWords args = splitWords(request.args);
+    if (!args.problem.empty()) {
+        err << "wanderkit settings: " << args.problem << '\n' << Usage;
         return 2;
     }
+    const std::vector<std::string>& words = args.words;
+    const std::string action = words.empty() ? "" : words[0];
     const auto session = CommandSession::open(request, err);
     if (!session)
         return 1;
@@ -144,7 +170,7 @@ int RunSettingsCommand(const CommandRequest& request, std::ostream& out, std::os
     if (action == "get")
         return get(settings, words[1], words[2], out, err);
     if (action == "set")
-        return set(settings, words, args->type, err);
+        return set(settings, words, args.type, err);
     if (action == "reset")
         return settings.Clear() ? 0 : 1;
     return list(settings, out);

@@ -344,12 +344,18 @@ TEST_F(SettingsCommand, ListsResetsAndRefuses)
                     .refused(1, "no value \"clock1\" under \"Wanderkit\\wrldclk\""));
 
     // What cannot be stored is refused, and nothing is.
-    const std::vector<std::string> cases[] = {{"set", "Wanderkit", "n", "4294967296"},
-        {"set", "Wanderkit", "n", "-2147483649"}, {"set", "Wanderkit", "n", "12abc"}, {"set", "Wanderkit", "n", ""},
-        {"set", "Wanderkit", "n", "1", "--type", "qword"}, {"set", "Wanderkit", "n"}, {"get", "Wanderkit"},
-        {"frobnicate"}, {"--verbose"}};
-    for (const auto& args : cases)
-        EXPECT_TRUE(run("settings", args).refused(2, "wanderkit settings")) << testing::PrintToString(args);
+    const std::pair<std::vector<std::string>, std::string> cases[]
+        = {{{"set", "Wanderkit", "n", "4294967296"}, "\"4294967296\" is not a whole number"},
+            {{"set", "Wanderkit", "n", "-2147483649"}, "\"-2147483649\" is not a whole number"},
+            {{"set", "Wanderkit", "n", "12abc"}, "\"12abc\" is not a whole number"},
+            {{"set", "Wanderkit", "n", ""}, "\"\" is not a whole number"},
+            {{"set", "Wanderkit", "n", "1", "--type", "qword"}, "--type wants dword or string, got \"qword\""},
+            {{"set", "Wanderkit", "n", "1", "--type"}, "--type wants dword or string, got \"\""},
+            {{"set", "Wanderkit", "n"}, "set wants KEY NAME VALUE"}, {{"get", "Wanderkit"}, "get wants KEY NAME"},
+            {{"reset", "all"}, "reset wants nothing after it"}, {{"frobnicate"}, "unknown action \"frobnicate\""},
+            {{"--verbose"}, "unknown option --verbose"}};
+    for (const auto& [args, message] : cases)
+        EXPECT_TRUE(run("settings", args).refused(2, "wanderkit settings: " + message)) << testing::PrintToString(args);
     EXPECT_TRUE(run("settings", {}).printed(""));
 }
 
