@@ -80,11 +80,11 @@ std::optional<StartOptions> StartOptions::parse(const std::vector<std::string>& 
             if (!hasValue && i + 1 < args.size())
                 o.commandArgs.push_back(args[++i]);
         } else if (valueOptions.contains(arg)) {
-            if (!hasValue) {
-                if (i + 1 >= args.size())
-                    return error = arg + " needs a value", std::nullopt;
+            if (!hasValue && i + 1 < args.size())
                 value = args[++i];
-            }
+            // An empty folder name would be the current folder's, or with --tour the root's.
+            if (value.empty())
+                return error = arg + " needs a value", std::nullopt;
             if (!applyValueOption(o, arg, value, error))
                 return std::nullopt;
         } else if (arg == "--help" || arg == "-h") {

@@ -9,6 +9,9 @@ program=$1
 check "an unknown option exits 2 with the usage" "2 yes" \
     "$(status "$program" --frobnicate) $(says "unknown option --frobnicate" "Usage: wanderkit")"
 check "a malformed size exits 2" 2 "$(status "$program" --size 240)"
+for option in --tour --state-dir --device-root=; do
+    check "an empty $option exits 2" "2 yes" "$(status "$program" "$option" "") $(says "${option%=} needs a value")"
+done
 check "--help exits 0 and lists the options" "0 1" "$(status "$program" --help) $(grep -c -- "--state-dir" "$work/out")"
 check "--version names the program" "0 1" "$(status "$program" --version) $(grep -c "^Wanderkit " "$work/out")"
 touch "$work/not-a-folder"
