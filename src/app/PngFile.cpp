@@ -158,7 +158,8 @@ bool PngFile::write(const QImage& picture, const QString& path, QString& error)
     const bool compressed = writeImageData(chunks, rgb);
     chunks.write("IEND", nullptr, 0);
     if (!compressed || !chunks.ok() || !file.flush()) {
-        error = chunks.ok() ? QStringLiteral("compression failed") : file.errorString();
+        // A failed write may show only when the buffered rest is flushed: then the file's error is the reason.
+        error = compressed || !chunks.ok() ? file.errorString() : QStringLiteral("compression failed");
         file.remove();
         return false;
     }
