@@ -137,10 +137,31 @@ int stored(bool written, const std::vector<std::string>& words, std::ostream& er
     return written ? 0 : 1;
 }
 
+// The registry's own limits on a key. Every level of a key is stored as a key of its own, so a deeper or
+// longer one would grow the state file with the square of its length.
+constexpr std::size_t MaxKeyLevels = 512;
+constexpr std::size_t MaxKeyLevelLength = 255;
+
+bool withinKeyLimits(std::wstring_view key)
+{
+    std::size_t levels = 1, length = 0;
+    for (const wchar_t c : key) {
+        levels += c == L'\\' ? 1 : 0;
+        length = c == L'\\' ? 0 : length + 1;
+        if (levels > MaxKeyLevels || length > MaxKeyLevelLength)
+            return false;
+    }
+    return true;
+}
+
 int set(RegistrySettings& settings, const std::vector<std::string>& words, const std::string& type, std::ostream& err)
 {
     const std::wstring key = Utf8ToWide(words[1]);
     const std::wstring name = Utf8ToWide(words[2]);
+    if (!withinKeyLimits(key)) {
+        err << "wanderkit settings: a key has at most 512 levels of at most 255 characters each\n";
+        return 2;
+    }
     if (type == "string")
         return stored(settings.SetString(key, name, Utf8ToWide(words[3])), words, err);
     const auto number = parseDword(words[3]);

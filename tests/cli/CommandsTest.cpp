@@ -353,7 +353,9 @@ TEST_F(SettingsCommand, ListsResetsAndRefuses)
             {{"set", "Wanderkit", "n", "1", "--type"}, "--type wants dword or string, got \"\""},
             {{"set", "Wanderkit", "n"}, "set wants KEY NAME VALUE"}, {{"get", "Wanderkit"}, "get wants KEY NAME"},
             {{"reset", "all"}, "reset wants nothing after it"}, {{"frobnicate"}, "unknown action \"frobnicate\""},
-            {{"--verbose"}, "unknown option --verbose"}};
+            {{"--verbose"}, "unknown option --verbose"},
+            {{"set", std::string(512, '\\'), "n", "1"}, "a key has at most 512 levels of at most 255 characters"},
+            {{"set", "Wanderkit\\" + std::string(256, 'k'), "n", "1"}, "a key has at most 512 levels"}};
     for (const auto& [args, message] : cases)
         EXPECT_TRUE(run("settings", args).refused(2, "wanderkit settings: " + message)) << testing::PrintToString(args);
     EXPECT_TRUE(run("settings", {}).printed(""));
