@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
+#include <pwd.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -75,6 +76,11 @@ fs::path StateFolder::locate(const std::optional<fs::path>& chosen)
     if (const char* data = std::getenv("XDG_DATA_HOME"); data && *data == '/')
         return fs::path(data) / "wanderkit";
     const char* home = std::getenv("HOME");
+    // Without $HOME, the home folder the user database gives, never a folder shared by every user.
+    if (!home || !*home) {
+        const passwd* user = ::getpwuid(::geteuid());
+        home = user ? user->pw_dir : nullptr;
+    }
     return fs::path(home && *home ? home : "/tmp") / ".local" / "share" / "wanderkit";
 }
 

@@ -12,6 +12,7 @@
 #include <cstdlib>
 #include <ctime>
 #include <fcntl.h>
+#include <pwd.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <tuple>
@@ -54,6 +55,27 @@ TEST(SystemDeviceClock, ParsesValidLocalTimesAndStartsAtThem)
     }
     old ? setenv("TZ", saved.c_str(), 1) : unsetenv("TZ");
     tzset();
+}
+
+// $XDG_DATA_HOME when it is an absolute path, else under $HOME, else under the home the user database gives.
+TEST(StateFolder, DefaultsToTheUsersDataFolder)
+{
+    const passwd* user = ::getpwuid(::geteuid());
+    if (!user)
+        GTEST_SKIP() << "the user database has no entry for this user";
+    const fs::path userHome = user->pw_dir;
+    const std::tuple<const char*, const char*, fs::path> cases[]
+        = {{"/data", "/home/a", "/data/wanderkit"}, {"data", "/home/a", "/home/a/.local/share/wanderkit"},
+            {nullptr, "", userHome / ".local/share/wanderkit"}, {"", nullptr, userHome / ".local/share/wanderkit"}};
+    const auto value = [](const char* name) { return std::string(std::getenv(name) ? std::getenv(name) : ""); };
+    const std::string saved[] = {value("XDG_DATA_HOME"), value("HOME")};
+    for (const auto& [data, home, folder] : cases) {
+        data ? setenv("XDG_DATA_HOME", data, 1) : unsetenv("XDG_DATA_HOME");
+        home ? setenv("HOME", home, 1) : unsetenv("HOME");
+        EXPECT_EQ(StateFolder::locate(std::nullopt), folder);
+    }
+    setenv("XDG_DATA_HOME", saved[0].c_str(), 1);
+    setenv("HOME", saved[1].c_str(), 1);
 }
 
 // A new folder and every file in it are private; the files of an existing folder are made so.
