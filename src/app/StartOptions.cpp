@@ -4,6 +4,7 @@
 #include "cli/CommandRunner.h"
 #include "device/SystemDeviceClock.h"
 
+#include <algorithm>
 #include <charconv>
 #include <set>
 
@@ -34,6 +35,9 @@ bool parseSize(const std::string& text, int& width, int& height)
     height = h;
     return true;
 }
+
+// A window larger than any screen would only cost memory: 4000x4000 at scale 8 needs 4 GB of pixels.
+constexpr int MaxWindowSide = 8192; // device pixels
 
 // Applies one option that takes a value; false with `error` set when the value is bad.
 bool applyValueOption(StartOptions& o, const std::string& name, const std::string& value, std::string& error)
@@ -102,6 +106,10 @@ std::optional<StartOptions> StartOptions::parse(const std::vector<std::string>& 
                    std::nullopt;
         }
     }
+    if (o.scale * std::max(o.width, o.height) > MaxWindowSide)
+        return error = "--scale " + std::to_string(o.scale) + " makes the window larger than "
+                   + std::to_string(MaxWindowSide) + " pixels; choose a smaller scale or size",
+               std::nullopt;
     return o;
 }
 

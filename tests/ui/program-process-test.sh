@@ -9,6 +9,8 @@ program=$1
 check "an unknown option exits 2 with the usage" "2 yes" \
     "$(status "$program" --frobnicate) $(says "unknown option --frobnicate" "Usage: wanderkit")"
 check "a malformed size exits 2" 2 "$(status "$program" --size 240)"
+check "a window over 8192 pixels exits 2" "2 yes" \
+    "$(status "$program" --scale 3 --size 240x2731 --exit-after-first-paint) $(says "larger than 8192 pixels")"
 for option in --tour --state-dir --device-root=; do
     check "an empty $option exits 2" "2 yes" "$(status "$program" "$option" "") $(says "${option%=} needs a value")"
 done
