@@ -44,7 +44,8 @@ std::optional<std::uint32_t> CityLookup::find(const std::string& word, std::stri
 {
     const std::uint32_t count = m_cities.Count();
     if (count == 0) {
-        error = "the city catalogue holds no city (is the device's cities.lst missing or empty?)";
+        error = "the city catalogue holds no city: the device's cities.lst is missing or empty, or the state "
+                "could not be written";
         return std::nullopt;
     }
     std::uint32_t position = 0;

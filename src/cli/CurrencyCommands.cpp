@@ -128,8 +128,8 @@ int RunCurrencyCommand(const CommandRequest& request, std::ostream& out, std::os
         return Unusable;
     auto store = openCurrencies(*session);
     if (store->RecordCount() == 0) {
-        err << "wanderkit: currency: the currency store holds no currency (is the device's currs.lst missing or "
-               "empty?)\n";
+        err << "wanderkit: currency: the currency store holds no currency: the device's currs.lst is missing or "
+               "empty, or the state could not be written\n";
         return Unusable;
     }
     const auto from = findCurrency(*store, args[1], err);
