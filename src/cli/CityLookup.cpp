@@ -86,11 +86,14 @@ std::string CityLookup::nearestNames(const std::wstring& wanted) const
 {
     std::vector<std::pair<std::size_t, std::uint32_t>> ranked;
     const std::uint32_t count = m_cities.Count();
+    // Edits are counted on the word's first 64 characters, more than any city's name has, so that a
+    // pasted page costs what a name does (128 KB took over a second).
+    const std::wstring head = wanted.substr(0, 64);
     // Names that contain the word come first, then the names fewest edits away.
     for (std::uint32_t i = 0; i < count; ++i) {
         const std::wstring name = FoldLatin1(m_cities.CityName(i));
         const bool contains = name.find(wanted) != std::wstring::npos;
-        ranked.emplace_back(contains ? 0 : 1 + editDistance(wanted, name), i);
+        ranked.emplace_back(contains ? 0 : 1 + editDistance(head, name), i);
     }
     const std::size_t shown = std::min<std::size_t>(5, ranked.size());
     std::partial_sort(ranked.begin(), ranked.begin() + static_cast<std::ptrdiff_t>(shown), ranked.end());
