@@ -3,6 +3,7 @@
 
 #include "CityFixture.h"
 #include "ScreenTestBench.h"
+#include "screens/map/MapScreen.h"
 #include "screens/select/SelectDialog.h"
 #include "screens/weather/WeatherOpener.h"
 #include "ui/Painting.h"
@@ -100,6 +101,37 @@ private slots:
         dialog.setSelection(5000);
         t.bench.run(dialog, [&] { dialog.sendCommand(Commands::Done); });
         QCOMPARE(dialog.selection(), -1);
+    }
+
+    void aCityChosenInTheSelectDialogIsKeptHoweverTheDialogEnds_data()
+    {
+        QTest::addColumn<bool>("onMap");
+        QTest::addColumn<bool>("closeWindow");
+        QTest::newRow("World Clocks, Done") << false << false;
+        QTest::newRow("World Clocks, window closed over the dialog") << false << true;
+        QTest::newRow("map, Done") << true << false;
+        QTest::newRow("map, window closed over the dialog") << true << true;
+    }
+
+    void aCityChosenInTheSelectDialogIsKeptHoweverTheDialogEnds()
+    {
+        // The dialog has no cancel: the highlighted city is the choice, as it is when "Done" ends it.
+        QFETCH(bool, onMap);
+        QFETCH(bool, closeWindow);
+        WorldClockBench t;
+        MapScreen map {t.bench.environment, t.bench.window, t.bench.cities, t.bench.favourites};
+        Screen& screen = onMap ? static_cast<Screen&>(map) : t.screen;
+        const DwordSetting& setting = onMap ? Settings::MapClock : Settings::HomeClock;
+        t.bench.store(setting, 3);
+        t.bench.whenNextShown(screen, [&](Screen& dialog) {
+            t.bench.press(Qt::Key_Down);
+            closeWindow ? void(t.bench.window.close()) : dialog.sendCommand(Commands::Done);
+        });
+        t.bench.run(screen, [&] {
+            screen.sendCommand(Commands::Ok); // the home clock's face, or "Change City"
+            screen.sendCommand(Commands::Services);
+        });
+        QCOMPARE(t.bench.stored(setting), 4u);
     }
 
     void aCityNamedLikeAFavouriteOfAnotherCountryIsOneAlready()

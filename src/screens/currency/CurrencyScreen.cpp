@@ -148,10 +148,8 @@ void CurrencyScreen::changeCurrency()
     dialog.setMode(SelectDialog::Mode::Currency);
     dialog.setSelection(CurrencyListIndex(m_store, shown));
     runModal(dialog);
-    if (window().isExiting())
-        return;
     if (field) {
-        // The dialog has no cancel: its index is taken as it stands.
+        // The dialog has no cancel: its index is taken as it stands, even when the program ends over it.
         chooseCurrency(*field, CurrencyPosition(m_store, dialog.selection()));
         m_fields[*field]->setFocus();
         convertFrom(*field);

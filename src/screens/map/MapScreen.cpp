@@ -202,9 +202,8 @@ void MapScreen::changeCity()
     SelectDialog dialog(environment(), window());
     dialog.setMode(SelectDialog::Mode::City);
     dialog.setSelection(m_selected);
+    // The dialog has no cancel: its city is taken even when the program ends over it.
     runModal(dialog);
-    if (window().isExiting())
-        return;
     m_spinner->setFocus();
     selectCity(dialog.selection());
 }

@@ -181,12 +181,11 @@ void WeatherScreen::changeFavourite()
     FavouritesDialog dialog(environment(), window(), m_favourites);
     dialog.setCurrentFavourite(m_favouritePosition);
     runModal(dialog);
-    if (window().isExiting())
-        return;
+    // The dialog's favourite is taken however it ended, even when the program ends over it.
     m_favouritePosition = dialog.currentFavourite();
     m_favouriteName = m_favourites.getName(static_cast<std::uint32_t>(m_favouritePosition));
     WriteSetting(settings(), Settings::WeatherPosition, static_cast<std::uint32_t>(m_favouritePosition));
-    if (!computeForecast())
+    if (window().isExiting() || !computeForecast())
         return;
     m_days->setCurrentIndex(0);
     m_days->setFocus();

@@ -319,9 +319,8 @@ void WorldClockScreen::changeCity(int slot)
     SelectDialog dialog(environment(), window());
     dialog.setMode(SelectDialog::Mode::City);
     dialog.setSelection(static_cast<int>(m_cityOf[index]));
+    // The dialog has no cancel: its city is taken even when the program ends over it.
     runModal(dialog);
-    if (window().isExiting())
-        return;
     m_cityOf[index] = static_cast<std::uint32_t>(dialog.selection());
     WriteSetting(settings(), *SlotSettings[index], m_cityOf[index]);
     m_focusList->setFocus();
