@@ -164,7 +164,14 @@ private slots:
             QCOMPARE(t.screen.focusLabel(), QStringLiteral("EUR - Euro"));
             // Field 3 now holds 2 euros: 2.5 dollars, and field 1 the same 2 euros.
             QCOMPARE(t.texts(), QStringLiteral("2.00000000|2.50000000|2"));
+            // Closing the window over the dialog takes its index all the same: the pound, before the euro.
+            t.bench.whenNextShown(t.screen, [&](Screen&) {
+                t.bench.press(Qt::Key_Up);
+                t.bench.window.close();
+            });
+            t.screen.sendCommand(Commands::ChangeCurrency);
         });
+        QCOMPARE(t.bench.stored(Settings::Currency3), Pound);
     }
 
     // ---- Measurements.

@@ -162,6 +162,19 @@ private slots:
         QVERIFY(shown);
     }
 
+    void aFavouriteChosenInTheDialogIsKeptWhenTheWindowIsClosedOverIt()
+    {
+        WeatherBench t;
+        t.storeParisForecast(1);
+        t.bench.whenNextShown(t.screen, [&](Screen&) {
+            t.bench.press(Qt::Key_Right); // Rome
+            t.bench.window.close();
+        });
+        t.bench.run(t.screen, [&] { t.screen.sendCommand(Commands::ChangeCity); });
+        QCOMPARE(t.bench.stored(Settings::WeatherPosition), 2u);
+        QVERIFY(t.bench.boxes.shown.empty());
+    }
+
     // ---- The favourites dialog.
     void removeAsksFirstAndRemovingTheLastSelectsNothingAndTheAddViewAddsFromTheCountryLists()
     {
