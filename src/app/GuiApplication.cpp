@@ -3,6 +3,7 @@
 
 #include "app/ServicesApp.h"
 #include "app/SingleInstance.h"
+#include "app/TerminationSignals.h"
 #include "app/TourDriver.h"
 #include "app/TourMessageBox.h"
 #include "session/DeviceSession.h"
@@ -98,6 +99,8 @@ int GuiApplication::run(int& argc, char** argv)
     // Numbers in the data files and in printed results always use a decimal point.
     std::setlocale(LC_NUMERIC, "C");
 
+    // A shutdown, a logout or Ctrl+C ends the program as "Exit" does: every open screen saves first.
+    TerminationSignals termination;
     SingleInstance instance;
     if (!m_options.tourDir && !instance.claim())
         return 0;
@@ -137,6 +140,7 @@ int GuiApplication::run(int& argc, char** argv)
     if (m_options.tourDir)
         tour = std::make_unique<TourDriver>(window, launcher, QString::fromStdString(m_options.tourDir->string()));
 
+    QObject::connect(&termination, &TerminationSignals::requested, &window, &QWidget::close);
     window.show();
     window.run(launcher);
 

@@ -24,6 +24,8 @@ check "with no display to open the window on, exits 1 and says so" "1 yes" \
     "$(status env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM "$program" --state-dir "$work/state0") $(says "no display")"
 
 # The first instance runs; a second start raises it and leaves at once with 0, opening no state.
+amount() { "$program" --state-dir "$work/state" settings get 'Wanderkit\currencies' curval; }
+"$program" --state-dir "$work/state" settings set 'Wanderkit\currencies' curval 12 --type string >/dev/null
 "$program" --state-dir "$work/state" >"$work/first.log" 2>&1 &
 first=$!
 for _ in $(seq 600); do [ -S "$XDG_RUNTIME_DIR/{Wanderkit-91F5D741-4E63-4642-A05A-E4AC57871578}" ] && break; sleep 0.1; done
@@ -31,7 +33,9 @@ check "a second instance exits 0 and opens no state" "0 no" \
     "$(status timeout 10 "$program" --state-dir "$work/state2") $([ -e "$work/state2" ] && echo yes || echo no)"
 kill -0 $first 2>/dev/null
 check "the first instance keeps running" 0 $?
-kill $first && wait $first 2>/dev/null
+kill $first
+wait $first
+check "SIGTERM ends it as Exit does: 0, and the typed amount is forgotten" "0 " "$? $(amount)"
 
 check "--exit-after-first-paint ends with 0 and a private state folder" "0 700" \
     "$(status timeout 60 "$program" --state-dir "$work/state3" --exit-after-first-paint) $(stat -c %a "$work/state3")"
