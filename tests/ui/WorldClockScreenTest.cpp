@@ -191,6 +191,32 @@ private slots:
             }
         });
     }
+
+    void aDaylightMarkNeverRunsUnderATwelveHourTime()
+    {
+        // Summer evening on the default cities: New York, Paris and London are in daylight saving at
+        // 5 to 11 PM, whose times reach further left than a 24-hour time does.
+        WorldClockBench t(TempDir::read(WANDERKIT_SHIPPED_DEVICE_ROOT "/cities.lst"));
+        t.bench.store(Settings::TwelveHour, 1);
+        t.bench.clock.set(FakeDeviceClock::at(2026, 6, 21, 23, 48, 7));
+        const auto isMark = [](const QColor& c) { return c.red() > 200 && c.green() > 150 && c.blue() < 130; };
+        const auto isWhite = [](const QColor& c) { return std::min({c.red(), c.green(), c.blue()}) >= 235; };
+        t.bench.visit(t.screen, [&] {
+            for (int turn = 0; turn < 2; ++turn) {
+                // Right of the dials, on every pixel line, no white time pixel between the mark's first and last.
+                const QImage image = t.bench.render();
+                for (int y = 25; y < t.bench.window.workArea().height(); ++y) {
+                    int first = image.width(), last = -1;
+                    for (int x = 60; x < image.width(); ++x)
+                        if (isMark(image.pixelColor(x, y)))
+                            first = std::min(first, x), last = x;
+                    for (int x = first; x < last; ++x)
+                        QVERIFY2(!isWhite(image.pixelColor(x, y)), qPrintable(QStringLiteral("%1,%2").arg(x).arg(y)));
+                }
+                t.bench.press(Qt::Key_R, Qt::ControlModifier);
+            }
+        });
+    }
 };
 
 QTEST_MAIN(WorldClockScreenTest)

@@ -28,6 +28,12 @@ int advance(const QFont& font, const QString& text)
     return QFontMetrics(font).horizontalAdvance(text);
 }
 
+// The AM/PM mark's width with its 3-pixel gap after the time; nothing in 24-hour form.
+int suffixWidth(const QFont& small, const ClockView& view)
+{
+    return view.suffix.isEmpty() ? 0 : advance(small, view.suffix) + 3;
+}
+
 // White text with a soft shadow, so it reads on the background picture; `topLeft` is the text's top.
 void drawShadowedText(
     QPainter& painter, const QFont& font, const QPoint& topLeft, const QString& text, const QColor& colour)
@@ -96,8 +102,7 @@ int ClockCell::timeLeft(const ClockView& view) const
 {
     if (!m_timeRightAligned)
         return m_time.x();
-    const int suffixWidth = view.suffix.isEmpty() ? 0 : advance(m_fonts->small, view.suffix) + 3;
-    return m_time.x() - advance(*m_timeFont, view.time) - suffixWidth;
+    return m_time.x() - advance(*m_timeFont, view.time) - suffixWidth(m_fonts->small, view);
 }
 
 int ClockCell::dateLeft(const ClockView& view) const
@@ -158,17 +163,27 @@ void ClockCell::paintTime(QPainter& painter, const ClockView& view) const
         painter, m_fonts->small, QPoint(left + advance(*m_timeFont, view.time) + 3, top), view.suffix, Painting::White);
 }
 
+// The time's text box, its AM/PM mark included.
+QRect ClockCell::timeBox(const ClockView& view) const
+{
+    const QFontMetrics metrics(*m_timeFont);
+    return QRect(timeLeft(view), m_time.y(), metrics.horizontalAdvance(view.time) + suffixWidth(m_fonts->small, view),
+        metrics.height());
+}
+
 // The date; a city whose daylight saving runs now carries a "DST" mark after it, or a dot on its dial
-// when the date shares a line with the time.
+// when the date shares a line with the time or the mark would run into a twelve-hour time.
 void ClockCell::paintDate(QPainter& painter, const ClockView& view) const
 {
     const QPoint date(dateLeft(view), m_date.y());
     drawShadowedText(painter, m_fonts->small, date, view.date, DateColour);
     if (!view.daylightNow)
         return;
-    if (m_datePlace == DatePlace::Below) {
-        const QPoint mark = date + QPoint(advance(m_fonts->small, view.date) + 8, 0);
-        drawShadowedText(painter, m_fonts->small, mark, QStringLiteral("DST"), DaylightMark);
+    const QString markText = QStringLiteral("DST");
+    const QPoint mark = date + QPoint(advance(m_fonts->small, view.date) + 8, 0);
+    const QRect markBox(mark, QSize(advance(m_fonts->small, markText), QFontMetrics(m_fonts->small).height()));
+    if (m_datePlace == DatePlace::Below && !markBox.adjusted(0, 0, 4, 0).intersects(timeBox(view))) {
+        drawShadowedText(painter, m_fonts->small, mark, markText, DaylightMark);
         return;
     }
     painter.save();

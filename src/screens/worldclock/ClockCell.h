@@ -63,6 +63,7 @@ private:
     int timeLeft(const ClockView& view) const;
     int dateLeft(const ClockView& view) const;
     int nameRight(const ClockView& view) const;
+    QRect timeBox(const ClockView& view) const;
     void paintTime(QPainter& painter, const ClockView& view) const;
     void paintDate(QPainter& painter, const ClockView& view) const;
     void paintWeatherIcon(QPainter& painter, bool favourite) const;
