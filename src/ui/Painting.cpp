@@ -31,7 +31,8 @@ void Painting::drawBand(
     painter.fillRect(band, fill);
     painter.setFont(font);
     painter.setPen(White);
-    painter.drawText(band.adjusted(indent, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, text);
+    // Not cut at the band's edges: a text taller than its band shows its descenders whole.
+    painter.drawText(band.adjusted(indent, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, text);
 }
 
 void Painting::drawRaisedEdge(QPainter& painter, int left, int top, int right, int bottom)

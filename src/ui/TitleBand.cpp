@@ -24,6 +24,7 @@ void TitleBand::paint(QPainter& painter) const
     painter.fillRect(m_rect, m_fill);
     painter.setFont(m_font);
     painter.setPen(Painting::White);
-    painter.drawText(
-        QRect(*m_origin, m_rect.bottomRight()), Qt::AlignLeft | Qt::AlignTop, Painting::loadString(m_titleId));
+    // The text is not cut at the band's edge: a 24-pixel title's descenders reach a row or two below it.
+    painter.drawText(QRect(*m_origin, m_rect.bottomRight()), Qt::AlignLeft | Qt::AlignTop | Qt::TextDontClip,
+        Painting::loadString(m_titleId));
 }

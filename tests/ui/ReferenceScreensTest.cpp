@@ -48,6 +48,16 @@ QImage titleBand(const QString& title)
     return band;
 }
 
+// Whether a white pixel of the title's "g" shows in the 3 rows under the 25-pixel band: the text is not cut there.
+bool titleTailShows(const QImage& screen)
+{
+    for (int y = 25; y < 28; ++y)
+        for (int x = 0; x < 120; ++x)
+            if (screen.pixelColor(x, y).lightness() >= 235)
+                return true;
+    return false;
+}
+
 // The screen, its chooser and its two lists.
 struct DialingBench
 {
@@ -91,6 +101,7 @@ private slots:
                     std::pair(wearer, garment));
                 QCOMPARE(garments->items(), texts(ClothingSizes::Garments(wearer)));
                 QCOMPARE(std::pair(screen.tableTitle(), screen.shownRows()), table(wearer, garment));
+                QVERIFY(titleTailShows(bench.render())); // "Clothing sizes"
             });
             // Leaving writes what was shown.
             QCOMPARE(std::pair(bench.stored(Settings::ClothesWho), bench.stored(Settings::ClothesKind)),
@@ -149,6 +160,8 @@ private slots:
             const QImage internationalShown = t.bench.render();
             QCOMPARE(internationalShown.copy(0, 0, 240, 25).convertToFormat(QImage::Format_RGB32),
                 titleBand(QStringLiteral("Dialing codes")));
+            // The tail of the title's "g" goes on below the band, uncut.
+            QVERIFY(titleTailShows(internationalShown));
             // The frame runs one pixel outside the chooser at (6, 31), 223 x 24.
             for (const QPoint point : {QPoint(5, 40), QPoint(229, 40), QPoint(100, 30), QPoint(100, 55)})
                 QCOMPARE(internationalShown.pixelColor(point), QColor(Qt::black));
