@@ -27,6 +27,7 @@ constexpr int FieldHeight = 25;
 constexpr int FirstFieldTop = Band + 20;
 constexpr int FieldPitch = 35;
 constexpr int CodeLeft = 10;
+constexpr int CodeRight = 50; // the code's box ends 5 pixels before its field
 constexpr int MaxFieldText = 49; // the field is read into 50 characters
 
 const std::array<const DwordSetting*, CurrencyScreen::FieldCount> PositionSettings {
@@ -42,6 +43,16 @@ int fieldTop(std::size_t field)
 int focusBandTop(int height)
 {
     return std::max(height - 110, fieldTop(2) + FieldHeight + 4);
+}
+
+// The title font narrowed until `code` fits its box, so that a wide code ("GBP") is not hidden by its field.
+QFont codeFont(const QFont& titleFont, const QString& code)
+{
+    QFont font = titleFont;
+    for (int stretch = 99; stretch >= 50 && QFontMetrics(font).horizontalAdvance(code) > CodeRight - CodeLeft;
+         --stretch)
+        font.setStretch(stretch);
+    return font;
 }
 
 } // namespace
@@ -164,8 +175,10 @@ void CurrencyScreen::paint(QPainter& painter)
     const int height = workHeight();
     m_titleBand.paint(painter);
     painter.setPen(Painting::White);
-    for (std::size_t k = 0; k < FieldCount; ++k)
-        Painting::drawTextAt(painter, m_titleFont, CodeLeft, fieldTop(k), ToQString(m_currencies[k].label).left(3));
+    for (std::size_t k = 0; k < FieldCount; ++k) {
+        const QString code = ToQString(m_currencies[k].label).left(3);
+        Painting::drawTextAt(painter, codeFont(m_titleFont, code), CodeLeft, fieldTop(k), code);
+    }
 
     Painting::drawTextAt(painter, m_textFont, 5, height - 25, m_lastUpdate);
     const int band = focusBandTop(height);
