@@ -257,11 +257,12 @@ private slots:
         QTest::addColumn<QPoint>("to");
         QTest::addColumn<QList<int>>("keys");
         QTest::addColumn<bool>("touch");
+        QTest::addColumn<bool>("turned"); // on a work area turned on its side (268 x 240) first
         const int Left = Qt::Key_Left, Right = Qt::Key_Right, Up = Qt::Key_Up, Down = Qt::Key_Down,
                   Return = Qt::Key_Return;
-        const auto row = [](Kind kind, const char* name, QPoint from, QPoint to, QList<int> keys, bool touch = false) {
-            QTest::newRow(name) << kind << from << to << keys << touch;
-        };
+        const auto row
+            = [](Kind kind, const char* name, QPoint from, QPoint to, QList<int> keys, bool touch = false,
+                  bool turned = false) { QTest::newRow(name) << kind << from << to << keys << touch << turned; };
         // The launcher. Icons are 16 pixels in four 60-pixel columns, rows at y = 50 and 80; the arrows
         // and the label share the bottom 40 pixels; the big icon is 32 pixels at (104, 144).
         const Kind L = Kind::Launcher;
@@ -285,6 +286,14 @@ private slots:
         row(S, "select: tap the list", {60, 42}, {60, 42}, {Down});
         row(S, "select: tap the up arrow", {210, 42}, {210, 42}, {Up});
         row(S, "select: swipe the list to the left", {180, 42}, {40, 42}, {Down});
+        // Turned, the targets follow the new width: icons in 67-pixel columns (the sixth at x = 92), the
+        // launcher's right arrow at x = 233, y = 210, the title's right arrow 31..15 pixels from the right
+        // edge, the Select list's up arrow at x = 233..245.
+        row(L, "turned launcher: tap the sixth icon", {100, 88}, {100, 88}, {Right, Right, Right, Right, Right}, false,
+            true);
+        row(L, "turned launcher: tap the right arrow", {240, 218}, {240, 218}, {Right}, false, true);
+        row(K, "turned clocks: title's right arrow", {245, 12}, {245, 12}, {Right}, false, true);
+        row(S, "turned select: tap the up arrow", {238, 42}, {238, 42}, {Up}, false, true);
     }
 
     // Both runs end in the same state and picture, and only a gesture that stands for keys changes anything.
@@ -295,19 +304,26 @@ private slots:
         QFETCH(QPoint, to);
         QFETCH(QList<int>, keys);
         QFETCH(bool, touch);
+        QFETCH(bool, turned);
+        const auto turn = [turned](ScreenTestBench& bench) {
+            if (turned)
+                bench.press(Qt::Key_R, Qt::ControlModifier);
+        };
         const Outcome touched = play(kind, [&](ScreenTestBench& bench) {
+            turn(bench);
             if (from.x() < 0)
                 from = to = static_cast<WorldClockScreen*>(bench.window.topScreen())->entryRect(0).center();
             swipe(touch, bench.window, from, to);
         });
         const Outcome keyed = play(kind, [&](ScreenTestBench& bench) {
+            turn(bench);
             for (const int key : keys)
                 bench.press(static_cast<Qt::Key>(key));
         });
         QCOMPARE(touched.index, keyed.index);
         QCOMPARE(touched.opened, keyed.opened);
         QVERIFY(touched == keyed); // and the same message boxes and picture
-        QCOMPARE(keys.isEmpty(), touched == play(kind, [](ScreenTestBench&) {}));
+        QCOMPARE(keys.isEmpty(), touched == play(kind, turn));
     }
 
     // A double click is a press of its own, after the press and release that came before it: alone on the
