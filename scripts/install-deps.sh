@@ -9,7 +9,7 @@ packages=(
     libgtest-dev libbenchmark-dev
     fonts-liberation2 fontconfig
     xvfb xauth
-    tzdata python3
+    tzdata python3 iso-codes
     help2man lintian desktop-file-utils appstream
     clang-14 libclang-rt-14-dev
 )
