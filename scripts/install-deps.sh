@@ -8,7 +8,6 @@ packages=(
     qt6-base-dev libgl-dev libegl-dev libxkbcommon-dev zlib1g-dev
     libgtest-dev libbenchmark-dev
     fonts-liberation2 fontconfig
-    xvfb xauth
     tzdata python3 iso-codes
     help2man lintian desktop-file-utils appstream
     clang-14 libclang-rt-14-dev
