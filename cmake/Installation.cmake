@@ -48,6 +48,8 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_MAINTAINER "The Wanderkit developers <maintainers@wanderkit.invalid>")
 set(CPACK_DEBIAN_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+# The screens ask for Arial, which fontconfig answers with Liberation Sans; the shared libraries' list adds the rest.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS fonts-liberation2)
 # CPack puts the summary on the Description line and indents this text below it.
 set(CPACK_PACKAGE_DESCRIPTION "Wanderkit shows world clocks with analog dials, a world map with the day and
 night boundary, weather favourites, currency and unit converters, clothing
