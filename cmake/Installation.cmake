@@ -50,6 +50,8 @@ set(CPACK_DEBIAN_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # The screens ask for Arial, which fontconfig answers with Liberation Sans; the shared libraries' list adds the rest.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS fonts-liberation2)
+# Phone shells and Wayland desktops without XWayland need Qt's Wayland platform plugin.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS qt6-wayland)
 # CPack puts the summary on the Description line and indents this text below it.
 set(CPACK_PACKAGE_DESCRIPTION "Wanderkit shows world clocks with analog dials, a world map with the day and
 night boundary, weather favourites, currency and unit converters, clothing

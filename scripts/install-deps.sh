@@ -5,7 +5,7 @@ set -euo pipefail
 packages=(
     build-essential cmake pkg-config
     libsqlite3-dev nlohmann-json3-dev libexpat1-dev
-    qt6-base-dev libgl-dev libegl-dev libxkbcommon-dev zlib1g-dev
+    qt6-base-dev qt6-wayland libgl-dev libegl-dev libxkbcommon-dev zlib1g-dev
     libgtest-dev libbenchmark-dev
     fonts-liberation2 fontconfig
     tzdata python3 iso-codes

@@ -10,6 +10,7 @@ runs=${2:-15}
 if ! command -v xplanet >/dev/null; then
     sudo=""
     [ "$(id -u)" -ne 0 ] && sudo="sudo"
+    $sudo apt-get update -qq
     DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq --no-install-recommends xplanet xplanet-images >/dev/null
 fi
 work=$(mktemp -d)
