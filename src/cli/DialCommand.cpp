@@ -40,7 +40,7 @@ int RunDialCommand(const CommandRequest& request, std::ostream& out, std::ostrea
     bool us = false;
     for (const std::string& option : args.options) {
         if (option != "--us") {
-            err << "wanderkit dial: unknown option " << option << "\nusage: wanderkit dial [--us] [TEXT]\n";
+            err << "wanderkit dial: unknown option " << option << "\nUsage: wanderkit dial [--us] [TEXT]\n";
             return 2;
         }
         us = true;

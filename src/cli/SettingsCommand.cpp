@@ -16,7 +16,7 @@
 namespace {
 
 constexpr const char* Usage
-    = "usage: wanderkit settings [get KEY NAME | set KEY NAME VALUE [--type dword|string] | reset]\n";
+    = "Usage: wanderkit settings [get KEY NAME | set KEY NAME VALUE [--type dword|string] | reset]\n";
 
 // The words of the command with the value of --type set apart, or what is wrong with them.
 struct SettingsWords

@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr const char* Usage = "usage: wanderkit sizes [WEARER [GARMENT]]\n";
+constexpr const char* Usage = "Usage: wanderkit sizes [WEARER [GARMENT]]\n";
 
 // The position of the string id whose text is `name`, ignoring case.
 std::optional<int> FindByName(std::span<const int> ids, const std::string& name)

@@ -20,8 +20,8 @@
 
 namespace {
 
-constexpr const char* ConvertUsage = "usage: wanderkit convert AMOUNT FROM TO\n";
-constexpr const char* UnitsUsage = "usage: wanderkit units [CATEGORY]\n";
+constexpr const char* ConvertUsage = "Usage: wanderkit convert AMOUNT FROM TO\n";
+constexpr const char* UnitsUsage = "Usage: wanderkit units [CATEGORY]\n";
 constexpr int BelowAbsoluteZero = 40055;
 
 using UnitPair = std::pair<UnitPlace, UnitPlace>;

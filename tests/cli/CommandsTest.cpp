@@ -219,7 +219,7 @@ TEST_F(UnitCommands, UnitsListsTheCatalogueAndRefusalsNameWhatIsWrong)
             {"convert", {"1", "furlong", "m - Meter"}, "no unit is named \"furlong\""},
             {"convert", {"1", "4:5", "4:0"}, "no unit is named \"4:5\""},
             {"convert", {"1", "Mile", "Liter"}, "\"Mile\" and \"Liter\" are not units of one category"},
-            {"convert", {"1", "Mile"}, "usage: wanderkit convert AMOUNT FROM TO"},
+            {"convert", {"1", "Mile"}, "Usage: wanderkit convert AMOUNT FROM TO"},
             {"convert", {"1", "Mile", "km", "--fast"}, "unknown option --fast"},
             {"units", {"colours"}, "no category \"colours\"; choose 0 to 6 or one of: Areas and Surfaces, "}};
     for (const auto& [command, args, message] : cases)
