@@ -72,9 +72,9 @@ std::int32_t SystemDeviceClock::standardBias() const
     // and the middle of the year. (glibc's `timezone` takes Irish summer time for standard, winter for a
     // negative saving.)
     long leastOffset = LONG_MAX;
+    const std::uint16_t year = localTime().year;
     for (const int month : {1, 7}) {
-        std::tm tm = toTm(
-            SystemTime {.year = localTime().year, .month = static_cast<std::uint16_t>(month), .day = 1, .hour = 12});
+        std::tm tm = toTm(SystemTime {.year = year, .month = static_cast<std::uint16_t>(month), .day = 1, .hour = 12});
         const std::time_t at = std::mktime(&tm);
         localtime_r(&at, &tm);
         leastOffset = std::min(leastOffset, tm.tm_gmtoff);

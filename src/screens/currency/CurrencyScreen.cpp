@@ -104,6 +104,8 @@ void CurrencyScreen::chooseCurrency(std::size_t field, std::uint32_t position)
 {
     m_positions[field] = position;
     m_currencies[field] = ReadConverterCurrency(m_store, position);
+    m_codes[field] = ToQString(m_currencies[field].label).left(3);
+    m_codeFonts[field] = codeFont(m_titleFont, m_codes[field]);
 }
 
 void CurrencyScreen::layout(int width, int)
@@ -175,10 +177,8 @@ void CurrencyScreen::paint(QPainter& painter)
     const int height = workHeight();
     m_titleBand.paint(painter);
     painter.setPen(Painting::White);
-    for (std::size_t k = 0; k < FieldCount; ++k) {
-        const QString code = ToQString(m_currencies[k].label).left(3);
-        Painting::drawTextAt(painter, codeFont(m_titleFont, code), CodeLeft, fieldTop(k), code);
-    }
+    for (std::size_t k = 0; k < FieldCount; ++k)
+        Painting::drawTextAt(painter, m_codeFonts[k], CodeLeft, fieldTop(k), m_codes[k]);
 
     Painting::drawTextAt(painter, m_textFont, 5, height - 25, m_lastUpdate);
     const int band = focusBandTop(height);

@@ -53,6 +53,9 @@ private:
     std::array<NumericEdit*, FieldCount> m_fields;
     std::array<std::uint32_t, FieldCount> m_positions {};
     std::array<ConverterCurrency, FieldCount> m_currencies;
+    // Each field's code as drawn and its font, narrowed once when the currency is chosen.
+    std::array<QString, FieldCount> m_codes;
+    std::array<QFont, FieldCount> m_codeFonts;
     QString m_focusLabel;
     QString m_lastUpdate;
     QRect m_focusFrame;
