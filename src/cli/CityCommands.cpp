@@ -21,22 +21,6 @@ namespace {
 using CommandExit::UsageError;
 constexpr const char* TimeUsage = "Usage: wanderkit time CITY... [--home CITY] [--twelve-hour]\n";
 
-// Resolves one CITY word; prints the reason and gives nothing when it names no single city.
-std::optional<std::uint32_t> findCity(CommandSession& session, const std::string& word, std::ostream& err)
-{
-    std::string error;
-    const auto position = CityLookup(session.cities()).find(word, error);
-    if (!position)
-        err << "wanderkit: " << error << '\n';
-    return position;
-}
-
-// The exit code after findCity refused a word.
-int refusal(CommandSession& session)
-{
-    return CityLookup(session.cities()).refusalCode();
-}
-
 struct TimeRequest
 {
     std::vector<std::string> cities;
@@ -101,17 +85,18 @@ int RunTimeCommand(const CommandRequest& request, std::ostream& out, std::ostrea
 {
     return RunOnDevice(request, err, parseTimeRequest, [&](const TimeRequest& wanted, CommandSession& session) {
         std::uint32_t home = HomeCity::position(session.settings());
+        const CityLookup lookup(session.cities());
         if (wanted.home) {
-            const auto found = findCity(session, *wanted.home, err);
+            const auto found = lookup.find(*wanted.home, err);
             if (!found)
-                return refusal(session);
+                return lookup.refusalCode();
             home = *found;
         }
         std::vector<std::uint32_t> positions;
         for (const std::string& word : wanted.cities) {
-            const auto found = findCity(session, word, err);
+            const auto found = lookup.find(word, err);
             if (!found)
-                return refusal(session);
+                return lookup.refusalCode();
             positions.push_back(*found);
         }
         CityCatalogue& cities = session.cities();
@@ -139,9 +124,10 @@ int RunCityCommand(const CommandRequest& request, std::ostream& out, std::ostrea
     auto session = CommandSession::open(request, err);
     if (!session)
         return CommandExit::Unusable;
-    const auto position = findCity(*session, request.args[0], err);
+    const CityLookup lookup(session->cities());
+    const auto position = lookup.find(request.args[0], err);
     if (!position)
-        return refusal(*session);
+        return lookup.refusalCode();
     CityCatalogue& cities = session->cities();
     const DeviceOffset device
         = HomeCity::deviceOffset(cities, HomeCity::position(session->settings()), session->clock());

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <ostream>
 #include <vector>
 
 namespace {
@@ -75,6 +76,15 @@ std::optional<std::uint32_t> CityLookup::find(const std::string& word, std::stri
     for (const std::uint32_t match : matches)
         error += "\n  " + describe(m_cities, match);
     return std::nullopt;
+}
+
+std::optional<std::uint32_t> CityLookup::find(const std::string& word, std::ostream& err) const
+{
+    std::string error;
+    const auto position = find(word, error);
+    if (!position)
+        err << "wanderkit: " << error << '\n';
+    return position;
 }
 
 int CityLookup::refusalCode() const

@@ -64,13 +64,10 @@ SystemTime onDate(SystemTime now, const std::optional<SystemTime>& date)
 int RunSunCommand(const CommandRequest& command, std::ostream& out, std::ostream& err)
 {
     return RunOnDevice(command, err, parseSunRequest, [&](const SunRequest& request, CommandSession& session) {
-        std::string error;
         const CityLookup lookup(session.cities());
-        const auto position = lookup.find(request.city, error);
-        if (!position) {
-            err << "wanderkit: " << error << '\n';
+        const auto position = lookup.find(request.city, err);
+        if (!position)
             return lookup.refusalCode();
-        }
         CityCatalogue& cities = session.cities();
         // The device offset too is the one of that date: the home city may observe daylight saving then.
         const SystemTime now = onDate(session.clock().localTime(), request.date);
