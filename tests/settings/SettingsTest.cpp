@@ -91,8 +91,6 @@ TEST(SettingsTable, DefaultsAndWriteBack)
     WriteSetting(settings, Settings::MeasureValue, L"");
     EXPECT_EQ(ReadSetting(settings, Settings::MeasureValue), L"");
     EXPECT_EQ(settings.Status(), RegistrySettings::Read) << "an empty string is a stored value";
-    WriteSetting(settings, Settings::ClothesKind, 4);
-    EXPECT_EQ(ReadSetting(settings, Settings::ClothesKind), 4u);
 }
 
 TEST(MappingFile, ReadsWordsUpToTheEndMarker)
