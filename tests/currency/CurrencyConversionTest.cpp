@@ -60,9 +60,8 @@ TEST(CurrencyConversion, ChosenCurrenciesAndTheSelectListComeFromTheStore)
     store.SetInitialList(ParseInitialCurrencies("3\nUSD_US Dollar_1#EUR_Euro_1.25 per#"));
     store.Load();
     ASSERT_EQ(store.RecordCount(), 3);
-    // A position past the end reads as empty texts too.
-    const std::tuple<std::uint32_t, std::wstring, std::wstring, double> cases[] = {{0, L"", L" - ", 0.0},
-        {1, L"EUR", L"EUR - Euro", 1.25}, {2, L"USD", L"USD - US Dollar", 1.0}, {3, L"", L" - ", 0.0}};
+    const std::tuple<std::uint32_t, std::wstring, std::wstring, double> cases[]
+        = {{0, L"", L" - ", 0.0}, {1, L"EUR", L"EUR - Euro", 1.25}, {2, L"USD", L"USD - US Dollar", 1.0}};
     for (const auto& [position, code, label, rate] : cases) {
         const ConverterCurrency currency = ReadConverterCurrency(store, position);
         EXPECT_EQ(std::tie(currency.code, currency.label, currency.rate), std::tie(code, label, rate));
@@ -103,7 +102,6 @@ TEST(RatesImport, DollarRatesAreTheQuotientOfThePublishedRates)
 
 TEST(RatesImport, StampsAndAFailedWrite)
 {
-    EXPECT_EQ(RatesImport::fileTimeOf(1601y / 1 / 1), 0u);
     EXPECT_EQ(RatesImport::fileTimeOf(1970y / 1 / 1), 116444736000000000ULL); // the Unix epoch as a FILETIME
     // Every day the ECB may date reads back as itself, at midnight.
     for (std::chrono::sys_days day = std::chrono::sys_days {1999y / 1 / 1};
