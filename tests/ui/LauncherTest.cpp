@@ -54,8 +54,6 @@ private slots:
             QVERIFY(servicesEnabled);
             QCOMPARE(launcher.selection(), 5);
             QVERIFY(!launcher.softKeys()->isKeyEnabled(Commands::Services));
-            bench.press(Qt::Key_F1);
-            QCOMPARE(bench.window.topScreen(), &launcher);
             // An arrow stays large until 250 ms after its last press; the first of two timers to fire ends
             // both. Each step: a key pressed (or none), the milliseconds passed, then the left and right arrows.
             const std::tuple<int, int, bool, bool> steps[] = {{0, 250, false, false}, {Qt::Key_Right, 150, false, true},

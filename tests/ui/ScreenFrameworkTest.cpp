@@ -320,9 +320,7 @@ private slots:
             for (const int key : keys)
                 bench.press(static_cast<Qt::Key>(key));
         });
-        QCOMPARE(touched.index, keyed.index);
-        QCOMPARE(touched.opened, keyed.opened);
-        QVERIFY(touched == keyed); // and the same message boxes and picture
+        QVERIFY(touched == keyed); // the same selection, screens opened, message boxes and picture
         QCOMPARE(keys.isEmpty(), touched == play(kind, turn));
     }
 
@@ -336,7 +334,6 @@ private slots:
             QTest::mouseDClick(list, Qt::LeftButton, Qt::NoModifier, list->mapFrom(&bench.window, upArrow));
         });
         const Outcome keyed = play(Kind::Select, [](ScreenTestBench& bench) { bench.press(Qt::Key_Up); });
-        QCOMPARE(clicked.index, keyed.index);
         QVERIFY(clicked == keyed);
     }
 
