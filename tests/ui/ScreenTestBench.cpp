@@ -37,24 +37,11 @@ void ScreenTestBench::visit(Screen& screen, const std::function<void()>& check)
     });
 }
 
-void ScreenTestBench::whenShown(Screen& screen, const std::function<void()>& drive)
-{
-    onNextShown(
-        screen, [&screen](Screen& shown) { return &shown == &screen; }, [drive](Screen&) { drive(); });
-}
-
 void ScreenTestBench::whenNextShown(Screen& current, const std::function<void(Screen&)>& drive)
 {
-    onNextShown(
-        current, [&current](Screen& shown) { return &shown != &current; }, drive);
-}
-
-void ScreenTestBench::onNextShown(
-    Screen& context, const std::function<bool(Screen&)>& wanted, const std::function<void(Screen&)>& drive)
-{
     auto connection = std::make_shared<QMetaObject::Connection>();
-    *connection = QObject::connect(&window, &DeviceWindow::screenShown, &context, [=](Screen& shown) {
-        if (!wanted(shown))
+    *connection = QObject::connect(&window, &DeviceWindow::screenShown, &current, [=, &current](Screen& shown) {
+        if (&shown == &current)
             return;
         QObject::disconnect(*connection);
         QTimer::singleShot(0, &shown, [drive, &shown] { drive(shown); });

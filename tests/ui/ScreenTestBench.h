@@ -42,8 +42,6 @@ public:
     int run(Screen& screen, const std::function<void()>& drive);
     // Runs `screen`, lets `check` drive it, then ends it (also when a check has failed).
     void visit(Screen& screen, const std::function<void()>& check);
-    // Calls `drive` once `screen` is next shown, when someone else (the launcher) opens it.
-    void whenShown(Screen& screen, const std::function<void()>& drive);
     // Calls `drive` with the next screen shown over `current` (a dialog it opens), once.
     void whenNextShown(Screen& current, const std::function<void(Screen&)>& drive);
     // Presses `key` on the widget that has the focus.
@@ -86,9 +84,4 @@ public:
     DeviceWindow window;
     CityCatalogue cities {objects, paths, messages};
     WeatherFavourites favourites {objects, paths, messages};
-
-private:
-    // Calls `drive` with the first screen shown that `wanted` accepts, while `context` lives.
-    void onNextShown(
-        Screen& context, const std::function<bool(Screen&)>& wanted, const std::function<void(Screen&)>& drive);
 };

@@ -149,10 +149,10 @@ private slots:
         auto* weather = qobject_cast<WeatherScreen*>(launcher.serviceScreen(1));
         weather->setEntryCity(L"Paris");
         bool shown = false;
-        t.bench.whenShown(*weather, [&] {
-            shown = !weather->entryMode() && weather->favouriteName() == L"Rome"
+        t.bench.whenNextShown(launcher, [&](Screen& screen) {
+            shown = &screen == weather && !weather->entryMode() && weather->favouriteName() == L"Rome"
                 && weather->softKeys()->isKeyEnabled(Commands::Services);
-            weather->sendCommand(Commands::Services);
+            screen.sendCommand(Commands::Services);
         });
         t.bench.run(launcher, [&] {
             t.bench.press(Qt::Key_Right);
