@@ -107,7 +107,6 @@ private slots:
     {
         QTest::addColumn<bool>("onMap");
         QTest::addColumn<bool>("closeWindow");
-        QTest::newRow("World Clocks, Done") << false << false;
         QTest::newRow("World Clocks, window closed over the dialog") << false << true;
         QTest::newRow("map, Done") << true << false;
         QTest::newRow("map, window closed over the dialog") << true << true;
