@@ -74,7 +74,6 @@ protected:
         args.insert(args.begin(), {"import", state.write("forecast.json", json).string()});
         return run("forecast", args);
     }
-    std::string storeBytes() const { return TempDir::read(state.path() / "objectstore.db"); }
 };
 
 // 24 November 2026 is a Tuesday. The fixture's day i has highs of 20.6 + i °C (21 °C = 69.8 °F), lows of
@@ -84,15 +83,10 @@ const std::string TuesdayLine = "1\tTue\t\\wiconset\\rain.bmp\tLight rain\t18 km
 
 } // namespace
 
-TEST_F(CityCommands, CitiesListsTheMatchingCatalogueEntries)
+TEST_F(CityCommands, CitiesTimeCityAndSunShowWhatTheScreensShow)
 {
     EXPECT_EQ(std::ranges::count(run("cities", {}).out, '\n'), 1000);
     EXPECT_TRUE(run("cities", {"c0684"}).printed("684\tC0684\tLand\t2.35\t48.85\t-5\t1:67:2:305:2\n"));
-    EXPECT_TRUE(run("cities", {"nowhere"}).printed(""));
-}
-
-TEST_F(CityCommands, TimeCityAndSunShowWhatTheScreensShow)
-{
     // With a home on GMT, device time is GMT 09:05 and New York, on summer time, four hours behind.
     EXPECT_TRUE(run("time", {"684", "--twelve-hour", "--home", "C0001"})
                     .printed("684\tC0684\t05:05 AM\t13/7 Done\t-4\t1\t8/3/2026\t1/11/2026\n"));
@@ -124,21 +118,20 @@ TEST_F(CityCommands, UnknownCitiesAndBadRequestsAreUsageErrors)
         EXPECT_TRUE(run(command, args).refused(2, message)) << command;
 }
 
-// With no city and no currency on the device no word could be right: the data is unusable, not the request.
-TEST_F(CityCommands, LookupsInAnEmptyStoreAreUnusableData)
-{
-    device.write("cities.lst", "");
-    const std::pair<std::string, std::vector<std::string>> cases[] = {{"time", {"0"}},
-        {"time", {"C0000", "--home", "C0001"}}, {"city", {"C0000"}}, {"sun", {"C0000"}}, {"currency", {"1", "EUR"}}};
-    for (const auto& [command, args] : cases)
-        EXPECT_TRUE(run(command, args).refused(1, " holds no c")) << command;
-}
-
 TEST_F(CityCommands, TwoCitiesOfOneNameInTwoCountriesAreAmbiguous)
 {
     device.write("cities.lst", "h\n2\nx;Twin;Alpha;0;0;0;0;0;0;0;0\nx;Twin;Beta;0;0;0;0;0;0;0;0\n");
     EXPECT_TRUE(run("city", {"twin"}).refused(2, "city:country:\n  0 Twin:Alpha\n  1 Twin:Beta\n"));
-    EXPECT_EQ(run("city", {"Twin:Beta"}).code, 0);
+}
+
+// With no city and no currency on the device no word could be right: the data is unusable, not the request.
+TEST_F(CityCommands, LookupsInAnEmptyStoreAreUnusableData)
+{
+    device.write("cities.lst", "");
+    const std::pair<std::string, std::vector<std::string>> unusable[]
+        = {{"time", {"C0000", "--home", "C0001"}}, {"city", {"C0000"}}, {"sun", {"C0000"}}, {"currency", {"1", "EUR"}}};
+    for (const auto& [command, args] : unusable)
+        EXPECT_TRUE(run(command, args).refused(1, " holds no c")) << command;
 }
 
 // The rows are checked in the reference tests: here, what is matched and how a row is printed. No match is
@@ -148,14 +141,12 @@ TEST(DialCommand, PrintsMatchingRowsTabSeparated)
     const std::tuple<std::vector<std::string>, std::string, std::string> cases[] = {
         {{"KOREA"}, "South Korea\t+82\t+9\nNorth Korea\t+850\t+9\n", ""},
         {{"--us", "salt", "lake"}, "Salt Lake City\tUtah(UT)\t+801\n", ""}, // several words are one text
-        {{"Atlantis"}, "", "no country contains \"Atlantis\""},
-        {{"--us", "Gotham"}, "", "no city or state contains \"Gotham\""},
+        {{"Atlantis"}, "", "wanderkit dial: no country contains \"Atlantis\"\n"},
+        {{"--us", "Gotham"}, "", "wanderkit dial: no city or state contains \"Gotham\"\n"},
     };
     for (const auto& [args, out, message] : cases) {
         const CommandResult r = CommandResult::of("dial", args);
-        EXPECT_EQ(std::tie(r.code, r.out), std::tuple(0, out));
-        EXPECT_EQ(r.err.empty(), message.empty()) << r.err;
-        EXPECT_NE(r.err.find(message), std::string::npos) << r.err;
+        EXPECT_EQ(std::tie(r.code, r.out, r.err), std::tuple(0, out, message));
     }
     EXPECT_TRUE(CommandResult::of("dial", {"--uk", "london"}).refused(2, "unknown option --uk"));
 }
@@ -172,14 +163,10 @@ TEST(SizesCommand, PrintsEveryMatchingTable)
         EXPECT_EQ(std::tuple(r.code, r.out.substr(0, first.size())), std::tuple(0, first)) << r.err;
         EXPECT_EQ(std::ranges::count(r.out, '\n'), 6 * tables - 1);
     }
-    const std::string children = CommandResult::of("sizes", {"children"}).out;
-    EXPECT_NE(children.find("\n\nChildren's Trousers\nUSA "), std::string::npos) << children;
-
     const std::tuple<std::vector<std::string>, std::string> refused[]
         = {{{"kids"}, "unknown wearer \"kids\"; choose one of: Men, Women, Children"},
             {{"men", "bras"}, "unknown garment \"bras\"; choose one of: Shirts and Sweaters, Shoes, Suits, Trousers"},
-            {{"children", "suits"}, "choose one of: Shirts and Sweaters, Shoes, Trousers"},
-            {{"men", "-x"}, "unknown option -x"}};
+            {{"children", "suits"}, "choose one of: Shirts and Sweaters, Shoes, Trousers"}};
     for (const auto& [args, error] : refused)
         EXPECT_TRUE(CommandResult::of("sizes", args).refused(2, error));
 }
@@ -187,12 +174,10 @@ TEST(SizesCommand, PrintsEveryMatchingTable)
 // The conversions themselves are checked in the unit tests: here, how units are found and what is printed.
 using UnitCommands = CommandFixture;
 
-TEST_F(UnitCommands, ConvertFindsUnitsByNameStartOrCode)
+TEST_F(UnitCommands, ConvertAndUnitsFindUnitsByNameStartOrCodeAndRefusalsNameWhatIsWrong)
 {
     const std::tuple<std::vector<std::string>, std::string> cases[] = {
         {{"1", "ton [SHORT, us]", "KG - KILOGRAM"}, "907.000000\n"}, // names ignore case
-        // A negative amount is an amount, not an option; units by code: -0.5 °C is -0.9 + 32 °F.
-        {{"-.5", "4:0", "4:1"}, "31.100000\n"},
         {{"2", "short", "Tonne"}, "1.814369\n"}, // a unique start of a name: "Short" is "Short ton"
         {{"1", "yard", "m - Meter"}, "0.914400\n"}, // "Yard" is in three categories; the other unit picks one
     };
@@ -200,10 +185,7 @@ TEST_F(UnitCommands, ConvertFindsUnitsByNameStartOrCode)
         EXPECT_TRUE(run("convert", args).printed(expected)) << args[1];
     const CommandResult cold = run("convert", {"-300", "4:0", "K - Kelvin"});
     EXPECT_EQ(std::tie(cold.code, cold.out, cold.err), std::tuple(1, "0\n", "Below Absolute Zero\n"));
-}
 
-TEST_F(UnitCommands, UnitsListsTheCatalogueAndRefusalsNameWhatIsWrong)
-{
     // Temperatures have no factor; their list's order is checked in the unit tests.
     EXPECT_TRUE(run("units", {"TEMP"}).out.starts_with("Temperatures\n\u00b0C - Degree Celsius\t-\n"));
     EXPECT_EQ(run("units", {"4"}).out, run("units", {"TEMP"}).out);
@@ -212,7 +194,7 @@ TEST_F(UnitCommands, UnitsListsTheCatalogueAndRefusalsNameWhatIsWrong)
     EXPECT_EQ(std::ranges::count(all.out, '\n'), 7 + 126 + 6);
     EXPECT_TRUE(all.out.starts_with("Areas and Surfaces\nyard\t0.83612736\n"));
 
-    const std::tuple<std::string, std::vector<std::string>, std::string> cases[]
+    const std::tuple<std::string, std::vector<std::string>, std::string> refused[]
         = {{"convert", {"1", "yard", "yard"},
                "\"yard\" names several units; give one of:\n  0:0\tyard (Areas and Surfaces)\n"
                "  1:0\tYard (Lengths and Distances)\n  5:0\tYard (Volumes)\n"},
@@ -222,14 +204,15 @@ TEST_F(UnitCommands, UnitsListsTheCatalogueAndRefusalsNameWhatIsWrong)
             {"convert", {"1", "Mile"}, "Usage: wanderkit convert AMOUNT FROM TO"},
             {"convert", {"1", "Mile", "km", "--fast"}, "unknown option --fast"},
             {"units", {"colours"}, "no category \"colours\"; choose 0 to 6 or one of: Areas and Surfaces, "}};
-    for (const auto& [command, args, message] : cases)
+    for (const auto& [command, args, message] : refused)
         EXPECT_TRUE(run(command, args).refused(2, message));
     // The same word on both sides is listed once; different ambiguous words each.
     EXPECT_EQ(std::ranges::count(run("convert", {"1", "yard", "yard"}).err, '\n'), 4);
     EXPECT_EQ(std::ranges::count(run("convert", {"1", "yard", "Yard"}).err, '\n'), 8);
 }
 
-TEST_F(CurrencyCommands, CurrencyShowsWhatTheConverterFieldsShowOrSaysWhatIsWrong)
+// `rates import` rewrites the listed rates and the stamp, or nothing.
+TEST_F(CurrencyCommands, CurrencyShowsWhatTheConverterFieldsShowAndRatesImportsOrSaysWhatIsWrong)
 {
     // 100 dollars: 100 / 1.25 euros and 100 / 0.0078125 yen; names and codes ignore case.
     EXPECT_TRUE(run("currency", {"100", "usd", "Euro", "jpy"}).printed("EUR\t80.00000000\nJPY\t12800.00000000\n"));
@@ -246,10 +229,7 @@ TEST_F(CurrencyCommands, CurrencyShowsWhatTheConverterFieldsShowOrSaysWhatIsWron
             {"rates", {"import", "a", "b"}, "Usage: wanderkit rates [import FILE]"}};
     for (const auto& [command, args, message] : cases)
         EXPECT_TRUE(run(command, args).refused(2, message));
-}
 
-TEST_F(CurrencyCommands, ImportRewritesTheListedRatesAndTheStampOrNothing)
-{
     const auto file = state.write("eurofxref-daily.xml",
         EcbFile("2024-05-17", {{"USD", "1.08"}, {"JPY", "162.5"}, {"ISK", "150"}, {"PLN", "-4.3"}}));
     const CommandResult r = run("rates", {"import", file.string()});
@@ -272,11 +252,11 @@ TEST_F(CurrencyCommands, ImportRewritesTheListedRatesAndTheStampOrNothing)
 
     // A folder, refused by the reader (whose refusals are checked in its own tests); a day after today and
     // no usable dollar rate, refused by the import.
-    const std::pair<std::string, std::string> cases[] = {{state.path().string(), "it could not be read"},
+    const std::pair<std::string, std::string> files[] = {{state.path().string(), "it could not be read"},
         {state.write("late.xml", EcbFile("2024-05-21", {{"USD", "1.1"}})).string(), "lies after today, 2024-05-20"},
         {state.write("bad.xml", EcbFile("2024-05-20", {{"USD", "-1.1"}, {"JPY", "160"}})).string(),
             "no usable USD rate"}};
-    for (const auto& [refusedFile, reason] : cases) {
+    for (const auto& [refusedFile, reason] : files) {
         const CommandResult refused = run("rates", {"import", refusedFile});
         EXPECT_TRUE(refused.refused(2, reason));
         EXPECT_TRUE(refused.err.ends_with("; the store is unchanged\n")) << refused.err;
@@ -284,8 +264,14 @@ TEST_F(CurrencyCommands, ImportRewritesTheListedRatesAndTheStampOrNothing)
     }
 }
 
-TEST_F(FavouritesCommand, AddWritesACityOfTheCountryListsAndRefusalsSayWhy)
+TEST_F(FavouritesCommand, RemoveUndoesAddWhichWritesACityOfTheCountryListsAndRefusalsSayWhy)
 {
+    // A city already a favourite is written again, as the dialog does; one removal leaves one.
+    EXPECT_EQ(favourites({"add", "Rome"}).out, Rome);
+    EXPECT_EQ(favourites({"remove", "rome"}).out, Rome);
+    EXPECT_EQ(favourites({}).out, Paris + Rome);
+    EXPECT_EQ(favourites({"remove", "0"}).out, Paris);
+
     const std::tuple<std::vector<std::string>, int, std::string, std::string> cases[] = {
         // The carriage return before the line feed is no part of the code.
         {{"add", "lyon"}, 0, "Lyon\t2996944\t01/01/2000\tFrance\n", ""},
@@ -297,8 +283,7 @@ TEST_F(FavouritesCommand, AddWritesACityOfTheCountryListsAndRefusalsSayWhy)
         {{"add", "york"}, 1, "", "names that contain it: New York:United States\n"},
         {{"add"}, 2, "", "Usage: wanderkit favourites [add CITY | remove FAVOURITE]"},
         {{"rename", "Rome"}, 2, "", "unexpected arguments"},
-        {{"remove", "Atlantis"}, 1, "", "no favourite is named or numbered \"Atlantis\""},
-        {{"remove", "5"}, 1, "", "no favourite is named or numbered \"5\""}, // one past the five favourites
+        {{"remove", "4"}, 1, "", "no favourite is named or numbered \"4\""}, // one past Rome and the three added
     };
     for (const auto& [args, code, out, message] : cases) {
         const CommandResult result = favourites(args);
@@ -307,32 +292,9 @@ TEST_F(FavouritesCommand, AddWritesACityOfTheCountryListsAndRefusalsSayWhy)
     }
 }
 
-TEST_F(FavouritesCommand, RemoveUndoesAdd)
-{
-    // A city already a favourite is written again, as the dialog does; one removal leaves one.
-    EXPECT_EQ(favourites({"add", "Rome"}).out, Rome);
-    EXPECT_EQ(favourites({"remove", "rome"}).out, Rome);
-    EXPECT_EQ(favourites({}).out, Paris + Rome);
-    EXPECT_EQ(favourites({"remove", "0"}).out, Paris);
-    EXPECT_EQ(favourites({}).out, Rome);
-}
-
 using SettingsCommand = CommandFixture;
 
-TEST_F(SettingsCommand, SetThenGetGivesBackWhatWasStored)
-{
-    // VALUE, --type, what get prints (keys ignore case). Negative numbers are stored as their two's
-    // complement: -1 is 2^32 - 1 and -2147483648 is 2^31.
-    const std::tuple<std::string, std::string, std::string> cases[] = {{"4294967295", "dword", "4294967295"},
-        {"-1", "dword", "4294967295"}, {"-2147483648", "dword", "2147483648"}, {"", "string", ""},
-        {"K\xC3\xB6ln \xF0\x9F\x8C\x8D", "string", "K\xC3\xB6ln \xF0\x9F\x8C\x8D"}}; // U+00F6 and U+1F30D
-    for (const auto& [value, type, shown] : cases) {
-        EXPECT_EQ(run("settings", {"set", "Wanderkit\\currencies", "curval", value, "--type", type}).code, 0);
-        EXPECT_TRUE(run("settings", {"get", "WANDERKIT\\Currencies", "curval"}).printed(shown + "\n"));
-    }
-}
-
-TEST_F(SettingsCommand, ListsResetsAndRefuses)
+TEST_F(SettingsCommand, ListsResetsRefusesAndGetGivesBackWhatSetStored)
 {
     ASSERT_EQ(run("settings", {"set", "Wanderkit\\wrldclk", "clock1", "100"}).code, 0);
     ASSERT_EQ(run("settings", {"set", "Wanderkit\\map", "note", "x y", "--type=string"}).code, 0);
@@ -350,18 +312,25 @@ TEST_F(SettingsCommand, ListsResetsAndRefuses)
             {{"set", "Wanderkit", "n", "12abc"}, "\"12abc\" is not a whole number"},
             {{"set", "Wanderkit", "n", ""}, "\"\" is not a whole number"},
             {{"set", "Wanderkit", "n", "1", "--type", "qword"}, "--type wants dword or string, got \"qword\""},
-            {{"set", "Wanderkit", "n", "1", "--type"}, "--type wants dword or string, got \"\""},
-            {{"set", "Wanderkit", "n"}, "set wants KEY NAME VALUE"}, {{"get", "Wanderkit"}, "get wants KEY NAME"},
-            {{"reset", "all"}, "reset wants nothing after it"}, {{"frobnicate"}, "unknown action \"frobnicate\""},
-            {{"--verbose"}, "unknown option --verbose"},
+            {{"set", "Wanderkit", "n"}, "set wants KEY NAME VALUE"}, {{"reset", "all"}, "reset wants nothing after it"},
+            {{"frobnicate"}, "unknown action \"frobnicate\""}, {{"--verbose"}, "unknown option --verbose"},
             {{"set", std::string(512, '\\'), "n", "1"}, "a key has at most 512 levels of at most 255 characters"},
             {{"set", "Wanderkit\\" + std::string(256, 'k'), "n", "1"}, "a key has at most 512 levels"}};
     for (const auto& [args, message] : cases)
         EXPECT_TRUE(run("settings", args).refused(2, "wanderkit settings: " + message)) << testing::PrintToString(args);
     EXPECT_TRUE(run("settings", {}).printed(""));
+
+    // VALUE, --type, what get prints (keys ignore case). A negative number is stored as its two's complement.
+    const std::tuple<std::string, std::string, std::string> stored[]
+        = {{"4294967295", "dword", "4294967295"}, {"-2147483648", "dword", "2147483648"}, // 2^32 - 2^31
+            {"K\xC3\xB6ln \xF0\x9F\x8C\x8D", "string", "K\xC3\xB6ln \xF0\x9F\x8C\x8D"}}; // U+00F6 and U+1F30D
+    for (const auto& [value, type, shown] : stored) {
+        EXPECT_EQ(run("settings", {"set", "Wanderkit\\currencies", "curval", value, "--type", type}).code, 0);
+        EXPECT_TRUE(run("settings", {"get", "WANDERKIT\\Currencies", "curval"}).printed(shown + "\n"));
+    }
 }
 
-TEST_F(WeatherCommands, AnImportedForecastIsPrintedDayByDay)
+TEST_F(WeatherCommands, AnImportedForecastIsPrintedDayByDayAndRefusalsChangeNothing)
 {
     // From standard input, without a name: the favourite at the forecast's place. The service answers for
     // the point of its grid nearest to Paris (48.85 N 2.35 E).
@@ -382,18 +351,12 @@ TEST_F(WeatherCommands, AnImportedForecastIsPrintedDayByDay)
     ASSERT_EQ(run("settings", {"set", "Wanderkit\\weather", "wetp", "99"}).code, 0);
     EXPECT_TRUE(
         run("weather", {}).refused(1, "wanderkit weather: Sorry, Weather Forecast is not available for this City.\n"));
-}
 
-// The reader's own refusals are checked in the weather tests: here one of them, a missing file, favourites
-// that are not there and usage errors, none of which touches the store.
-TEST_F(WeatherCommands, RefusalsChangeNothing)
-{
-    ASSERT_EQ(import(OpenMeteoFixture::response(5).dump()).code, 0);
-    const std::string before = storeBytes();
+    // The reader's own refusals are checked in the weather tests: here one of them, a missing file, favourites
+    // that are not there and usage errors, none of which touches the store.
+    const std::string before = TempDir::read(state.path() / "objectstore.db");
     const std::string good = OpenMeteoFixture::response(5, "2026-11-25").dump();
     const std::pair<CommandResult, std::string> cases[] = {
-        {import(good.substr(0, good.size() - 10)),
-            (state.path() / "forecast.json").string() + ": is not complete, well-formed JSON"},
         {run("forecast", {"import", (state.path() / "none.json").string()}), "none.json: cannot be read"},
         {import(good, {"--favourite", "Nowhere"}), "no favourite is named or numbered \"Nowhere\""},
         {import(OpenMeteoFixture::response(5, "2026-11-24", 45.0, 7.0).dump(), {}),
@@ -406,6 +369,6 @@ TEST_F(WeatherCommands, RefusalsChangeNothing)
     };
     for (const auto& [result, problem] : cases) {
         EXPECT_TRUE(result.refused(2, problem));
-        EXPECT_EQ(storeBytes(), before);
+        EXPECT_EQ(TempDir::read(state.path() / "objectstore.db"), before);
     }
 }
