@@ -63,13 +63,6 @@ protected:
         device.write("cities.wet", "3\nFrance;Paris;2988507\nItaly;Rome;3169070\nUnited Kingdom;London;2643743\n");
         device.write("mapping.cfg", "sunny@00 cloudy@03 rain@61,63 >");
     }
-
-    // Writes a forecast file into the state folder and imports it.
-    CommandResult import(const std::string& json, std::vector<std::string> args = {"--favourite", "Paris"})
-    {
-        args.insert(args.begin(), {"import", state.write("forecast.json", json).string()});
-        return run("forecast", args);
-    }
 };
 
 // 24 November 2026 is a Tuesday. The fixture's day i has highs of 20.6 + i °C (21 °C = 69.8 °F), lows of
@@ -90,9 +83,8 @@ TEST_F(CityCommands, CitiesTimeCityAndSunShowWhatTheScreensShow)
                     .printed("City: C0684\nCountry: Land\nLong/Lat: 2.35/48.85\nDaylight Saving: Not observing now\n"
                              "DST start/end: 8/3/2026-1/11/2026\nTime zone (GMT): -5h\n"));
 
-    // `sun` prints the map's times and the offset used. Every fixture city stands at 2.35 E 48.85 N, read as
-    // whole degrees 2 and 48. Worked with a separate calculator: there the Sun rises at 04:07 UTC and sets at
-    // 19:47 UTC on 13 July 2026, 15:40 of day; on 13 January at 07:39 and 16:22, 08:42 of day.
+    // `sun` prints the map's times and offset. Fixture cities stand at 2.35 E 48.85 N, read as 2 and 48; by a separate
+    // calculator the Sun rises 04:07, sets 19:47 UTC on 13 July 2026 (15:40 of day), 07:39/16:22 on 13 January (08:42).
     EXPECT_TRUE(run("sun", {"C0000"}).printed("06:07\t21:47\t15:40\t2\n")); // +1 with summer time
     EXPECT_TRUE(run("sun", {"--date=2026-01-13", "C0000:land"}).printed("08:39\t17:22\t08:42\t1\n"));
     // On 8 March the home is on +1 (+2 in July): at 06:30 there C0684 is at 00:30 on 8 March, its first
@@ -341,20 +333,19 @@ TEST_F(WeatherCommands, AnImportedForecastIsPrintedDayByDayAndRefusalsChangeNoth
 
     // A missing file, favourites that are not there and usage errors leave the store untouched.
     const std::string before = TempDir::read(state.path() / "objectstore.db");
-    const std::string good = OpenMeteoFixture::response(5, "2026-11-25").dump();
+    const std::string good = state.write("good.json", OpenMeteoFixture::response(5, "2026-11-25").dump()).string();
+    const std::string far = state.write("far.json", OpenMeteoFixture::response(5, "2026-11-24", 45, 7).dump()).string();
     const std::pair<CommandResult, std::string> cases[] = {
         {run("forecast", {"import", (state.path() / "none.json").string()}), "none.json: cannot be read"},
-        {import(good, {"--favourite", "Nowhere"}), "no favourite is named or numbered \"Nowhere\""},
-        {import(OpenMeteoFixture::response(5, "2026-11-24", 45.0, 7.0).dump(), {}),
-            "no favourite city lies at latitude 45, longitude 7"},
+        {run("forecast", {"import", good, "--favourite", "Nowhere"}), "no favourite is named or numbered \"Nowhere\""},
+        {run("forecast", {"import", far}), "no favourite city lies at latitude 45, longitude 7"},
         {run("forecast", {"import", "a", "b"}), "one FILE only"},
-        {import(good, {"--favourite"}), "--favourite wants a favourite's name or position"},
+        {run("forecast", {"import", good, "--favourite"}), "--favourite wants a favourite's name or position"},
         {run("weather", {"--day", "6"}), "--day wants a day from 1 to 5"},
         {run("weather", {"0", "--day"}), "--day wants a day from 1 to 5"},
         {run("weather", {"3"}), "no favourite is named or numbered \"3\""},
     };
-    for (const auto& [result, problem] : cases) {
+    for (const auto& [result, problem] : cases)
         EXPECT_TRUE(result.refused(2, problem));
-        EXPECT_EQ(TempDir::read(state.path() / "objectstore.db"), before);
-    }
+    EXPECT_EQ(TempDir::read(state.path() / "objectstore.db"), before);
 }
