@@ -132,10 +132,8 @@ TEST(ReferenceCommands, DialPrintsMatchingRowsTabSeparatedAndSizesEveryMatchingT
         {{"Atlantis"}, "", "wanderkit dial: no country contains \"Atlantis\"\n"},
         {{"--us", "Gotham"}, "", "wanderkit dial: no city or state contains \"Gotham\"\n"},
     };
-    for (const auto& [args, out, message] : cases) {
-        const CommandResult r = CommandResult::of("dial", args);
-        EXPECT_EQ(std::tie(r.code, r.out, r.err), std::tuple(0, out, message));
-    }
+    for (const auto& [args, out, message] : cases)
+        EXPECT_EQ(CommandResult::of("dial", args).all(), std::tuple(0, out, message));
     EXPECT_TRUE(CommandResult::of("dial", {"--uk", "london"}).refused(2, "unknown option --uk"));
 
     const std::tuple<std::vector<std::string>, long, std::string> sizes[] = {
@@ -166,16 +164,14 @@ TEST_F(UnitCommands, ConvertAndUnitsFindUnitsByNameStartOrCodeAndRefusalsNameWha
     };
     for (const auto& [args, expected] : cases)
         EXPECT_TRUE(run("convert", args).printed(expected)) << args[1];
-    const CommandResult cold = run("convert", {"-300", "4:0", "K - Kelvin"});
-    EXPECT_EQ(std::tie(cold.code, cold.out, cold.err), std::tuple(1, "0\n", "Below Absolute Zero\n"));
+    EXPECT_EQ(run("convert", {"-300", "4:0", "K - Kelvin"}).all(), std::tuple(1, "0\n", "Below Absolute Zero\n"));
 
     // Temperatures have no factor; their list's order is checked in the unit tests.
     EXPECT_TRUE(run("units", {"TEMP"}).out.starts_with("Temperatures\n\u00b0C - Degree Celsius\t-\n"));
     EXPECT_EQ(run("units", {"4"}).out, run("units", {"TEMP"}).out);
-    // Seven titles, 126 units, six empty lines between the categories.
-    const CommandResult all = run("units", {});
-    EXPECT_EQ(std::ranges::count(all.out, '\n'), 7 + 126 + 6);
-    EXPECT_TRUE(all.out.starts_with("Areas and Surfaces\nyard\t0.83612736\n"));
+    const std::string units = run("units", {}).out;
+    EXPECT_EQ(std::ranges::count(units, '\n'), 7 + 126 + 6); // seven titles, 126 units, six empty lines between
+    EXPECT_TRUE(units.starts_with("Areas and Surfaces\nyard\t0.83612736\n"));
 
     const std::tuple<std::string, std::vector<std::string>, std::string> refused[]
         = {{"convert", {"1", "yard", "yard"},
@@ -189,9 +185,8 @@ TEST_F(UnitCommands, ConvertAndUnitsFindUnitsByNameStartOrCodeAndRefusalsNameWha
             {"units", {"colours"}, "no category \"colours\"; choose 0 to 6 or one of: Areas and Surfaces, "}};
     for (const auto& [command, args, message] : refused)
         EXPECT_TRUE(run(command, args).refused(2, message));
-    // The same word on both sides is listed once; different ambiguous words each.
-    EXPECT_EQ(std::ranges::count(run("convert", {"1", "yard", "yard"}).err, '\n'), 4);
-    EXPECT_EQ(std::ranges::count(run("convert", {"1", "yard", "Yard"}).err, '\n'), 8);
+    EXPECT_EQ(std::ranges::count(run("convert", {"1", "yard", "yard"}).err, '\n'), 4); // the same word is listed once
+    EXPECT_EQ(std::ranges::count(run("convert", {"1", "yard", "Yard"}).err, '\n'), 8); // different words each
 }
 
 // `rates import` rewrites the listed rates and the stamp, or nothing.
@@ -215,8 +210,7 @@ TEST_F(CurrencyCommands, CurrencyShowsWhatTheConverterFieldsShowAndRatesImportsO
 
     const auto file = state.write("eurofxref-daily.xml",
         EcbFile("2024-05-17", {{"USD", "1.08"}, {"JPY", "162.5"}, {"ISK", "150"}, {"PLN", "-4.3"}}));
-    const CommandResult r = run("rates", {"import", file.string()});
-    EXPECT_EQ(std::tie(r.code, r.out, r.err),
+    EXPECT_EQ(run("rates", {"import", file.string()}).all(),
         std::tuple(0, "Rates of 17/5/2024: 3 currencies updated, 1 keep their rates\nNot in the store, left out: ISK\n",
             "wanderkit: rates import: " + file.string()
                 + ": skipped PLN: its rate \"-4.3\" is not a positive decimal number\n"));
@@ -225,8 +219,7 @@ TEST_F(CurrencyCommands, CurrencyShowsWhatTheConverterFieldsShowAndRatesImportsO
                     .printed("GBP\tBritish Pound\t1.5625\nEUR\tEuro\t1.08\nJPY\tJapanese "
                              "Yen\t0.006646153846153847\nUSD\tUS Dollar\t1\nLast update: 17/5/2024 \n"));
 
-    // "-" reads standard input.
-    std::istringstream in(EcbFile("2024-05-20", {{"USD", "1.0"}}));
+    std::istringstream in(EcbFile("2024-05-20", {{"USD", "1.0"}})); // "-" reads standard input
     std::ostringstream out, err;
     EXPECT_EQ(RunRatesCommandWithInput({options(), {"import", "-"}}, in, out, err), 0);
     EXPECT_EQ(out.str(), "Rates of 20/5/2024: 2 currencies updated, 2 keep their rates\n");

@@ -7,6 +7,7 @@
 
 #include <sstream>
 #include <string>
+#include <tuple>
 #include <vector>
 
 // What a text command printed and returned.
@@ -24,6 +25,9 @@ struct CommandResult
         const int code = RunCommand(command, {device, args}, out, err);
         return {code, out.str(), err.str()};
     }
+
+    // The exit code and both streams, copied, to compare whole.
+    [[nodiscard]] std::tuple<int, std::string, std::string> all() const { return {code, out, err}; }
 
     // Done: exit code 0, exactly `expected` printed and nothing on the error stream.
     [[nodiscard]] testing::AssertionResult printed(const std::string& expected) const
