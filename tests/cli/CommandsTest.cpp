@@ -50,9 +50,6 @@ protected:
     }
 };
 
-const std::string Paris = "Paris\t2988507\t01/01/2000\tFrance\n";
-const std::string Rome = "Rome\t3169070\t01/01/2000\tItaly\n";
-
 // Three favourites, Paris the one catalogue city, and the icon mapping (forecast texts: the weather tests).
 class WeatherCommands : public CommandFixture
 {
@@ -126,12 +123,11 @@ TEST_F(CityCommands, LookupsInAnEmptyStoreAreUnusableData)
 // each size table is its title, four rows (their texts are checked in the reference tests) and an empty line.
 TEST(ReferenceCommands, DialPrintsMatchingRowsTabSeparatedAndSizesEveryMatchingTable)
 {
-    const std::tuple<std::vector<std::string>, std::string, std::string> cases[] = {
-        {{"KOREA"}, "South Korea\t+82\t+9\nNorth Korea\t+850\t+9\n", ""},
-        {{"--us", "salt", "lake"}, "Salt Lake City\tUtah(UT)\t+801\n", ""}, // several words are one text
-        {{"Atlantis"}, "", "wanderkit dial: no country contains \"Atlantis\"\n"},
-        {{"--us", "Gotham"}, "", "wanderkit dial: no city or state contains \"Gotham\"\n"},
-    };
+    const std::tuple<std::vector<std::string>, std::string, std::string> cases[]
+        = {{{"KOREA"}, "South Korea\t+82\t+9\nNorth Korea\t+850\t+9\n", ""},
+            {{"--us", "salt", "lake"}, "Salt Lake City\tUtah(UT)\t+801\n", ""}, // several words are one text
+            {{"Atlantis"}, "", "wanderkit dial: no country contains \"Atlantis\"\n"},
+            {{"--us", "Gotham"}, "", "wanderkit dial: no city or state contains \"Gotham\"\n"}};
     for (const auto& [args, out, message] : cases)
         EXPECT_EQ(CommandResult::of("dial", args).all(), std::tuple(0, out, message));
     EXPECT_TRUE(CommandResult::of("dial", {"--uk", "london"}).refused(2, "unknown option --uk"));
@@ -239,10 +235,11 @@ TEST_F(CurrencyCommands, CurrencyShowsWhatTheConverterFieldsShowAndRatesImportsO
 TEST_F(FavouritesCommand, RemoveUndoesAddWhichWritesACityOfTheCountryListsAndRefusalsSayWhy)
 {
     // A city already a favourite is written again, as the dialog does; one removal leaves one.
-    EXPECT_EQ(run("favourites", {"add", "Rome"}).out, Rome);
-    EXPECT_EQ(run("favourites", {"remove", "rome"}).out, Rome);
-    EXPECT_EQ(run("favourites", {}).out, Paris + Rome);
-    EXPECT_EQ(run("favourites", {"remove", "0"}).out, Paris);
+    const std::string paris = "Paris\t2988507\t01/01/2000\tFrance\n", rome = "Rome\t3169070\t01/01/2000\tItaly\n";
+    EXPECT_EQ(run("favourites", {"add", "Rome"}).out, rome);
+    EXPECT_EQ(run("favourites", {"remove", "rome"}).out, rome);
+    EXPECT_EQ(run("favourites", {}).out, paris + rome);
+    EXPECT_EQ(run("favourites", {"remove", "0"}).out, paris);
 
     const std::tuple<std::vector<std::string>, int, std::string, std::string> cases[] = {
         // The carriage return before the line feed is no part of the code.
@@ -333,8 +330,7 @@ TEST_F(WeatherCommands, AnImportedForecastIsPrintedDayByDayAndRefusalsChangeNoth
         {run("forecast", {"import", good, "--favourite"}), "--favourite wants a favourite's name or position"},
         {run("weather", {"--day", "6"}), "--day wants a day from 1 to 5"},
         {run("weather", {"0", "--day"}), "--day wants a day from 1 to 5"},
-        {run("weather", {"3"}), "no favourite is named or numbered \"3\""},
-    };
+        {run("weather", {"3"}), "no favourite is named or numbered \"3\""}};
     for (const auto& [result, problem] : cases)
         EXPECT_TRUE(result.refused(2, problem));
     EXPECT_EQ(TempDir::read(state.path() / "objectstore.db"), before);
