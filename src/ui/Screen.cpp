@@ -152,6 +152,16 @@ Spinner* Screen::addSpinner(const QString& objectName, std::function<void(int de
     return spinner;
 }
 
+void Screen::place(QWidget& control, std::function<QRect(QSize area)> where)
+{
+    m_placed.emplace_back(&control, std::move(where));
+}
+
+void Screen::addLabel(int stringId, const QFont& font, std::function<QPoint(QSize area)> where)
+{
+    m_labels.push_back({stringId, font, std::move(where)});
+}
+
 void Screen::onCommand(std::initializer_list<int> ids, const std::function<void()>& action)
 {
     for (const int id : ids)
@@ -193,7 +203,7 @@ bool Screen::beginRun(SoftKeyBar& softKeys)
     }
     initialise();
     if (!m_ended)
-        layout(workWidth(), workHeight());
+        arrange();
     return !m_ended;
 }
 
@@ -220,6 +230,7 @@ void Screen::paintEvent(QPaintEvent* event)
     m_dirty = event->rect();
     QPainter painter(this);
     eraseBackground(painter);
+    paintTitleAndLabels(painter);
     paint(painter);
     emit painted();
 }
@@ -228,7 +239,31 @@ void Screen::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
     if (m_running && !m_ended)
-        layout(workWidth(), workHeight());
+        arrange();
+}
+
+void Screen::arrange()
+{
+    const QSize area(workWidth(), workHeight());
+    if (m_titleBand)
+        m_titleBand->layout(area.width());
+    for (const auto& [control, where] : m_placed)
+        control->setGeometry(where(area));
+    layout(area.width(), area.height());
+}
+
+void Screen::paintTitleAndLabels(QPainter& painter)
+{
+    if (m_titleBand && m_dirty.intersects(m_titleBand->rect()))
+        m_titleBand->paint(painter);
+    if (m_labels.empty())
+        return;
+    const QSize area(workWidth(), workHeight());
+    painter.setPen(Painting::White);
+    for (const Label& label : m_labels) {
+        const QPoint at = label.where(area);
+        Painting::drawTextAt(painter, label.font, at.x(), at.y(), Painting::loadString(label.stringId));
+    }
 }
 
 void Screen::keyPressEvent(QKeyEvent* event)

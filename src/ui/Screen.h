@@ -5,6 +5,7 @@
 #include "ui/MenuBars.h"
 #include "ui/ScreenEnvironment.h"
 #include "ui/SwipeRecogniser.h"
+#include "ui/TitleBand.h"
 
 #include <QImage>
 #include <QPixmap>
@@ -13,6 +14,7 @@
 #include <functional>
 #include <initializer_list>
 #include <map>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -26,7 +28,9 @@ class Spinner;
 // A screen of the program: a modal, full-work-area page with its own soft-key bar. The object lives
 // for the whole run of the program; each time it is shown, the framework calls its hooks in the order
 // initialise, layout (and again on every size change), paint; timers and commands while it runs;
-// destroyWork exactly once when it ends ("Services", "Done", "Exit" or its own end).
+// destroyWork exactly once when it ends ("Services", "Done", "Exit" or its own end). What a screen
+// states once while it is built (title band, placed controls, labels, commands, kept settings) the
+// framework carries out itself, so a screen overrides only the hooks its own logic needs.
 class Screen : public QWidget
 {
     Q_OBJECT
@@ -99,6 +103,15 @@ protected:
     void keepSetting(const DwordSetting& setting, std::function<std::uint32_t()> value);
     void keepSetting(const StringSetting& setting, std::function<std::wstring()> value);
     void keepSetting(const DwordSetting& setting, const Spinner& list);
+    // The band across the top with the screen's title. The framework lays it out to the work area's width
+    // and paints it before the screen's own painting.
+    void setTitleBand(const TitleBand& band) { m_titleBand = band; }
+    QRect titleRect() const { return m_titleBand ? m_titleBand->rect() : QRect(); }
+    // Keeps `control` at `where(work area size)`: placed on every size change, before layout().
+    void place(QWidget& control, std::function<QRect(QSize area)> where);
+    // A fixed text in white, painted after the title band with its text cell's top-left corner at
+    // `where(work area size)`.
+    void addLabel(int stringId, const QFont& font, std::function<QPoint(QSize area)> where);
     // The background picture, found beside the program by the joined-name rule; loaded by each run.
     void setBackgroundPicture(const wchar_t* fileName) { m_pictureName = fileName; }
     // Screens with edit boxes call this while they initialise, so that the Back key edits.
@@ -121,12 +134,25 @@ private:
     bool beginRun(SoftKeyBar& softKeys);
     int finishRun();
     bool hasEnded() const { return m_ended; }
+    // The title band, the placed controls, then the screen's own layout.
+    void arrange();
+    void paintTitleAndLabels(QPainter& painter);
+
+    struct Label
+    {
+        int stringId;
+        QFont font;
+        std::function<QPoint(QSize area)> where;
+    };
 
     ScreenEnvironment& m_environment;
     DeviceWindow& m_window;
     RegistrySettings m_settings;
     std::vector<std::function<void()>> m_keptSettings; // each writes one kept setting
     std::map<int, std::function<void()>> m_commands;
+    std::vector<std::pair<QWidget*, std::function<QRect(QSize)>>> m_placed;
+    std::vector<Label> m_labels;
+    std::optional<TitleBand> m_titleBand;
     MenuBarId m_menuBarId;
     QString m_name;
     SoftKeyBar* m_softKeys = nullptr;

@@ -7,6 +7,8 @@
 #include "screens/select/SelectDialog.h"
 #include "screens/worldclock/WorldClockScreen.h"
 #include "ui/NumericEdit.h"
+#include "ui/Painting.h"
+#include "ui/StringIds.h"
 #include "ui/WindowFit.h"
 
 #include <QMenu>
@@ -33,7 +35,7 @@ public:
     QList<int> commands;
     std::function<void()> onInitialise = [] {};
     std::function<void()> onDestroy = [] {};
-    using Screen::setBackgroundPicture, Screen::startScreenTimer;
+    using Screen::addLabel, Screen::place, Screen::setBackgroundPicture, Screen::setTitleBand, Screen::startScreenTimer;
 
 protected:
     void initialise() override { ++initialised, onInitialise(); }
@@ -342,6 +344,38 @@ private slots:
         };
         for (const auto& [available, workArea, scale] : cases)
             QCOMPARE(FitScale(available, workArea, SoftKeyBar::BarHeight, 2.0), scale);
+    }
+
+    // The title band, a placed control and a label stay where the screen put them when the work area turns.
+    void statedPartsFollowTheWorkArea()
+    {
+        ScreenTestBench bench;
+        ProbeScreen screen(bench.environment, bench.window, MenuBarId::Converter, "probe");
+        const QColor fill(0, 0, 200);
+        screen.setTitleBand(TitleBand(fill, StringIds::Measurements));
+        QWidget control(&screen);
+        screen.place(control, [](QSize area) { return QRect(area.width() - 30, area.height() - 20, 20, 10); });
+        const QFont font = Painting::makeFont(21, Painting::Bold);
+        screen.addLabel(StringIds::To, font, [](QSize area) { return QPoint(5, area.height() - 40); });
+        const auto whiteIn = [](const QImage& image, QRect cell) {
+            for (int y = cell.top(); y <= cell.bottom(); ++y) {
+                for (int x = cell.left(); x <= cell.right(); ++x) {
+                    if (image.pixelColor(x, y) == Painting::White)
+                        return true;
+                }
+            }
+            return false;
+        };
+        bench.visit(screen, [&] {
+            for (const QSize area : {QSize(240, 268), QSize(268, 240)}) {
+                emit QGuiApplication::primaryScreen()->orientationChanged(
+                    area.width() > area.height() ? Qt::LandscapeOrientation : Qt::PortraitOrientation);
+                QCOMPARE(control.geometry(), QRect(area.width() - 30, area.height() - 20, 20, 10));
+                const QImage image = bench.render();
+                QCOMPARE(image.pixelColor(area.width() - 1, TitleBand::Height - 1), fill);
+                QVERIFY(whiteIn(image, QRect(5, area.height() - 40, 20, 20)));
+            }
+        });
     }
 
     // The screen's own rotation, or Ctrl+R on a desktop, lays every running screen out again.

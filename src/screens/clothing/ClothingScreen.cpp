@@ -6,6 +6,7 @@
 #include "ui/Painting.h"
 #include "ui/Spinner.h"
 #include "ui/StringIds.h"
+#include "ui/TitleBand.h"
 #include "ui/WideString.h"
 
 #include <QPainter>
@@ -35,12 +36,15 @@ int positionOrFirst(std::uint32_t stored, std::size_t count)
 
 ClothingScreen::ClothingScreen(ScreenEnvironment& environment, DeviceWindow& window)
     : Screen(environment, window, MenuBarId::Converter, QStringLiteral("clothing"))
-    , m_title(Painting::ConverterBand, StringIds::ClothingSizes)
     , m_wearerSpinner(addSpinner(QStringLiteral("wearerSpinner")))
     , m_garmentSpinner(addSpinner(QStringLiteral("garmentSpinner")))
     , m_shiftSpinner(addSpinner(QStringLiteral("shiftSpinner"), std::bind_front(&ClothingScreen::shiftRows, this)))
 {
+    setTitleBand(TitleBand(Painting::ConverterBand, StringIds::ClothingSizes));
     setBackgroundPicture(L"bconv.jpg");
+    place(*m_wearerSpinner, ConverterLayout::listBoxAt(WearerTop));
+    place(*m_garmentSpinner, ConverterLayout::listBoxAt(GarmentTop));
+    place(*m_shiftSpinner, [](QSize area) { return QRect(area.width() - 25, 10, 0, 0); });
     keepSetting(Settings::ClothesWho, *m_wearerSpinner);
     keepSetting(Settings::ClothesKind, *m_garmentSpinner);
     m_shiftSpinner->setItems({QStringLiteral("1"), QStringLiteral("2")});
@@ -107,17 +111,8 @@ void ClothingScreen::showTable()
     update();
 }
 
-void ClothingScreen::layout(int width, int)
-{
-    m_title.layout(width);
-    m_wearerSpinner->setGeometry(ConverterLayout::listBox(WearerTop, width));
-    m_garmentSpinner->setGeometry(ConverterLayout::listBox(GarmentTop, width));
-    m_shiftSpinner->hideAt(width - 25, 10);
-}
-
 void ClothingScreen::paint(QPainter& painter)
 {
-    m_title.paint(painter);
     painter.setPen(Painting::White);
     Painting::drawTextAt(painter, m_labelFont, ConverterLayout::TextLeft, TableTitleTop, tableTitle());
     const QStringList rows = shownRows();

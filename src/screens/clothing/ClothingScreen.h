@@ -3,7 +3,6 @@
 
 #include "reference/ClothingSizes.h"
 #include "ui/Screen.h"
-#include "ui/TitleBand.h"
 
 #include <QFont>
 #include <QStringList>
@@ -25,7 +24,6 @@ public:
 
 protected:
     void initialise() override;
-    void layout(int width, int height) override;
     void paint(QPainter& painter) override;
 
 private:
@@ -35,7 +33,6 @@ private:
     void fillGarments(int garment);
     void showTable();
 
-    TitleBand m_title;
     Spinner* m_wearerSpinner;
     Spinner* m_garmentSpinner;
     Spinner* m_shiftSpinner;

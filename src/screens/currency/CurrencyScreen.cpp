@@ -10,6 +10,7 @@
 #include "ui/NumericEdit.h"
 #include "ui/Painting.h"
 #include "ui/StringIds.h"
+#include "ui/TitleBand.h"
 #include "ui/WideString.h"
 
 #include <QPainter>
@@ -64,10 +65,11 @@ CurrencyScreen::CurrencyScreen(
     , m_store(environment.objects)
     , m_titleFont(Painting::makeFont(23, Painting::Bold))
     , m_textFont(Painting::makeFont(20, Painting::Bold))
-    , m_titleBand(Painting::ConverterBand, StringIds::CurrencyConverter, m_titleFont)
 {
     setBackgroundPicture(L"back.jpg");
-    m_titleBand.setTextOrigin(QPoint(5, 2));
+    TitleBand title(Painting::ConverterBand, StringIds::CurrencyConverter, m_titleFont);
+    title.setTextOrigin(QPoint(5, 2));
+    setTitleBand(title);
     for (std::size_t k = 0; k < FieldCount; ++k) {
         auto* field = new NumericEdit(this);
         field->setObjectName(QStringLiteral("amount%1NumericEdit").arg(k + 1));
@@ -108,9 +110,8 @@ void CurrencyScreen::chooseCurrency(std::size_t field, std::uint32_t position)
     m_codeFonts[field] = codeFont(m_titleFont, m_codes[field]);
 }
 
-void CurrencyScreen::layout(int width, int)
+void CurrencyScreen::layout(int, int)
 {
-    m_titleBand.layout(width);
     for (std::size_t k = 0; k < FieldCount; ++k) {
         NumericEdit* field = m_fields[k];
         field->setGeometry(FieldLeft, fieldTop(k), FieldRight - FieldLeft, FieldHeight);
@@ -175,7 +176,6 @@ void CurrencyScreen::paint(QPainter& painter)
 {
     const int width = workWidth();
     const int height = workHeight();
-    m_titleBand.paint(painter);
     painter.setPen(Painting::White);
     for (std::size_t k = 0; k < FieldCount; ++k)
         Painting::drawTextAt(painter, m_codeFonts[k], CodeLeft, fieldTop(k), m_codes[k]);

@@ -5,7 +5,6 @@
 #include "store/CurrencyStore.h"
 #include "store/InitialCurrencyList.h"
 #include "ui/Screen.h"
-#include "ui/TitleBand.h"
 
 #include <QFont>
 
@@ -61,5 +60,4 @@ private:
     QRect m_focusFrame;
     QFont m_titleFont;
     QFont m_textFont;
-    TitleBand m_titleBand;
 };

@@ -10,6 +10,7 @@
 #include "ui/SoftKeyBar.h"
 #include "ui/Spinner.h"
 #include "ui/StringIds.h"
+#include "ui/TitleBand.h"
 #include "ui/WideString.h"
 
 #include <QPainter>
@@ -56,11 +57,13 @@ void showChosenList(int chosen, ReportList& international, ReportList& areaCodes
 
 DialingScreen::DialingScreen(ScreenEnvironment& environment, DeviceWindow& window)
     : Screen(environment, window, MenuBarId::Launcher, QStringLiteral("dialing"))
-    , m_title(Painting::ConverterBand, StringIds::DialingCodes)
     , m_chooser(addSpinner(QStringLiteral("chooserSpinner")))
 {
-    m_title.setTextOrigin(QPoint(5, 0));
+    TitleBand title(Painting::ConverterBand, StringIds::DialingCodes);
+    title.setTextOrigin(QPoint(5, 0));
+    setTitleBand(title);
     setBackgroundPicture(L"bconv.jpg");
+    place(*m_chooser, ConverterLayout::listBoxAt(ChooserTop));
     m_chooser->setItems(
         {Painting::loadString(StringIds::InternationalDialingCodes), Painting::loadString(StringIds::UsAreaCodes)});
     connect(m_chooser, &Spinner::currentChanged, this,
@@ -78,6 +81,8 @@ void DialingScreen::initialise()
         m_areaCodes = makeList(this, QStringLiteral("areaCodeReportList"),
             {{Painting::loadString(StringIds::City), 35}, {Painting::loadString(StringIds::RegionState), 40},
                 {Painting::loadString(StringIds::Code), 17}});
+        for (ReportList* list : {m_international, m_areaCodes})
+            place(*list, [](QSize area) { return QRect(0, ListTop, area.width(), area.height() - ListTop); });
     }
     // Bar 107 greys "Services" for the launcher; here it must lead back to the launcher.
     softKeys()->setKeyEnabled(Commands::Services, true);
@@ -91,18 +96,8 @@ void DialingScreen::initialise()
     m_chooser->setFocus();
 }
 
-void DialingScreen::layout(int width, int height)
-{
-    m_title.layout(width);
-    m_chooser->setGeometry(ConverterLayout::listBox(ChooserTop, width));
-    const QRect lists(0, ListTop, width, height - ListTop);
-    m_international->setGeometry(lists);
-    m_areaCodes->setGeometry(lists);
-}
-
 void DialingScreen::paint(QPainter& painter)
 {
-    m_title.paint(painter);
     // A frame one pixel outside the chooser.
     const QRect chooser = m_chooser->geometry();
     painter.setPen(Qt::black);

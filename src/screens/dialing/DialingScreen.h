@@ -2,7 +2,6 @@
 #pragma once
 
 #include "ui/Screen.h"
-#include "ui/TitleBand.h"
 
 #include <QFont>
 
@@ -20,11 +19,9 @@ public:
 
 protected:
     void initialise() override;
-    void layout(int width, int height) override;
     void paint(QPainter& painter) override;
 
 private:
-    TitleBand m_title;
     Spinner* m_chooser;
     ReportList* m_international = nullptr;
     ReportList* m_areaCodes = nullptr;

@@ -15,7 +15,6 @@
 #include "ui/WideString.h"
 #include "units/UnitConversion.h"
 
-#include <QPainter>
 #include <QSignalBlocker>
 
 #include <functional>
@@ -58,11 +57,28 @@ int placed(int top, int height)
     return Band + (top - Band) * (height - Band - FieldHeight - 3) / (ResultTop - Band);
 }
 
+// Where a list box, a field or a label laid out at `top` goes on a work area.
+std::function<QRect(QSize)> listBoxPlace(int top)
+{
+    return [top](QSize area) { return ConverterLayout::listBox(placed(top, area.height()), area.width()); };
+}
+
+std::function<QRect(QSize)> fieldPlace(int top)
+{
+    return [top](QSize area) {
+        return QRect(FieldLeft, placed(top, area.height()), area.width() - FieldRightMargin - FieldLeft, FieldHeight);
+    };
+}
+
+std::function<QPoint(QSize)> labelPlace(int top)
+{
+    return [top](QSize area) { return QPoint(ConverterLayout::TextLeft, placed(top, area.height())); };
+}
+
 } // namespace
 
 MeasureScreen::MeasureScreen(ScreenEnvironment& environment, DeviceWindow& window)
     : Screen(environment, window, MenuBarId::Converter, QStringLiteral("measure"))
-    , m_title(Painting::ConverterBand, StringIds::Measurements)
     , m_catalogue(environment.objects)
     , m_categorySpinner(addSpinner(QStringLiteral("categorySpinner")))
     , m_fromSpinner(addSpinner(QStringLiteral("fromSpinner")))
@@ -70,7 +86,17 @@ MeasureScreen::MeasureScreen(ScreenEnvironment& environment, DeviceWindow& windo
     , m_amountEdit(new NumericEdit(this))
     , m_resultEdit(new NumericEdit(this))
 {
+    setTitleBand(TitleBand(Painting::ConverterBand, StringIds::Measurements));
     setBackgroundPicture(L"bconv.jpg");
+    place(*m_categorySpinner, listBoxPlace(CategoryTop));
+    place(*m_fromSpinner, listBoxPlace(FromTop));
+    place(*m_amountEdit, fieldPlace(AmountTop));
+    place(*m_toSpinner, listBoxPlace(ToTop));
+    place(*m_resultEdit, fieldPlace(ResultTop));
+    const QFont labelFont = Painting::makeFont(21, Painting::Bold);
+    addLabel(StringIds::Convert, labelFont, labelPlace(ConvertLabelTop));
+    addLabel(StringIds::From, labelFont, labelPlace(FromLabelTop));
+    addLabel(StringIds::To, labelFont, labelPlace(ToLabelTop));
     m_amountEdit->setObjectName(QStringLiteral("amountLineEdit"));
     m_resultEdit->setObjectName(QStringLiteral("resultLineEdit"));
     m_resultEdit->setReadOnly(true); // looks like the amount field; the program alone writes it
@@ -96,7 +122,6 @@ void MeasureScreen::initialise()
         const BusyCursor busy;
         m_catalogue.Build();
     }
-    m_labelFont = Painting::makeFont(21, Painting::Bold);
     m_listFont = Painting::makeFont(21, Painting::Normal);
     takeOverBackKey();
     readUnits();
@@ -181,28 +206,4 @@ void MeasureScreen::setUndoEnabled(bool enabled)
 {
     if (SoftKeyBar* keys = softKeys())
         keys->setItemEnabled(Commands::Undo, enabled);
-}
-
-void MeasureScreen::layout(int width, int height)
-{
-    m_title.layout(width);
-    const int fieldWidth = width - FieldRightMargin - FieldLeft;
-    m_categorySpinner->setGeometry(ConverterLayout::listBox(placed(CategoryTop, height), width));
-    m_fromSpinner->setGeometry(ConverterLayout::listBox(placed(FromTop, height), width));
-    m_amountEdit->setGeometry(FieldLeft, placed(AmountTop, height), fieldWidth, FieldHeight);
-    m_toSpinner->setGeometry(ConverterLayout::listBox(placed(ToTop, height), width));
-    m_resultEdit->setGeometry(FieldLeft, placed(ResultTop, height), fieldWidth, FieldHeight);
-}
-
-void MeasureScreen::paint(QPainter& painter)
-{
-    m_title.paint(painter);
-    painter.setPen(Painting::White);
-    const int height = workHeight();
-    Painting::drawTextAt(painter, m_labelFont, ConverterLayout::TextLeft, placed(ConvertLabelTop, height),
-        Painting::loadString(StringIds::Convert));
-    Painting::drawTextAt(painter, m_labelFont, ConverterLayout::TextLeft, placed(FromLabelTop, height),
-        Painting::loadString(StringIds::From));
-    Painting::drawTextAt(painter, m_labelFont, ConverterLayout::TextLeft, placed(ToLabelTop, height),
-        Painting::loadString(StringIds::To));
 }

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "ui/Screen.h"
-#include "ui/TitleBand.h"
 #include "units/UnitCatalogue.h"
 #include "units/UnitLists.h"
 
@@ -21,8 +20,6 @@ public:
 
 protected:
     void initialise() override;
-    void layout(int width, int height) override;
-    void paint(QPainter& painter) override;
 
 private:
     void readUnits();
@@ -36,7 +33,6 @@ private:
     void undo();
     void setUndoEnabled(bool enabled);
 
-    TitleBand m_title;
     UnitCatalogue m_catalogue;
     UnitLists m_units;
     Spinner* m_categorySpinner;
@@ -44,6 +40,5 @@ private:
     Spinner* m_toSpinner;
     NumericEdit* m_amountEdit;
     NumericEdit* m_resultEdit;
-    QFont m_labelFont;
     QFont m_listFont;
 };

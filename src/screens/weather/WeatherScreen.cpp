@@ -18,6 +18,7 @@
 #include "ui/SoftKeyBar.h"
 #include "ui/Spinner.h"
 #include "ui/StringIds.h"
+#include "ui/TitleBand.h"
 #include "ui/WideString.h"
 #include "weather/OpenMeteoForecast.h"
 #include "weather/WeatherTexts.h"
@@ -71,9 +72,11 @@ WeatherScreen::WeatherScreen(ScreenEnvironment& environment, DeviceWindow& windo
     , m_favourites(favourites)
     , m_cities(environment.objects, environment.paths, environment.messages)
     , m_days(addSpinner(QStringLiteral("daySpinner"), std::bind_front(&WeatherScreen::stepDay, this)))
-    , m_title(Painting::ShellBand, StringIds::WorldWeather)
 {
+    setTitleBand(TitleBand(Painting::ShellBand, StringIds::WorldWeather, Painting::makeFont(23, Painting::Bold)));
     m_days->setWrapping(true);
+    // "Update Forecast" does nothing.
+    onCommand({Commands::ChangeCity, Commands::Ok}, std::bind_front(&WeatherScreen::changeFavourite, this));
 }
 
 void WeatherScreen::setEntryCity(const std::wstring& cityName)
@@ -98,13 +101,11 @@ void WeatherScreen::initialise()
         m_weekdays[static_cast<std::size_t>(day)] = ToQString(WeekdayLabel(day));
     m_iconFolder = ReadSetting(settings(), Settings::IconFolder);
     m_today = environment().clock.localTime();
-    m_titleFont = Painting::makeFont(23, Painting::Bold);
     m_labelFont = Painting::makeFont(18, Painting::Normal);
     m_valueFont = Painting::makeFont(20, Painting::Normal);
     m_conditionFont = Painting::makeFont(18, Painting::Bold);
     m_cityFont = Painting::makeFont(20, Painting::Bold);
     m_temperatureFont = Painting::makeFont(35, Painting::Bold);
-    m_title = TitleBand(Painting::ShellBand, StringIds::WorldWeather, m_titleFont);
     m_days->setItems(
         {QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3"), QStringLiteral("4"), QStringLiteral("5")});
     m_days->setFont(m_valueFont);
@@ -165,15 +166,6 @@ void WeatherScreen::stepDay(int delta)
     showDay(delta == 0 ? m_days->currentIndex() + 1 : SteppedDay(m_currentDay, delta));
 }
 
-void WeatherScreen::command(int id)
-{
-    if (id == Commands::ChangeCity || id == Commands::Ok)
-        changeFavourite();
-    else if (id == Commands::Services || id == Commands::Exit)
-        Screen::command(id);
-    // "Update Forecast" and anything else: nothing happens.
-}
-
 void WeatherScreen::changeFavourite()
 {
     if (m_entryMode)
@@ -215,7 +207,6 @@ void WeatherScreen::layout(int width, int height)
     m_weekdayInCard = height < 260;
     m_twoColumns = width >= 440;
     const int inner = width - 2 * Margin;
-    m_title.layout(width);
     const int lineTop = TitleBand::Height + 3;
     const int spinnerLeft = width - Margin - DaySpinnerWidth;
     m_cityBand = QRect(Margin, lineTop, m_weekdayInCard ? spinnerLeft - 4 - Margin : inner, 24);
@@ -230,7 +221,6 @@ void WeatherScreen::layout(int width, int height)
 
 void WeatherScreen::paint(QPainter& painter)
 {
-    m_title.paint(painter);
     painter.setPen(Painting::White);
     drawText(painter, m_cityFont, m_cityBand.left(), m_cityBand.top(), m_cityBand.right(), m_cityLine);
     paintDay(painter);

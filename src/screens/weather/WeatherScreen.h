@@ -4,7 +4,6 @@
 #include "store/CityCatalogue.h"
 #include "time/ZoneOffset.h"
 #include "ui/Screen.h"
-#include "ui/TitleBand.h"
 #include "weather/ForecastDisplay.h"
 
 #include <QFont>
@@ -51,7 +50,6 @@ protected:
     void initialise() override;
     void layout(int width, int height) override;
     void paint(QPainter& painter) override;
-    void command(int id) override;
 
 private:
     void readHomeCity();
@@ -87,8 +85,7 @@ private:
     QImage m_icon;
     Spinner* m_days;
     // Bold 23 (title), normal 18, normal 20, bold 18, bold 20, bold 35.
-    QFont m_titleFont, m_labelFont, m_valueFont, m_conditionFont, m_cityFont, m_temperatureFont;
-    TitleBand m_title;
+    QFont m_labelFont, m_valueFont, m_conditionFont, m_cityFont, m_temperatureFont;
     bool m_weekdayInCard = false;
     bool m_twoColumns = false;
     int m_labelWidth = 0;

@@ -17,6 +17,7 @@
 #include "ui/SoftKeyBar.h"
 #include "ui/Spinner.h"
 #include "ui/StringIds.h"
+#include "ui/TitleBand.h"
 #include "ui/WideString.h"
 
 #include <QPainter>
@@ -52,8 +53,8 @@ WorldClockScreen::WorldClockScreen(
     ScreenEnvironment& environment, DeviceWindow& window, CityCatalogue& cities, WeatherFavourites& favourites)
     : CityScreen(environment, window, MenuBarId::WorldClocks, QStringLiteral("worldclock"), cities, favourites)
     , m_focusList(addSpinner(QStringLiteral("focusSpinner"), std::bind_front(&WorldClockScreen::showFocusStep, this)))
-    , m_title(Painting::ConverterBand, StringIds::WorldClocks, Painting::makeFont(23, Painting::Bold))
 {
+    setTitleBand(TitleBand(Painting::ConverterBand, StringIds::WorldClocks, Painting::makeFont(23, Painting::Bold)));
     m_focusList->setWrapping(true);
     setBackgroundPicture(L"back.jpg");
     for (std::size_t i = 0; i < SlotCount; ++i)
@@ -183,7 +184,6 @@ QString WorldClockScreen::shownName(int slot) const
 void WorldClockScreen::layout(int width, int height)
 {
     m_focusList->hideAt(width - 25, 10);
-    m_title.layout(width);
     m_cells = {ClockCell::home(TitleHeight, width, m_fonts)};
     const auto rows = ClockCell::cityRows(m_cells[0].area().bottom() + 3, width, height, m_fonts);
     m_cells.insert(m_cells.end(), rows.begin(), rows.end());
@@ -191,8 +191,8 @@ void WorldClockScreen::layout(int width, int height)
 
 void WorldClockScreen::paint(QPainter& painter)
 {
-    if (dirtyRect().intersects(m_title.rect()))
-        paintTitle(painter);
+    if (dirtyRect().intersects(titleRect()))
+        paintTitleArrows(painter);
     for (int k = 0; k < SlotCount; ++k) {
         const ClockCell& cell = m_cells[static_cast<std::size_t>(k)];
         if (dirtyRect().intersects(cell.area()))
@@ -201,9 +201,8 @@ void WorldClockScreen::paint(QPainter& painter)
     paintFocus(painter);
 }
 
-void WorldClockScreen::paintTitle(QPainter& painter) const
+void WorldClockScreen::paintTitleArrows(QPainter& painter) const
 {
-    m_title.paint(painter);
     const int width = workWidth();
     if (m_movedLeft)
         Icons::draw(painter, Icons::LeftArrow, width - 60, 0, 24);
@@ -249,7 +248,7 @@ void WorldClockScreen::refresh()
     }
     if (m_movedLeft || m_movedRight) {
         m_movedLeft = m_movedRight = false;
-        update(m_title.rect());
+        update(titleRect());
     }
 }
 
@@ -281,7 +280,7 @@ int WorldClockScreen::entryAt(QPoint at) const
 void WorldClockScreen::tap(QPoint at)
 {
     const int width = workWidth();
-    if (m_title.rect().contains(at) && at.x() >= width - 64) {
+    if (titleRect().contains(at) && at.x() >= width - 64) {
         m_focusList->step(at.x() < width - 38 ? -1 : 1);
         return;
     }

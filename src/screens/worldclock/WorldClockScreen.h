@@ -5,7 +5,6 @@
 #include "screens/worldclock/ClockCell.h"
 #include "time/ClockOffsets.h"
 #include "time/ClockSlotText.h"
-#include "ui/TitleBand.h"
 
 #include <array>
 #include <vector>
@@ -63,7 +62,8 @@ private:
     // A step of the focus: the title arrow on its side lights up.
     void showFocusStep(int delta);
     ClockView view(int slot) const;
-    void paintTitle(QPainter& painter) const;
+    // The arrows at the title band's right end, drawn larger after a step to that side.
+    void paintTitleArrows(QPainter& painter) const;
     void paintFocus(QPainter& painter) const;
     // The focus entry (0 home dial, 1 home weather, 2 first city's dial, ...) under `at`, or -1.
     int entryAt(QPoint at) const;
@@ -82,6 +82,5 @@ private:
     bool m_movedLeft = false;
     bool m_movedRight = false;
     ClockFonts m_fonts;
-    TitleBand m_title;
     std::vector<ClockCell> m_cells; // the home clock's panel, then the city rows
 };
