@@ -8,6 +8,7 @@
 #include "ui/Painting.h"
 #include "ui/Spinner.h"
 #include "ui/StringIds.h"
+#include "ui/TitleBand.h"
 #include "ui/WideString.h"
 
 #include <QPainter>
@@ -43,6 +44,8 @@ SelectDialog::SelectDialog(ScreenEnvironment& environment, DeviceWindow& window)
 void SelectDialog::initialise()
 {
     m_titleFont = Painting::makeFont(24, Painting::Bold);
+    setTitleBand(TitleBand(
+        Painting::ShellBand, m_mode == Mode::City ? StringIds::SelectCity : StringIds::SelectCurrency, m_titleFont));
     m_listFont = Painting::makeFont(22, Painting::Normal);
     m_panelFont = Painting::makeFont(20, Painting::Normal);
     m_mode == Mode::City ? fillCities() : fillCurrencies();
@@ -105,7 +108,6 @@ void SelectDialog::computePanel()
 void SelectDialog::layout(int width, int)
 {
     const int listTop = m_mode == Mode::Currency ? TitleHeight + 10 : TitleHeight + 5; // y0
-    m_titleBand = QRect(0, 0, width, TitleHeight);
     // The list box (x = 5, width W - 15) and its up-down (S x S at W - 10 - S) are one spinner here.
     m_list->setGeometry(5, listTop, width - 15, SpinnerSize);
     m_list->raise();
@@ -116,10 +118,7 @@ void SelectDialog::layout(int width, int)
 
 void SelectDialog::paint(QPainter& painter)
 {
-    const bool city = m_mode == Mode::City;
-    Painting::drawBand(painter, m_titleBand, Painting::ShellBand,
-        Painting::loadString(city ? StringIds::SelectCity : StringIds::SelectCurrency), m_titleFont);
-    if (!city)
+    if (m_mode != Mode::City)
         return;
     Painting::drawBand(
         painter, m_infoBand, Painting::ShellBand, Painting::loadString(StringIds::CityInformations), m_titleFont);

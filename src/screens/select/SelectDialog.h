@@ -48,7 +48,6 @@ private:
     QFont m_titleFont;
     QFont m_listFont;
     QFont m_panelFont;
-    QRect m_titleBand;
     QRect m_infoBand;
     int m_panelTop = 0;
 };
