@@ -39,6 +39,7 @@ struct ConverterBench
     QString texts() { return field(1)->text() + u'|' + field(2)->text() + u'|' + field(3)->text(); }
     void type(int k, const QString& text)
     {
+        QVERIFY(field(k)->isVisible()); // keys reach a hidden field too
         field(k)->setFocus();
         QTest::keyClicks(field(k), text);
     }
@@ -78,6 +79,7 @@ struct MeasureBench
     // Types into the amount field as the user does.
     void type(const QString& keys)
     {
+        QVERIFY(amountField()->isVisible()); // keys reach a hidden field too
         amountField()->setFocus();
         QTest::keyClicks(amountField(), keys);
     }

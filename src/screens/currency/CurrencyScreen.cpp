@@ -70,6 +70,16 @@ CurrencyScreen::CurrencyScreen(
     TitleBand title(Painting::ConverterBand, StringIds::CurrencyConverter, m_titleFont);
     title.setTextOrigin(QPoint(5, 2));
     setTitleBand(title);
+    for (std::size_t k = 0; k < FieldCount; ++k)
+        keepSetting(*PositionSettings[k], [this, k] { return m_positions[k]; });
+    keepSetting(Settings::CurrencyAmount, [this] { return ToWide(m_fields[0]->text().left(MaxFieldText)); });
+    // "Update rates" has no action of its own.
+    onCommand({Commands::Ok, Commands::ChangeCurrency}, std::bind_front(&CurrencyScreen::changeCurrency, this));
+    onCommand({Commands::Clear}, std::bind_front(&CurrencyScreen::clearFields, this));
+}
+
+void CurrencyScreen::makeFields()
+{
     for (std::size_t k = 0; k < FieldCount; ++k) {
         auto* field = new NumericEdit(this);
         field->setObjectName(QStringLiteral("amount%1NumericEdit").arg(k + 1));
@@ -79,17 +89,15 @@ CurrencyScreen::CurrencyScreen(
                 fieldFocused(k);
         });
         connect(field, &QLineEdit::textChanged, this, [this, k] { convertFrom(k); });
+        field->show(); // made after the screen may already be showing
         m_fields[k] = field;
-        keepSetting(*PositionSettings[k], [this, k] { return m_positions[k]; });
     }
-    keepSetting(Settings::CurrencyAmount, [this] { return ToWide(m_fields[0]->text().left(MaxFieldText)); });
-    // "Update rates" has no action of its own.
-    onCommand({Commands::Ok, Commands::ChangeCurrency}, std::bind_front(&CurrencyScreen::changeCurrency, this));
-    onCommand({Commands::Clear}, std::bind_front(&CurrencyScreen::clearFields, this));
 }
 
 void CurrencyScreen::initialise()
 {
+    if (!m_fields[0])
+        makeFields();
     takeOverBackKey();
     m_store.SetInitialList(m_initialCurrencies);
     m_store.Load();

@@ -38,6 +38,8 @@ protected:
     void paint(QPainter& painter) override;
 
 private:
+    // The fields are made on the first opening, so that the program's start does not pay for them.
+    void makeFields();
     // The field that has the focus, if one has.
     std::optional<std::size_t> focusedField() const;
     void chooseCurrency(std::size_t field, std::uint32_t position);
@@ -49,7 +51,7 @@ private:
 
     const InitialCurrencyList& m_initialCurrencies;
     CurrencyStore m_store;
-    std::array<NumericEdit*, FieldCount> m_fields;
+    std::array<NumericEdit*, FieldCount> m_fields {};
     std::array<std::uint32_t, FieldCount> m_positions {};
     std::array<ConverterCurrency, FieldCount> m_currencies;
     // Each field's code as drawn and its font, narrowed once when the currency is chosen.

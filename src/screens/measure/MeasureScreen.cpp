@@ -83,31 +83,20 @@ MeasureScreen::MeasureScreen(ScreenEnvironment& environment, DeviceWindow& windo
     , m_categorySpinner(addSpinner(QStringLiteral("categorySpinner")))
     , m_fromSpinner(addSpinner(QStringLiteral("fromSpinner")))
     , m_toSpinner(addSpinner(QStringLiteral("toSpinner")))
-    , m_amountEdit(new NumericEdit(this))
-    , m_resultEdit(new NumericEdit(this))
 {
     setTitleBand(TitleBand(Painting::ConverterBand, StringIds::Measurements));
     setBackgroundPicture(L"bconv.jpg");
     place(*m_categorySpinner, listBoxPlace(CategoryTop));
     place(*m_fromSpinner, listBoxPlace(FromTop));
-    place(*m_amountEdit, fieldPlace(AmountTop));
     place(*m_toSpinner, listBoxPlace(ToTop));
-    place(*m_resultEdit, fieldPlace(ResultTop));
     const QFont labelFont = Painting::makeFont(21, Painting::Bold);
     addLabel(StringIds::Convert, labelFont, labelPlace(ConvertLabelTop));
     addLabel(StringIds::From, labelFont, labelPlace(FromLabelTop));
     addLabel(StringIds::To, labelFont, labelPlace(ToLabelTop));
-    m_amountEdit->setObjectName(QStringLiteral("amountLineEdit"));
-    m_resultEdit->setObjectName(QStringLiteral("resultLineEdit"));
-    m_resultEdit->setReadOnly(true); // looks like the amount field; the program alone writes it
     setTabOrder(m_categorySpinner, m_fromSpinner);
-    setTabOrder(m_fromSpinner, m_amountEdit);
-    setTabOrder(m_amountEdit, m_toSpinner);
-    setTabOrder(m_toSpinner, m_resultEdit);
     connect(m_categorySpinner, &Spinner::currentChanged, this, &MeasureScreen::changeCategory);
     connect(m_fromSpinner, &Spinner::currentChanged, this, &MeasureScreen::convert);
     connect(m_toSpinner, &Spinner::currentChanged, this, &MeasureScreen::convert);
-    connect(m_amountEdit, &QLineEdit::textChanged, this, &MeasureScreen::convert);
     keepSetting(Settings::MeasureType, *m_categorySpinner);
     keepSetting(Settings::MeasureUnit1, *m_fromSpinner);
     keepSetting(Settings::MeasureUnit2, *m_toSpinner);
@@ -116,8 +105,28 @@ MeasureScreen::MeasureScreen(ScreenEnvironment& environment, DeviceWindow& windo
     onCommand({Commands::Undo}, std::bind_front(&MeasureScreen::undo, this));
 }
 
+void MeasureScreen::makeFields()
+{
+    m_amountEdit = new NumericEdit(this);
+    m_resultEdit = new NumericEdit(this);
+    m_amountEdit->setObjectName(QStringLiteral("amountLineEdit"));
+    m_resultEdit->setObjectName(QStringLiteral("resultLineEdit"));
+    m_resultEdit->setReadOnly(true); // looks like the amount field; the program alone writes it
+    place(*m_amountEdit, fieldPlace(AmountTop));
+    place(*m_resultEdit, fieldPlace(ResultTop));
+    setTabOrder(m_fromSpinner, m_amountEdit);
+    setTabOrder(m_amountEdit, m_toSpinner);
+    setTabOrder(m_toSpinner, m_resultEdit);
+    connect(m_amountEdit, &QLineEdit::textChanged, this, &MeasureScreen::convert);
+    // Made after the screen may already be showing.
+    m_amountEdit->show();
+    m_resultEdit->show();
+}
+
 void MeasureScreen::initialise()
 {
+    if (!m_amountEdit)
+        makeFields();
     {
         const BusyCursor busy;
         m_catalogue.Build();

@@ -22,6 +22,8 @@ protected:
     void initialise() override;
 
 private:
+    // The edit boxes are made on the first opening, so that the program's start does not pay for them.
+    void makeFields();
     void readUnits();
     // Fills both unit lists with the units of the selected category.
     void fillUnitLists();
@@ -38,7 +40,7 @@ private:
     Spinner* m_categorySpinner;
     Spinner* m_fromSpinner;
     Spinner* m_toSpinner;
-    NumericEdit* m_amountEdit;
-    NumericEdit* m_resultEdit;
+    NumericEdit* m_amountEdit = nullptr;
+    NumericEdit* m_resultEdit = nullptr;
     QFont m_listFont;
 };
