@@ -24,6 +24,7 @@
 #include <cstdlib>
 #include <iostream>
 #include <memory>
+#include <optional>
 
 namespace {
 
@@ -106,10 +107,10 @@ int GuiApplication::run(int& argc, char** argv)
         return 0;
 
     // A tour renders a fresh device unless a state folder is named, and never touches the user's.
-    QTemporaryDir tourState;
+    std::optional<QTemporaryDir> tourState;
     DeviceOptions device = m_options.device;
     if (m_options.tourDir && !device.stateDir)
-        device.stateDir = tourState.path().toStdString();
+        device.stateDir = tourState.emplace().path().toStdString();
 
     QtMessageBox shownBoxes;
     TourMessageBox tourBoxes;
