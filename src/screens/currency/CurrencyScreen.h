@@ -38,10 +38,10 @@ protected:
     void paint(QPainter& painter) override;
 
 private:
-    // The fields are made on the first opening, so that the program's start does not pay for them.
-    void makeFields();
     // The field that has the focus, if one has.
     std::optional<std::size_t> focusedField() const;
+    // The fields are made on the first opening, so that the program's start does not pay for them.
+    void makeFields();
     void chooseCurrency(std::size_t field, std::uint32_t position);
     void fieldFocused(std::size_t field);
     void convertFrom(std::size_t field);
