@@ -141,8 +141,7 @@ void Screen::exitProgram()
 
 Spinner* Screen::addSpinner(const QString& objectName, std::function<void(int delta)> onStep)
 {
-    auto* spinner = new Spinner(this);
-    spinner->setObjectName(objectName);
+    auto* spinner = addControl<Spinner>(objectName);
     if (onStep) {
         connect(spinner, &Spinner::deltaRequested, this, [this, onStep = std::move(onStep)](int delta) {
             if (m_running && !m_ended)

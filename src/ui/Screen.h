@@ -93,6 +93,16 @@ protected:
     void stopScreenTimer(int id);
     void stopAllTimers();
     void exitProgram();
+    // A control of this screen named `objectName` (tests find it by that name), shown with the screen even
+    // when it is made while the screen already shows (on a first opening, say).
+    template<class Control>
+    Control* addControl(const QString& objectName)
+    {
+        auto* control = new Control(this);
+        control->setObjectName(objectName);
+        control->show();
+        return control;
+    }
     // A spinner on this screen named `objectName` (tests find it by that name). While the screen runs, each
     // step made on it is reported to `onStep`, before the spinner moves.
     Spinner* addSpinner(const QString& objectName, std::function<void(int delta)> onStep = {});

@@ -81,15 +81,13 @@ CurrencyScreen::CurrencyScreen(
 void CurrencyScreen::makeFields()
 {
     for (std::size_t k = 0; k < FieldCount; ++k) {
-        auto* field = new NumericEdit(this);
-        field->setObjectName(QStringLiteral("amount%1NumericEdit").arg(k + 1));
+        auto* field = addControl<NumericEdit>(QStringLiteral("amount%1NumericEdit").arg(k + 1));
         field->setFont(m_titleFont);
         connect(field, &NumericEdit::focusChanged, this, [this, k](bool focused) {
             if (focused)
                 fieldFocused(k);
         });
         connect(field, &QLineEdit::textChanged, this, [this, k] { convertFrom(k); });
-        field->show(); // made after the screen may already be showing
         m_fields[k] = field;
     }
 }

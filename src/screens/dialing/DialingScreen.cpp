@@ -24,14 +24,6 @@ constexpr int ListTop = Band + 36;
 // The chooser's longest item, "International Dialing Codes", fits its box at this height.
 constexpr int ListFontHeight = 15;
 
-ReportList* makeList(QWidget* parent, const QString& name, std::vector<ReportList::Column> columns)
-{
-    auto* list = new ReportList(parent);
-    list->setObjectName(name);
-    list->setColumns(std::move(columns));
-    return list;
-}
-
 void fillLists(ReportList& international, ReportList& areaCodes)
 {
     const BusyCursor busy;
@@ -74,13 +66,13 @@ void DialingScreen::initialise()
 {
     // The lists are made on the first opening, so that the program's start does not pay for them.
     if (!m_international) {
-        m_international = makeList(this, QStringLiteral("internationalReportList"),
-            {{Painting::loadString(StringIds::Country), 45}, {Painting::loadString(StringIds::Code), 26},
-                {Painting::loadString(StringIds::Gmt), 21, 1}});
+        m_international = addControl<ReportList>(QStringLiteral("internationalReportList"));
+        m_international->setColumns({{Painting::loadString(StringIds::Country), 45},
+            {Painting::loadString(StringIds::Code), 26}, {Painting::loadString(StringIds::Gmt), 21, 1}});
         // The state and the code share what the city leaves, 92 % in all as above, room kept for the scroll bar.
-        m_areaCodes = makeList(this, QStringLiteral("areaCodeReportList"),
-            {{Painting::loadString(StringIds::City), 35}, {Painting::loadString(StringIds::RegionState), 40},
-                {Painting::loadString(StringIds::Code), 17}});
+        m_areaCodes = addControl<ReportList>(QStringLiteral("areaCodeReportList"));
+        m_areaCodes->setColumns({{Painting::loadString(StringIds::City), 35},
+            {Painting::loadString(StringIds::RegionState), 40}, {Painting::loadString(StringIds::Code), 17}});
         for (ReportList* list : {m_international, m_areaCodes})
             place(*list, [](QSize area) { return QRect(0, ListTop, area.width(), area.height() - ListTop); });
     }

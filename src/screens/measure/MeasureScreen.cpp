@@ -107,10 +107,8 @@ MeasureScreen::MeasureScreen(ScreenEnvironment& environment, DeviceWindow& windo
 
 void MeasureScreen::makeFields()
 {
-    m_amountEdit = new NumericEdit(this);
-    m_resultEdit = new NumericEdit(this);
-    m_amountEdit->setObjectName(QStringLiteral("amountLineEdit"));
-    m_resultEdit->setObjectName(QStringLiteral("resultLineEdit"));
+    m_amountEdit = addControl<NumericEdit>(QStringLiteral("amountLineEdit"));
+    m_resultEdit = addControl<NumericEdit>(QStringLiteral("resultLineEdit"));
     m_resultEdit->setReadOnly(true); // looks like the amount field; the program alone writes it
     place(*m_amountEdit, fieldPlace(AmountTop));
     place(*m_resultEdit, fieldPlace(ResultTop));
@@ -118,9 +116,6 @@ void MeasureScreen::makeFields()
     setTabOrder(m_amountEdit, m_toSpinner);
     setTabOrder(m_toSpinner, m_resultEdit);
     connect(m_amountEdit, &QLineEdit::textChanged, this, &MeasureScreen::convert);
-    // Made after the screen may already be showing.
-    m_amountEdit->show();
-    m_resultEdit->show();
 }
 
 void MeasureScreen::initialise()

@@ -84,7 +84,7 @@ private:
     ForecastDayTexts m_shown;
     QImage m_icon;
     Spinner* m_days;
-    // Bold 23 (title), normal 18, normal 20, bold 18, bold 20, bold 35.
+    // Normal 18, normal 20, bold 18, bold 20, bold 35.
     QFont m_labelFont, m_valueFont, m_conditionFont, m_cityFont, m_temperatureFont;
     bool m_weekdayInCard = false;
     bool m_twoColumns = false;
