@@ -111,11 +111,7 @@ private slots:
             // Field 2 is (55, 80) to (200, 105); the frame is 2 pixels wider on each side.
             QCOMPARE(t.screen.focusFrame(), QRect(QPoint(53, 78), QPoint(201, 106)));
             // The codes, in the 23-pixel title font, end in their boxes (10 to 50) before the fields and the frame.
-            const QImage shown = t.bench.render();
-            for (int y = 45; y < 140; ++y)
-                for (int x = 50; x < 53; ++x)
-                    QVERIFY2(
-                        shown.pixelColor(x, y).lightness() < 235, qPrintable(QStringLiteral("%1,%2").arg(x).arg(y)));
+            QVERIFY(!showsWhite(t.bench.render(), QRect(50, 45, 3, 95)));
             // The Back key erases the last character: 1 dollar.
             t.bench.press(Qt::Key_Escape);
             QCOMPARE(t.texts(), QStringLiteral("0.80000000|1|0.64000000"));

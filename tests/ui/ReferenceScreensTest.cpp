@@ -51,11 +51,7 @@ QImage titleBand(const QString& title)
 // Whether a white pixel of the title's "g" shows in the 3 rows under the 25-pixel band: the text is not cut there.
 bool titleTailShows(const QImage& screen)
 {
-    for (int y = 25; y < 28; ++y)
-        for (int x = 0; x < 120; ++x)
-            if (screen.pixelColor(x, y).lightness() >= 235)
-                return true;
-    return false;
+    return showsWhite(screen, QRect(0, 25, 120, 3));
 }
 
 // The screen, its chooser and its two lists.

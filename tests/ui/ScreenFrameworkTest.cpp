@@ -357,15 +357,6 @@ private slots:
         screen.place(control, [](QSize area) { return QRect(area.width() - 30, area.height() - 20, 20, 10); });
         const QFont font = Painting::makeFont(21, Painting::Bold);
         screen.addLabel(StringIds::To, font, [](QSize area) { return QPoint(5, area.height() - 40); });
-        const auto whiteIn = [](const QImage& image, QRect cell) {
-            for (int y = cell.top(); y <= cell.bottom(); ++y) {
-                for (int x = cell.left(); x <= cell.right(); ++x) {
-                    if (image.pixelColor(x, y) == Painting::White)
-                        return true;
-                }
-            }
-            return false;
-        };
         bench.visit(screen, [&] {
             for (const QSize area : {QSize(240, 268), QSize(268, 240)}) {
                 emit QGuiApplication::primaryScreen()->orientationChanged(
@@ -373,7 +364,7 @@ private slots:
                 QCOMPARE(control.geometry(), QRect(area.width() - 30, area.height() - 20, 20, 10));
                 const QImage image = bench.render();
                 QCOMPARE(image.pixelColor(area.width() - 1, TitleBand::Height - 1), fill);
-                QVERIFY(whiteIn(image, QRect(5, area.height() - 40, 20, 20)));
+                QVERIFY(showsWhite(image, QRect(5, area.height() - 40, 20, 20)));
             }
         });
     }

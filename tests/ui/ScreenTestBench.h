@@ -30,6 +30,19 @@ Widget* child(const QObject& parent, const char* name)
     return parent.findChild<Widget*>(QString::fromLatin1(name));
 }
 
+// Whether white text shows anywhere in `area` of `image`: a pixel of lightness 235 or more (its smoothed edges
+// included). The backgrounds' lightest colours stay below that.
+inline bool showsWhite(const QImage& image, const QRect& area)
+{
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+        for (int x = area.left(); x <= area.right(); ++x) {
+            if (image.pixelColor(x, y).lightness() >= 235)
+                return true;
+        }
+    }
+    return false;
+}
+
 // Everything a screen needs, fresh for each test (this header also brings what every screen test uses): a hand-driven
 // clock, a device root in a temporary folder, in-memory state stores, the city catalogue and weather favourites over
 // them, recorded messages and message boxes, and a device window.
